@@ -1,0 +1,7 @@
+#include "Actions/OrvantaAction.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaAction)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Actions/OrvantaInAppMessageAction.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaInAppMessageAction)
+
+}  // namespace orvanta

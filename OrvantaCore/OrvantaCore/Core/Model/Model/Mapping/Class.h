@@ -1,0 +1,99 @@
+#pragma once
+
+#include <atomic>
+#include <mutex>
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "Foundation/Dictionary.h"
+#include "Foundation/Object.h"
+
+namespace orvanta {
+
+class OrvantaBaseModel;
+struct Class;
+struct MappingPlan;
+
+enum class Ownership : std::uint8_t { assign, copy, strong };
+
+/// One declared property of a model class.
+struct Property {
+  std::string_view name;
+  /// The short type code: @"NSString", B, i, q, Q, f, d, @, @? or #. The class inside is declared,
+  /// not enforced: an object property keeps whatever kind of value is assigned to it by name.
+  std::string_view encoding;
+  Ownership ownership;
+  bool readOnly;
+  /// Where the value is stored in an object; nullptr for a computed property.
+  void* (*field)(OrvantaBaseModel&);
+  /// Reads or writes through accessors of the class instead of the field; may be nullptr.
+  Value (*get)(const OrvantaBaseModel&);
+  void (*set)(OrvantaBaseModel&, const Value&);
+
+  Value valueIn(const OrvantaBaseModel& object) const;
+  /// Scalars take the value's numeric reading, which throws the invalid-argument exception when
+  /// there is none.
+  void assignTo(OrvantaBaseModel& object, const Value& value) const;
+};
+
+/// Wire key path to property name.
+struct KeyEntry {
+  std::string_view keyPath;
+  std::string_view property;
+};
+/// Property name to the model class of its dictionary, or of its array's elements.
+struct ClassEntry {
+  std::string_view property;
+  const Class* model;
+};
+using KeyTable = std::span<const KeyEntry>;
+using ClassTable = std::span<const ClassEntry>;
+
+/// The class object of a model: constant data, but for what is resolved on first use.
+struct Class : ClassObject {
+  /// The class's own declarations, in their order.
+  std::span<const Property> properties;
+  KeyTable keyPathPropertySelectorMapping;
+  ClassTable keyPathClassMapping;
+  /// A new object, not initialised yet.
+  OrvantaBaseModel* (*alloc)();
+
+  constexpr Class(std::string_view className, const Class* parent,
+                  std::span<const Property> ownProperties, KeyTable ownKeys, ClassTable ownClasses,
+                  OrvantaBaseModel* (*allocator)())
+      : ClassObject(className, parent),
+        properties(ownProperties),
+        keyPathPropertySelectorMapping(ownKeys),
+        keyPathClassMapping(ownClasses),
+        alloc(allocator) {}
+
+  const Class* parent() const { return static_cast<const Class*>(superclass); }
+  /// The property of that name of the class or its nearest ancestor, or nullptr.
+  const Property* property(std::string_view wanted) const;
+
+  /// Both tables merged along the class chain: the most derived class's entries first, and an
+  /// ancestor's entry wins over a descendant's of the same key.
+  Dictionary mergedKeyTable() const;
+  Dictionary mergedClassTable() const;
+  /// Property name to type code over the whole chain; an ancestor's declaration wins. Made once,
+  /// under the class's own recursive lock; from any thread.
+  const Dictionary& propertyTypeEncodingCache() const;
+  /// The merged tables, resolved; made once under the same lock.
+  const MappingPlan& plan() const;
+
+ private:
+  struct Resolved;
+  Resolved& resolved() const;
+  mutable std::atomic<Resolved*> resolved_{nullptr};
+};
+
+/// The model class that a value holds, or nullptr.
+const Class* modelClassIn(const Value& value);
+
+/// Every model class of the library, in the order of ModelClasses.def.
+std::span<const Class* const> modelClasses();
+/// The model class of that name, or nullptr.
+const Class* modelClassNamed(std::string_view name);
+
+}  // namespace orvanta

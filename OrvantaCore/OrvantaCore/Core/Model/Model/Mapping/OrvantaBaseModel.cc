@@ -1,0 +1,370 @@
+#include "Mapping/OrvantaBaseModel.h"
+
+#include <new>
+
+#include "Foundation/Description.h"
+#include "Foundation/KeyPath.h"
+#include "Mapping/OrvantaLogger.h"
+#include "Mapping/RefusalRecorder.h"
+
+// Making and reading; OrvantaBaseModelWriting.cc has the other direction.
+
+namespace orvanta {
+
+// ---- The class object -----------------------------------------------------
+
+namespace {
+constexpr std::string_view kTableEncoding = "@\"NSDictionary\"";
+
+constexpr Property kBaseProperties[] = {
+    {"keyPathPropertyDictionary", kTableEncoding, Ownership::strong, false, nullptr,
+     [](const OrvantaBaseModel& o) -> Value { return o.keyPathPropertyDictionary(); },
+     [](OrvantaBaseModel& o, const Value& v) {
+       o.setKeyPathPropertyDictionary(v.dictionary() != nullptr ? *v.dictionary() : Dictionary());
+     }},
+    {"keyPathClassDictionary", kTableEncoding, Ownership::strong, false, nullptr,
+     [](const OrvantaBaseModel& o) -> Value { return o.keyPathClassDictionary(); },
+     [](OrvantaBaseModel& o, const Value& v) {
+       o.setKeyPathClassDictionary(v.dictionary() != nullptr ? *v.dictionary() : Dictionary());
+     }},
+};
+}  // namespace
+
+constinit const Class OrvantaBaseModel::kClass{
+    "OrvantaBaseModel",
+    nullptr,
+    kBaseProperties,
+    {},
+    {},
+    []() -> OrvantaBaseModel* { return new OrvantaBaseModel; }};
+
+const Class& classObjectOfOrvantaBaseModel();
+const Class& classObjectOfOrvantaBaseModel() { return OrvantaBaseModel::classObject(); }
+
+Ref<OrvantaBaseModel> makeModel(const Class& cls, const Dictionary* dictionary) {
+  auto model = Ref<OrvantaBaseModel>::adopt(cls.alloc());
+  return model->initWithDictionary(dictionary) ? model : nullptr;
+}
+
+Ref<OrvantaBaseModel> OrvantaBaseModel::copyWithZone() const {
+  const Dictionary dictionary = dictionaryValue();
+  return makeModel(isa(), &dictionary);
+}
+
+// ---- Tables ---------------------------------------------------------------
+
+/// What an object has of its own once a table was read or set.
+struct OrvantaBaseModel::OwnTables {
+  Dictionary keys;
+  Dictionary classes;
+  std::optional<MappingPlan> plan;  // only when a table was set
+};
+
+OrvantaBaseModel::OrvantaBaseModel() = default;
+OrvantaBaseModel::~OrvantaBaseModel() = default;
+
+const Dictionary& OrvantaBaseModel::keyPathPropertyDictionary() const {
+  if (!ownTables_) ownTables_ = std::make_unique<OwnTables>();
+  if (ownTables_->keys.empty()) ownTables_->keys = isa().mergedKeyTable();
+  return ownTables_->keys;
+}
+
+const Dictionary& OrvantaBaseModel::keyPathClassDictionary() const {
+  if (!ownTables_) ownTables_ = std::make_unique<OwnTables>();
+  if (ownTables_->classes.empty()) ownTables_->classes = isa().mergedClassTable();
+  return ownTables_->classes;
+}
+
+void OrvantaBaseModel::setKeyPathPropertyDictionary(Dictionary table) {
+  keyPathPropertyDictionary();
+  ownTables_->keys = std::move(table);
+  ownTables_->plan.emplace(isa(), keyPathPropertyDictionary(), keyPathClassDictionary());
+}
+
+void OrvantaBaseModel::setKeyPathClassDictionary(Dictionary table) {
+  keyPathClassDictionary();
+  ownTables_->classes = std::move(table);
+  ownTables_->plan.emplace(isa(), keyPathPropertyDictionary(), keyPathClassDictionary());
+}
+
+const MappingPlan& OrvantaBaseModel::mappingPlan() const {
+  return ownTables_ && ownTables_->plan ? *ownTables_->plan : isa().plan();
+}
+
+// ---- Updating -------------------------------------------------------------
+
+namespace {
+
+/// Finds the values of a plan's entries in one dictionary. The parent of a path of two names is
+/// looked up once for a run of entries that share it.
+class Lookup {
+ public:
+  explicit Lookup(const Dictionary& dictionary) : dictionary_(dictionary) {}
+
+  const Value& find(const MappingEntry& entry) {
+    if (entry.path.size() == 1) return dictionary_.valueForKey(entry.path.front());
+    if (entry.path.size() == 2) {
+      if (!entry.sharesParent) {
+        parent_ = dictionary_.valueForKey(entry.path.front()).dictionary();
+      }
+      if (parent_ != nullptr) return parent_->valueForKey(entry.path.back());
+    }
+    collected_ = valueForKeyPath(dictionary_, entry.path);
+    return collected_;
+  }
+
+ private:
+  const Dictionary& dictionary_;
+  const Dictionary* parent_ = nullptr;
+  Value collected_;
+};
+
+constexpr LogSite kUpdateFailed{"-[OrvantaBaseModel updateWithDictionary:]", "OrvantaBaseModel",
+                                81};
+
+}  // namespace
+
+bool OrvantaBaseModel::updateWithDictionary(const Dictionary* dictionary) {
+  if (dictionary == nullptr) return true;
+  const MappingEntry* current = nullptr;
+  const auto refuse = [&](std::string_view error) {
+    if (RefusalRecorder::current() != nullptr && current != nullptr) {
+      recordRefusal(*current, *dictionary);
+    }
+    if (error.data() != nullptr) {
+      logError(kUpdateFailed, [&] {
+        return formatted("*** Caught exception deserializing dictionary '%@' to class '%@' : %@",
+                         {describe(*dictionary), isa().name, error});
+      });
+    }
+    return false;
+  };
+  try {
+    Lookup lookup(*dictionary);
+    for (const MappingEntry& entry : mappingPlan().entries) {
+      current = &entry;
+      const Value& found = lookup.find(entry);
+      if (!found.isNil() && !apply(entry, found)) return refuse({});
+    }
+    return true;
+  } catch (const Exception& error) {
+    return refuse(error.name() == Exception::kUndefinedKey ? std::string_view() : error.reason());
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (const std::exception& error) {
+    return refuse(error.what());
+  }
+}
+
+bool OrvantaBaseModel::apply(const MappingEntry& entry, const Value& found) {
+  Value made;
+  const Value* value = &found;
+  if (const Dictionary* dictionary = found.dictionary()) {
+    made = component(*dictionary, entry.model);
+    value = &made;
+  } else if (const Array* array = found.array()) {
+    made = component(*array, entry.model);
+    value = &made;
+  }
+  if (entry.converter != Converter::none) {
+    if (value == &found) made = found;
+    value = &made;
+    if (!convert(made, entry.converter)) return false;
+  }
+  if (entry.property != nullptr) {
+    entry.property->assignTo(*this, *value);
+  } else {
+    setValueForKeyPath(*value, *entry.propertyName.string());
+  }
+  if (value->isNil()) RefusalRecorder::forget();  // a nested model's, which did not matter
+  return true;
+}
+
+Value OrvantaBaseModel::component(const Dictionary& dictionary, const Class* declared) {
+  static const Value kKlazz = "klazz";
+  if (declared == nullptr) {
+    if (const auto name = dictionary.valueForKey(kKlazz).string()) declared = modelClassNamed(*name);
+  }
+  if (declared == nullptr) return dictionary;
+  return makeModel(*declared, &dictionary);
+}
+
+Array OrvantaBaseModel::component(const Array& array, const Class* declared) {
+  // Nothing to convert is the common case; the array is then shared as it is.
+  const auto isContainer = [](const Value& element) {
+    return element.dictionary() != nullptr || element.array() != nullptr;
+  };
+  if (std::none_of(array.begin(), array.end(), isContainer)) return array;
+  Array converted;
+  converted.reserve(array.size());
+  for (const Value& element : array) {
+    if (const Dictionary* dictionary = element.dictionary()) {
+      converted.append(component(*dictionary, declared));
+    } else if (const Array* nested = element.array()) {
+      converted.append(component(*nested, declared));
+    } else {
+      converted.append(element);
+    }
+  }
+  return converted;
+}
+
+Value OrvantaBaseModel::valueForDictionaryComponent(const Dictionary& dictionary,
+                                                    std::string_view property) const {
+  return component(dictionary, modelClassIn(keyPathClassDictionary()[property]));
+}
+
+Array OrvantaBaseModel::valueForArrayComponent(const Array& array,
+                                               std::string_view property) const {
+  return component(array, modelClassIn(keyPathClassDictionary()[property]));
+}
+
+// ---- Converters -----------------------------------------------------------
+
+bool OrvantaBaseModel::convert(Value& value, Converter converter) {
+  switch (converter) {
+    case Converter::boolean:
+      return BOOLValidateValue(value);
+    case Converter::url:
+      return NSURLValidateValue(value);
+    case Converter::date:
+      return NSDateValidateValue(value);
+    case Converter::none:
+      break;
+  }
+  return true;
+}
+
+bool OrvantaBaseModel::validateValue(Value& value, std::string_view property,
+                                     Value* /*error*/) const {
+  const auto encoding = propertyTypeEncodingCache()[property].string();
+  return !encoding || convert(value, converterFor(*encoding));
+}
+
+bool OrvantaBaseModel::validateValueForKeyPath(Value& value, std::string_view keyPath,
+                                               Value* error) const {
+  const auto dot = keyPath.rfind('.');
+  if (dot == std::string_view::npos) return validateValue(value, keyPath, error);
+  const Value owner = valueForKeyPath(Value(this), keyPath.substr(0, dot));
+  const auto* model = owner.as<OrvantaBaseModel>();
+  return model == nullptr || model->validateValue(value, keyPath.substr(dot + 1), error);
+}
+
+bool OrvantaBaseModel::BOOLValidateValue(Value& value, Value* /*error*/) {
+  if (value.kind() != Kind::boolean) value = scalarReading<bool>(value);
+  return true;
+}
+
+bool OrvantaBaseModel::NSURLValidateValue(Value& value, Value* /*error*/) {
+  if (value.isString()) {
+    const auto url = Url::parse(value);
+    value = url ? Value(*url) : Value();
+    return true;
+  }
+  if (const Url* url = value.url()) {
+    value = url->stringValue();
+    return true;
+  }
+  return false;
+}
+
+bool OrvantaBaseModel::NSDateValidateValue(Value& value, Value* /*error*/) {
+  if (const auto number = value.number()) {
+    value = Date::fromMilliseconds(number->longLongValue());
+  } else if (const auto date = value.date()) {
+    value = date->milliseconds();
+  } else {
+    return value.isNull();
+  }
+  return true;
+}
+
+// ---- Key-value coding -----------------------------------------------------
+
+Value OrvantaBaseModel::valueForKey(std::string_view key) const {
+  if (const Property* property = isa().property(key)) return property->valueIn(*this);
+  return Object::valueForKey(key);
+}
+
+void OrvantaBaseModel::setValueForKey(const Value& value, std::string_view key) {
+  if (const Property* property = isa().property(key)) return property->assignTo(*this, value);
+  Object::setValueForKey(value, key);
+}
+
+void OrvantaBaseModel::setValueForKeyPath(const Value& value, std::string_view keyPath) {
+  const auto dot = keyPath.rfind('.');
+  if (dot == std::string_view::npos) return setValueForKey(value, keyPath);
+  const Value owner = valueForKeyPath(Value(this), keyPath.substr(0, dot));
+  if (owner.isNil()) return;
+  if (Object* object = owner.object()) {
+    return object->setValueForKey(value, keyPath.substr(dot + 1));
+  }
+  throw Exception::undefinedKey(owner.className(), keyPath.substr(dot + 1), /*writing=*/true);
+}
+
+// ---- Telling why ----------------------------------------------------------
+
+namespace {
+
+/// What stands at a path, or the first value on the way that has no keys.
+Value reachedAt(const Dictionary& dictionary, std::span<const Value> path, std::string& keyless) {
+  Value at = dictionary;
+  for (const Value& name : path) {
+    try {
+      at = valueForKeyPath(at, std::span(&name, 1));
+    } catch (const Exception&) {
+      keyless = std::string("which has no key \"").append(*name.string()).append("\"");
+      return at;
+    }
+  }
+  return at;
+}
+
+std::string_view refusalReason(const MappingEntry& entry) {
+  switch (entry.converter) {
+    case Converter::boolean:
+      return "but a boolean is read from numbers and text only";
+    case Converter::url:
+      return "but a URL is read from text only";
+    case Converter::date:
+      return "but a date is read from a number of milliseconds only";
+    case Converter::none:
+      break;
+  }
+  return entry.property == nullptr ? "for a property that the class does not have"
+                                   : "but a number is read from numbers and text only";
+}
+
+}  // namespace
+
+void OrvantaBaseModel::recordRefusal(const MappingEntry& entry,
+                                     const Dictionary& dictionary) const {
+  std::string reason;
+  const Value value = reachedAt(dictionary, entry.path, reason);
+  if (reason.empty()) reason = refusalReason(entry);
+  RefusalRecorder::current()->record(isa(), *entry.key.string(), *entry.propertyName.string(),
+                                     value.kindName(), reason);
+}
+
+Value OrvantaBaseModel::readByHand(const Dictionary& dictionary, std::string_view keyPath,
+                                   std::string_view property) const {
+  try {
+    return valueForKeyPath(dictionary, keyPath);
+  } catch (const Exception&) {
+    if (RefusalRecorder* recorder = RefusalRecorder::current()) {
+      std::string reason;
+      const Value value = reachedAt(dictionary, splitKeyPath(keyPath), reason);
+      recorder->record(isa(), keyPath, property, value.kindName(), reason);
+    }
+    throw;
+  }
+}
+
+void OrvantaBaseModel::recordRefusedModel(std::string_view keyPath,
+                                          std::string_view property) const {
+  if (RefusalRecorder* recorder = RefusalRecorder::current()) {
+    recorder->record(isa(), keyPath, property, "a dictionary", "that its model refused");
+  }
+}
+
+}  // namespace orvanta

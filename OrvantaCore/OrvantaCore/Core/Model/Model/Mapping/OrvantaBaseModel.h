@@ -1,0 +1,150 @@
+#pragma once
+
+#include <memory>
+#include <mutex>
+#include <string>
+
+#include "Foundation/AttributedString.h"
+#include "Foundation/Exception.h"
+#include "Mapping/MappingPlan.h"
+#include "Mapping/OrvantaSerializableModel.h"
+#include "Mapping/Property.h"
+
+namespace orvanta {
+
+/// Root of every data class: fills an object's properties from a JSON-shaped dictionary, and writes
+/// them back, by the tables that the class declares.
+///
+/// An object is to be filled by one thread at a time; writing it out holds a lock of its own.
+class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
+ public:
+  using Self = OrvantaBaseModel;
+  static constexpr const Class& classObject() { return kClass; }
+  const Class& isa() const override { return kClass; }
+  static KeyTable keyPathPropertySelectorMapping() { return {}; }
+  static ClassTable keyPathClassMapping() { return {}; }
+  /// Property name to type code, of the object's own class.
+  const Dictionary& propertyTypeEncodingCache() const { return isa().propertyTypeEncodingCache(); }
+
+  // ---- Making ----
+
+  OrvantaBaseModel();  // and then an initialiser, see make
+  ~OrvantaBaseModel() override;
+
+  /// initWithDictionary: without one.
+  virtual bool init() { return initWithDictionary(nullptr); }
+  /// The update, whose refusal means that there is no object. An override may let the
+  /// undefined-key exception pass; it says so.
+  bool initWithDictionary(const Dictionary* dictionary) override {
+    return updateWithDictionary(dictionary);
+  }
+  /// A new object of the same class, initialised from this one's dictionary; nil when that
+  /// refuses. Since dotted wire keys are written flat, their properties do not come along.
+  Ref<OrvantaBaseModel> copyWithZone() const;
+
+  // ---- Reading ----
+
+  /// For each entry of the merged key table, in its order: looks the key path up, makes models of
+  /// nested dictionaries, converts, and assigns. A missing key leaves its property alone.
+  ///
+  /// Answers NO for a value that a converter refuses and for an undefined key, silently; for any
+  /// other error after an error line in the log. std::bad_alloc passes.
+  bool updateWithDictionary(const Dictionary* dictionary) override;
+
+  /// A nested dictionary as a model: of the class declared for the property, else of the one that
+  /// its "klazz" names, else the dictionary as it is. Nil when the model refuses the dictionary.
+  Value valueForDictionaryComponent(const Dictionary& dictionary, std::string_view property) const;
+  /// An array with its dictionaries made models the same way, at any depth. An element that
+  /// refuses throws the invalid-argument exception.
+  Array valueForArrayComponent(const Array& array, std::string_view property) const;
+
+  /// Converts a value for a property, in either direction: booleans, URLs and dates by the type
+  /// code, anything else stays. False when the value cannot be one. `error` is never filled in.
+  bool validateValue(Value& value, std::string_view property, Value* error = nullptr) const;
+  bool validateValueForKeyPath(Value& value, std::string_view keyPath,
+                               Value* error = nullptr) const;
+  /// Text to URL (nil when it is none), URL to text; refuses the rest.
+  static bool NSURLValidateValue(Value& value, Value* error = nullptr);
+  /// Number of milliseconds since 1970 to date and back; null stays; refuses the rest.
+  static bool NSDateValidateValue(Value& value, Value* error = nullptr);
+  /// The boolean reading; throws the invalid-argument exception when there is none.
+  static bool BOOLValidateValue(Value& value, Value* error = nullptr);
+
+  Value valueForKey(std::string_view key) const override;
+  void setValueForKey(const Value& value, std::string_view key) override;
+  /// Reads all but the last step of a dotted path and assigns to what stands there, if anything.
+  void setValueForKeyPath(const Value& value, std::string_view keyPath);
+
+  /// This object's tables: wire key path to property name, and property name to class. Those of
+  /// the class until set; a table that is set to an empty one counts as not set.
+  const Dictionary& keyPathPropertyDictionary() const;
+  void setKeyPathPropertyDictionary(Dictionary table);
+  const Dictionary& keyPathClassDictionary() const;
+  void setKeyPathClassDictionary(Dictionary table);
+
+  // ---- Writing ----
+
+  Dictionary dictionaryValue() const final { return dictionaryValueWithPolicy(false); }
+  Dictionary dictionaryValueWithClassInfo() const final { return dictionaryValueWithPolicy(true); }
+  /// Holds the object's recursive lock. A wire key becomes one flat key, dots and all; unset
+  /// integers, nil and what a converter refuses are left out. "klazz" stands last.
+  Dictionary dictionaryValueWithPolicy(bool classInfo) const override;
+  /// Models inside an array, at any depth, become their dictionaries.
+  static Array JSONValidValueForArray(const Array& array, bool classInfo);
+
+  /// "Dictionary Representation :" and the dictionary.
+  std::string description() const override;
+  std::string debugDescription() const { return attributedDebugDescription().string(); }
+  AttributedString attributedDebugDescription() const;
+  /// Equal to any model with an equal dictionary, whatever its class.
+  bool isEqual(const Value& other) const override;
+  std::size_t hash() const override;
+
+ protected:
+  friend struct Reflect;
+  static const Class kClass;
+
+  /// Reads a key path of a payload outside the update's catch: the undefined-key exception passes.
+  Value readByHand(const Dictionary& dictionary, std::string_view keyPath,
+                   std::string_view property) const;
+  /// Tells a recorder that a model which this one needs refused its dictionary.
+  void recordRefusedModel(std::string_view keyPath, std::string_view property) const;
+
+ private:
+  struct OwnTables;
+
+  static Value component(const Dictionary& dictionary, const Class* declared);
+  static Array component(const Array& array, const Class* declared);
+  static bool convert(Value& value, Converter converter);
+  const MappingPlan& mappingPlan() const;
+  bool apply(const MappingEntry& entry, const Value& found);
+  void recordRefusal(const MappingEntry& entry, const Dictionary& dictionary) const;
+  Value readForWriting(const MappingEntry& entry) const;
+
+  mutable std::recursive_mutex writeLock_;
+  mutable std::unique_ptr<OwnTables> ownTables_;
+};
+
+/// Makes a model of a class that is known at run time; nil when it refuses the dictionary.
+Ref<OrvantaBaseModel> makeModel(const Class& cls, const Dictionary* dictionary);
+
+/// Makes an M and initialises it with one of its initialisers, `init` unless another is named; nil
+/// when that answers false:
+///
+///     auto push = make<OrvantaPushObject>(&OrvantaPushObject::initWithDictionary, &payload);
+template <class M>
+Ref<M> make() {
+  auto model = Ref<M>::adopt(new M);
+  return model->init() ? model : nullptr;
+}
+template <class M, class Base, class... Parameters, class... Arguments>
+Ref<M> make(bool (Base::*initialiser)(Parameters...), Arguments&&... arguments) {
+  auto model = Ref<M>::adopt(new M);
+  return ((*model).*initialiser)(std::forward<Arguments>(arguments)...) ? model : nullptr;
+}
+template <class M>
+Ref<M> make(const Dictionary& dictionary) {
+  return make<M>(&M::initWithDictionary, &dictionary);
+}
+
+}  // namespace orvanta

@@ -1,0 +1,76 @@
+#include "Foundation/Description.h"
+#include "Foundation/JSON.h"
+#include "Foundation/KeyPath.h"
+#include "Mapping/OrvantaBaseModel.h"
+
+namespace orvanta {
+
+Value OrvantaBaseModel::readForWriting(const MappingEntry& entry) const {
+  try {
+    return entry.property != nullptr ? entry.property->valueIn(*this)
+                                     : valueForKeyPath(Value(this), entry.propertyPath);
+  } catch (const Exception&) {
+    return {};  // a property that the object does not have is not written
+  }
+}
+
+Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
+  const std::lock_guard guard(writeLock_);
+  const MappingPlan& plan = mappingPlan();
+  Dictionary result;
+  result.reserve(plan.entries.size() + (classInfo ? 1 : 0));
+  for (const MappingEntry& entry : plan.entries) {
+    Value value = readForWriting(entry);
+    if (const auto* model = value.as<OrvantaBaseModel>()) {
+      value = model->dictionaryValueWithPolicy(classInfo);
+    } else if (value.array() != nullptr && !isValidJSONObject(value)) {
+      value = JSONValidValueForArray(*value.array(), classInfo);
+    } else if (isUnsetInteger(value)) {
+      continue;
+    }
+    if (value.isNil() || !convert(value, entry.converter)) continue;
+    result.set(entry.key, std::move(value));
+  }
+  if (classInfo) result.set("klazz", isa().name);
+  return result;
+}
+
+Array OrvantaBaseModel::JSONValidValueForArray(const Array& array, bool classInfo) {
+  Array result;
+  result.reserve(array.size());
+  for (const Value& element : array) {
+    if (const auto* model = element.as<OrvantaBaseModel>()) {
+      result.append(model->dictionaryValueWithPolicy(classInfo));
+    } else if (element.array() != nullptr && !isValidJSONObject(element)) {
+      result.append(JSONValidValueForArray(*element.array(), classInfo));
+    } else {
+      result.append(element);
+    }
+  }
+  return result;
+}
+
+std::string OrvantaBaseModel::description() const {
+  return "Dictionary Representation :\n" + describe(dictionaryValue());
+}
+
+AttributedString OrvantaBaseModel::attributedDebugDescription() const {
+  AttributedString text;
+  text.runs.push_back({formatted("\n%@\n", {isa().name}), TextStyle::headline, 1});
+  for (const Dictionary::Entry& entry : dictionaryValue()) {
+    text.runs.push_back({formatted("%@ : %@\n", {entry.key(), describe(entry.value)}),
+                         TextStyle::body, 0});
+  }
+  text.runs.push_back({"\n", TextStyle::none, 0});
+  return text;
+}
+
+bool OrvantaBaseModel::isEqual(const Value& other) const {
+  if (other.object() == this) return true;
+  const auto* model = dynamic_cast<const OrvantaSerializableModel*>(other.object());
+  return model != nullptr && dictionaryValue() == model->dictionaryValue();
+}
+
+std::size_t OrvantaBaseModel::hash() const { return dictionaryValue().hash(); }
+
+}  // namespace orvanta

@@ -1,0 +1,35 @@
+#include "Mapping/OrvantaJSONSerializer.h"
+
+#include "Foundation/JSON.h"
+#include "Platform/Interface/Platform.h"
+
+namespace orvanta {
+
+static std::optional<std::string> text(const Value& object, JSONStyle style) {
+  std::string text;
+  const bool isContainer = object.array() != nullptr || object.dictionary() != nullptr;
+  if (!isContainer || !writeJSON(object, text, style)) return std::nullopt;
+  return text;
+}
+
+std::optional<std::string> OrvantaJSONSerializer::dataFromDictionary(const Value& object) {
+  return text(object, {});
+}
+
+Value OrvantaJSONSerializer::dictionaryFromData(std::string_view data) {
+  Value value = parseJSON(data);
+  const bool isContainer = value.array() != nullptr || value.dictionary() != nullptr;
+  return isContainer ? value : Value();
+}
+
+std::string OrvantaJSONSerializer::jsonStringFromDict(const Value& object, bool prettyPrint) {
+  if (auto made = text(object, {.pretty = prettyPrint})) return *std::move(made);
+  if (SystemLog* log = Platform::current().systemLog()) {
+    log->write(
+        "+[OrvantaJSONSerializer jsonStringFromDict:withPrettyPrint:]: error: "
+        "The data couldn’t be written because it isn’t in the correct format.");
+  }
+  return "{}";
+}
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Notifications/OrvantaUserNotificationAction.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaUserNotificationAction)
+
+}  // namespace orvanta

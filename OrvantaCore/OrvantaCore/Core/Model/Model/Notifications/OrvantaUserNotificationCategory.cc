@@ -1,0 +1,7 @@
+#include "Notifications/OrvantaUserNotificationCategory.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaUserNotificationCategory)
+
+}  // namespace orvanta

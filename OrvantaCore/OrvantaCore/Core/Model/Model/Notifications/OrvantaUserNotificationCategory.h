@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Mapping/OrvantaBaseModel.h"
+#include "Notifications/OrvantaUserNotificationAction.h"
+
+namespace orvanta {
+
+/// A set of buttons under the identifier by which a notification asks for them.
+class OrvantaUserNotificationCategory : public OrvantaBaseModel {
+  ORVANTA_MODEL(OrvantaUserNotificationCategory, OrvantaBaseModel)
+
+  /// OrvantaUserNotificationAction in the order of display.
+  ORVANTA_PROPERTY("ia", strong, MutableArray, actions, setActions, OrvantaUserNotificationAction)
+  ORVANTA_PROPERTY("id", strong, String, identifier, setIdentifier)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Push/OrvantaPushCarouselObject.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaPushCarouselObject)
+
+}  // namespace orvanta

@@ -1,0 +1,55 @@
+#include "Push/OrvantaPushObject.h"
+
+#include "Mapping/RefusalRecorder.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaPushObject)
+
+bool OrvantaPushObject::updateWithDictionary(const Dictionary* dictionary) {
+  badge_ = static_cast<std::uint64_t>(kUnsetInteger);
+  const auto read = [&](std::string_view keyPath, std::string_view property) {
+    return dictionary != nullptr ? readByHand(*dictionary, keyPath, property) : Value();
+  };
+  alert_ = make<OrvantaPushObjectAlert>(&OrvantaPushObjectAlert::initWithValue,
+                                        read("aps.alert", "alert"));
+  action_ = make<OrvantaPushObjectAction>(&OrvantaPushObjectAction::initWithValue,
+                                          read("_ov.act", "action"));
+  if (auto* action = action_.get()) action->setDeeplinkURLAsURL();
+
+  bool updated = false;
+  if (alert_) {
+    updated = Super::updateWithDictionary(dictionary);
+  } else {
+    recordRefusedModel("aps.alert", "alert");
+  }
+  actionDictionary_ = defaultActionDictionary_;
+  return updated;
+}
+
+void OrvantaPushObject::setInteractiveActionIdentifier(Held<String> identifier) {
+  interactiveActionIdentifier_ = std::move(identifier);
+  if (!interactiveActionIdentifier_) {
+    actionDictionary_ = defaultActionDictionary_;
+    return;
+  }
+  const Array* actions = interactiveActions_.get();
+  if (actions == nullptr) return;
+  for (const Value& element : *actions) {
+    const auto* action = element.as<OrvantaUserNotificationAction>();
+    if (action != nullptr && action->identifier().get() &&
+        action->identifier().get() == interactiveActionIdentifier_.get()) {
+      actionDictionary_ = action->actionDictionary();
+      return;
+    }
+  }
+}
+
+Dictionary OrvantaPushObject::dictionaryValueWithPolicy(bool classInfo) const {
+  Dictionary result;
+  if (const auto* alert = alert_.get()) result = alert->dictionaryValueWithPolicy(classInfo);
+  result.addEntries(Super::dictionaryValueWithPolicy(classInfo));
+  return result;
+}
+
+}  // namespace orvanta

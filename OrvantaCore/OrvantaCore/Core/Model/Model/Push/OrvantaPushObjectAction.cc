@@ -1,0 +1,21 @@
+#include "Push/OrvantaPushObjectAction.h"
+
+#include "Foundation/CharacterSet.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaPushObjectAction)
+
+bool OrvantaPushObjectAction::initWithValue(const Value& value) {
+  const Dictionary* dictionary = value.dictionary();
+  return dictionary == nullptr || initWithDictionary(dictionary);
+}
+
+void OrvantaPushObjectAction::setDeeplinkURLAsURL() {
+  const auto text = deeplinkURLString_.get();
+  const auto url =
+      text ? Url::parse(percentEncoded(*text, CharacterSet::urlHostAllowed())) : std::nullopt;
+  deeplinkURL_ = url ? Held<Url>(*url) : nullptr;
+}
+
+}  // namespace orvanta

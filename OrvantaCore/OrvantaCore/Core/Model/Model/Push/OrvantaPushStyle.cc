@@ -1,0 +1,7 @@
+#include "Push/OrvantaPushStyle.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaPushStyle)
+
+}  // namespace orvanta

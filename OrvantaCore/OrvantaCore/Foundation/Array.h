@@ -1,0 +1,79 @@
+#pragma once
+
+#include <initializer_list>
+
+#include "Foundation/Value.h"
+
+namespace orvanta {
+
+class ArrayNode;
+
+/// An ordered list of values. A copy shares the elements until one side is changed.
+class Array {
+ public:
+  Array() noexcept = default;
+  Array(std::initializer_list<Value> elements);
+  Array(const Array& other) noexcept;
+  Array(Array&& other) noexcept : node_(std::exchange(other.node_, nullptr)) {}
+  ~Array();
+  Array& operator=(Array other) noexcept {
+    std::swap(node_, other.node_);
+    return *this;
+  }
+
+  std::size_t size() const noexcept;
+  bool empty() const noexcept { return size() == 0; }
+  const Value* begin() const noexcept;
+  const Value* end() const noexcept { return begin() + size(); }
+  /// The element, which must exist.
+  const Value& operator[](std::size_t index) const noexcept { return begin()[index]; }
+
+  void reserve(std::size_t capacity);
+  /// Appends a value. A nil throws the invalid-argument exception.
+  void append(Value element);
+  /// Replaces an element that exists.
+  void set(std::size_t index, Value element);
+  /// Removes that many elements (all, when there are fewer) from the front.
+  void removeFirst(std::size_t count);
+
+  friend bool operator==(const Array& a, const Array& b);
+  std::size_t hash() const;
+
+ private:
+  friend class Value;
+  friend class TreeBuilder;
+  /// Makes the elements this array's own, with room for that many.
+  void detach(std::size_t capacity);
+
+  const ArrayNode* node_ = nullptr;
+};
+
+/// The elements behind an array; they follow the header.
+class ArrayNode : public Node {
+ public:
+  static ArrayNode* create(std::size_t capacity, Arena* arena);
+  /// Destroys the elements and frees a heap node.
+  void destroy() const noexcept;
+
+  std::size_t size() const noexcept { return size_; }
+  std::size_t capacity() const noexcept { return capacity_; }
+  Value* elements() noexcept { return reinterpret_cast<Value*>(this + 1); }
+  const Value* elements() const noexcept { return reinterpret_cast<const Value*>(this + 1); }
+  void push(Value element) noexcept {
+    new (elements() + size_) Value(std::move(element));
+    ++size_;
+  }
+  void removeFirst(std::size_t count) noexcept;
+
+ private:
+  ArrayNode(std::size_t capacity, Arena* arena) noexcept : Node(arena), capacity_(capacity) {}
+  std::size_t size_ = 0;
+  std::size_t capacity_;
+};
+
+inline std::size_t Array::size() const noexcept { return node_ == nullptr ? 0 : node_->size(); }
+inline const Value* Array::begin() const noexcept {
+  return node_ == nullptr ? nullptr : node_->elements();
+}
+
+}  // namespace orvanta

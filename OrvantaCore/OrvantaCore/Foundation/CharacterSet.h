@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace orvanta {
+
+/// A set of ASCII characters.
+class CharacterSet {
+ public:
+  constexpr explicit CharacterSet(std::string_view members) { add(members); }
+
+  static constexpr CharacterSet alphanumerics() {
+    return CharacterSet("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789");
+  }
+  /// The characters that a URL's host may hold.
+  static constexpr CharacterSet urlHostAllowed() {
+    return alphanumerics().with("!$&'()*+,-.:;=[]_~");
+  }
+
+  constexpr CharacterSet with(std::string_view more) const {
+    CharacterSet sum = *this;
+    sum.add(more);
+    return sum;
+  }
+  constexpr bool contains(char character) const {
+    const auto code = static_cast<unsigned char>(character);
+    return code < 128 && (words_[code / 64] >> (code % 64) & 1U) != 0;
+  }
+
+ private:
+  constexpr void add(std::string_view members) {
+    for (const char character : members) {
+      const auto code = static_cast<unsigned char>(character);
+      words_[code / 64] |= std::uint64_t{1} << (code % 64);
+    }
+  }
+
+  std::uint64_t words_[2] = {0, 0};
+};
+
+/// Writes every byte outside the set as "%" and two upper-case hex digits.
+std::string percentEncoded(std::string_view text, const CharacterSet& allowed);
+
+}  // namespace orvanta

@@ -1,0 +1,174 @@
+#include "Foundation/Description.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "Foundation/Array.h"
+#include "Foundation/Dictionary.h"
+#include "Foundation/Number.h"
+#include "Foundation/Url.h"
+
+namespace orvanta {
+
+namespace {
+
+bool isAlphanumeric(char c) {
+  return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+/// The character at the front of valid UTF-8, which is taken off; a stray byte counts as itself.
+char32_t takeCharacter(std::string_view& text) {
+  const auto lead = static_cast<unsigned char>(text.front());
+  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
+  if (length == 1 || length > text.size()) {
+    text.remove_prefix(1);
+    return lead;
+  }
+  auto code = static_cast<char32_t>(lead & (0x7FU >> length));
+  for (std::size_t i = 1; i < length; ++i) {
+    code = code << 6U | (static_cast<unsigned char>(text[i]) & 0x3FU);
+  }
+  text.remove_prefix(length);
+  return code;
+}
+
+class Describer {
+ public:
+  std::string take() { return std::move(out_); }
+
+  void describe(const Value& value) {
+    if (const Dictionary* dictionary = value.dictionary()) {
+      describe(*dictionary);
+    } else if (const Array* array = value.array()) {
+      describe(*array);
+    } else {
+      quote(orvanta::describe(value));
+    }
+  }
+
+ private:
+  void describe(const Dictionary& dictionary) {
+    std::vector<const Dictionary::Entry*> entries;
+    entries.reserve(dictionary.size());
+    for (const Dictionary::Entry& entry : dictionary) entries.push_back(&entry);
+    std::sort(entries.begin(), entries.end(),
+              [](const auto* a, const auto* b) { return a->key() < b->key(); });
+    open('{');
+    for (const Dictionary::Entry* entry : entries) {
+      indent();
+      quote(entry->key());
+      out_ += " = ";
+      nested(entry->value);
+      out_ += ";\n";
+    }
+    close('}');
+  }
+
+  void describe(const Array& array) {
+    open('(');
+    for (const Value& element : array) {
+      indent();
+      nested(element);
+      out_ += &element + 1 == array.end() ? "\n" : ",\n";
+    }
+    close(')');
+  }
+
+  void nested(const Value& value) {
+    if (value.dictionary() != nullptr || value.array() != nullptr) indent();
+    describe(value);
+  }
+
+  void open(char bracket) {
+    out_ += bracket;
+    out_ += '\n';
+    ++level_;
+  }
+  void close(char bracket) {
+    --level_;
+    indent();
+    out_ += bracket;
+  }
+  void indent() { out_.append(4 * level_, ' '); }
+
+  /// Appends a text, in quotes unless it has letters and digits only.
+  void quote(std::string_view text) {
+    if (!text.empty() && std::all_of(text.begin(), text.end(), isAlphanumeric)) {
+      out_ += text;
+      return;
+    }
+    out_ += '"';
+    while (!text.empty()) escape(takeCharacter(text));
+    out_ += '"';
+  }
+
+  void escape(char32_t c) {
+    constexpr std::string_view kNamed = "\"\\\n\t\r";
+    if (c >= 0x10000) {
+      unit((0xD800 - (0x10000U >> 10U)) + (c >> 10U));
+      unit(0xDC00 + (c & 0x3FFU));
+    } else if (c > 0x7F) {
+      unit(c);
+    } else if (const auto named = kNamed.find(static_cast<char>(c)); named != kNamed.npos) {
+      out_ += {'\\', "\"\\ntr"[named]};
+    } else if (c < 0x20 || c == 0x7F) {
+      out_ += {'\\', digit(c >> 6U), digit(c >> 3U & 7U), digit(c & 7U)};
+    } else {
+      out_ += static_cast<char>(c);
+    }
+  }
+
+  void unit(char32_t code) {
+    out_ += "\\U";
+    for (unsigned shift = 16; shift != 0; shift -= 4) out_ += digit(code >> (shift - 4) & 15U);
+  }
+  static char digit(char32_t value) { return "0123456789abcdef"[value]; }
+
+  std::string out_;
+  std::size_t level_ = 0;
+};
+
+}  // namespace
+
+std::string describe(const Value& value) {
+  switch (value.kind()) {
+    case Kind::nil:
+      return "(null)";
+    case Kind::null:
+      return "<null>";
+    case Kind::boolean:
+    case Kind::integer:
+    case Kind::unsignedInteger:
+    case Kind::real:
+    case Kind::real32:
+      return value.number()->description();
+    case Kind::date:
+      return value.date()->description();
+    case Kind::string:
+      return std::string(*value.string());
+    case Kind::url:
+      return std::string(value.url()->absoluteString());
+    case Kind::object:
+      return value.object()->description();
+    case Kind::classObject:
+      return std::string(value.classObject()->name);
+    case Kind::array:
+    case Kind::dictionary:
+      break;
+  }
+  Describer describer;
+  describer.describe(value);
+  return describer.take();
+}
+
+std::string formatted(std::string_view format, std::initializer_list<std::string_view> arguments) {
+  std::string text;
+  for (const std::string_view argument : arguments) {
+    const auto place = format.find("%@");
+    text.append(format.substr(0, place)).append(argument);
+    format.remove_prefix(place + 2);
+  }
+  return text.append(format);
+}
+
+}  // namespace orvanta

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "Foundation/Value.h"
+
+namespace orvanta {
+
+/// What "%@" prints of a value: "(null)" for nil, "<null>", booleans 1 and 0, a text as it stands,
+/// an object's own description, and collections as old-style property lists with sorted keys:
+///
+///     {
+///         alert =     {
+///             title = "Hello!";
+///         };
+///     }
+std::string describe(const Value& value);
+
+/// Replaces each "%@" of a format, in order, by the arguments' texts.
+std::string formatted(std::string_view format, std::initializer_list<std::string_view> arguments);
+
+}  // namespace orvanta

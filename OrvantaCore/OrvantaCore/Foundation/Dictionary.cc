@@ -1,0 +1,228 @@
+#include "Foundation/Dictionary.h"
+
+#include <algorithm>
+#include <bit>
+#include <limits>
+#include <memory>
+#include <random>
+
+namespace orvanta {
+
+namespace {
+
+constinit const Value kNil;
+
+/// SipHash-1-3 under a key that differs from process to process: nobody can choose keys that
+/// collide. Nothing that is printed depends on it.
+class KeyedHash {
+ public:
+  static std::uint64_t of(std::string_view text) noexcept {
+    static const KeyedHash instance;
+    return instance.hash(text);
+  }
+
+ private:
+  KeyedHash() noexcept {
+    try {
+      std::random_device device;
+      for (std::uint64_t& word : key_) word = std::uint64_t{device()} << 32 | device();
+    } catch (const std::exception&) {
+      key_[0] = std::bit_cast<std::uint64_t>(this);  // at least the address is not known outside
+    }
+  }
+
+  static void round(std::uint64_t (&v)[4]) noexcept {
+    v[0] += v[1], v[1] = std::rotl(v[1], 13), v[1] ^= v[0], v[0] = std::rotl(v[0], 32);
+    v[2] += v[3], v[3] = std::rotl(v[3], 16), v[3] ^= v[2];
+    v[0] += v[3], v[3] = std::rotl(v[3], 21), v[3] ^= v[0];
+    v[2] += v[1], v[1] = std::rotl(v[1], 17), v[1] ^= v[2], v[2] = std::rotl(v[2], 32);
+  }
+
+  std::uint64_t hash(std::string_view text) const noexcept {
+    std::uint64_t v[4] = {key_[0] ^ 0x736f6d6570736575U, key_[1] ^ 0x646f72616e646f6dU,
+                          key_[0] ^ 0x6c7967656e657261U, key_[1] ^ 0x7465646279746573U};
+    const char* at = text.data();
+    std::size_t left = text.size();
+    for (; left >= 8; at += 8, left -= 8) {
+      std::uint64_t word;
+      std::memcpy(&word, at, 8);
+      v[3] ^= word;
+      round(v);
+      v[0] ^= word;
+    }
+    std::uint64_t last = static_cast<std::uint64_t>(text.size()) << 56;
+    for (std::size_t i = 0; i < left; ++i) {
+      last |= std::uint64_t{static_cast<unsigned char>(at[i])} << (8 * i);
+    }
+    v[3] ^= last;
+    round(v);
+    v[0] ^= last;
+    v[2] ^= 0xFF;
+    for (int i = 0; i < 3; ++i) round(v);
+    return v[0] ^ v[1] ^ v[2] ^ v[3];
+  }
+
+  std::uint64_t key_[2] = {0, 0};
+};
+
+}  // namespace
+
+Dictionary::Dictionary(std::initializer_list<std::pair<std::string_view, Value>> entries) {
+  reserve(entries.size());
+  for (const auto& [key, value] : entries) set(key, value);
+}
+
+Dictionary::Dictionary(const Dictionary& other) noexcept : node_(other.node_) {
+  if (node_ != nullptr) node_->retain();
+}
+
+Dictionary::~Dictionary() {
+  if (node_ != nullptr && node_->release()) node_->destroy();
+}
+
+const Value& Dictionary::operator[](std::string_view key) const noexcept {
+  if (node_ == nullptr) return kNil;
+  if (key.size() > Value::kInlineCapacity) {
+    if (size() >= DictionaryNode::kIndexedSize) return valueForKey(key);
+    for (const Entry& entry : *this) {
+      if (entry.key() == key) return entry.value;
+    }
+    return kNil;
+  }
+  return valueForKey(Value::inlineString(key));
+}
+
+const Value& Dictionary::valueForKey(const Value& key) const noexcept {
+  const Entry* entry = node_ == nullptr ? nullptr : node_->find(key);
+  return entry == nullptr ? kNil : entry->value;
+}
+
+void Dictionary::detach(std::size_t capacity) {
+  if (node_ != nullptr && node_->isUnshared() && node_->capacity() >= capacity) return;
+  DictionaryNode* own = DictionaryNode::create(std::max(capacity, size()), nullptr);
+  for (const Entry& entry : *this) own->push(entry.keyValue, entry.value);
+  *this = Dictionary();
+  node_ = own;
+}
+
+void Dictionary::reserve(std::size_t capacity) {
+  if (capacity > size()) detach(capacity);
+}
+
+void Dictionary::set(const Value& key, Value value) {
+  if (value.isNil()) return remove(*key.string());
+  const bool full = node_ == nullptr || size() == node_->capacity();
+  if (node_ != nullptr && node_->find(key) != nullptr) {
+    detach(size());
+    const_cast<DictionaryNode*>(node_)->find(key)->value = std::move(value);
+    return;
+  }
+  detach(full ? std::max<std::size_t>(4, 2 * size()) : size() + 1);
+  const_cast<DictionaryNode*>(node_)->push(key, std::move(value));
+}
+
+void Dictionary::remove(std::string_view key) {
+  if (!contains(key)) return;
+  detach(size());
+  auto* node = const_cast<DictionaryNode*>(node_);
+  node->erase(node->find(Value(key)));
+}
+
+void Dictionary::addEntries(const Dictionary& other) {
+  reserve(size() + other.size());
+  for (const Entry& entry : other) set(entry.keyValue, entry.value);
+}
+
+bool operator==(const Dictionary& a, const Dictionary& b) {
+  if (a.node_ == b.node_) return true;
+  return a.size() == b.size() &&
+         std::all_of(a.begin(), a.end(), [&b](const Dictionary::Entry& entry) {
+           return b.valueForKey(entry.keyValue) == entry.value;
+         });
+}
+
+std::size_t Dictionary::hash() const {
+  std::size_t sum = size();  // entries in any order have the same sum
+  for (const Entry& entry : *this) sum += entry.keyValue.hash() * 31 ^ entry.value.hash();
+  return sum;
+}
+
+// ---- Nodes ----------------------------------------------------------------
+
+DictionaryNode* DictionaryNode::create(std::size_t capacity, Arena* arena) {
+  if (capacity >= std::numeric_limits<std::uint32_t>::max()) throw std::bad_alloc();
+  const std::size_t bytes = sizeof(DictionaryNode) + capacity * sizeof(Entry);
+  void* memory = arena != nullptr ? arena->allocate(bytes) : ::operator new(bytes);
+  return new (memory) DictionaryNode(capacity, arena);
+}
+
+void DictionaryNode::destroy() const noexcept {
+  auto* self = const_cast<DictionaryNode*>(this);
+  std::destroy_n(self->entries(), size_);
+  delete[] index_.data();
+  ::operator delete(self);
+}
+
+std::uint64_t DictionaryNode::keyHash(const Value& key) noexcept {
+  return KeyedHash::of(key.text());
+}
+
+const DictionaryNode::Entry* DictionaryNode::find(const Value& key) const noexcept {
+  const Entry* first = entries();
+  if (!index_.empty()) {
+    const std::size_t mask = index_.size() - 1;
+    for (std::size_t slot = keyHash(key) & mask;; slot = (slot + 1) & mask) {
+      const std::uint32_t position = index_[slot];
+      if (position == 0) return nullptr;
+      const Entry& entry = first[position - 1];
+      if (entry.keyValue.text() == key.text()) return &entry;
+    }
+  }
+  if (key.isShared()) {
+    for (const Entry* entry = first; entry != first + size_; ++entry) {
+      if (entry->keyValue.isShared() && entry->keyValue.text() == key.text()) return entry;
+    }
+    return nullptr;
+  }
+  for (const Entry* entry = first; entry != first + size_; ++entry) {
+    if (entry->keyValue.hasSameBits(key)) return entry;
+  }
+  return nullptr;
+}
+
+void DictionaryNode::push(Value key, Value value) {
+  new (entries() + size_) Entry{std::move(key), std::move(value)};
+  ++size_;
+  if (!index_.empty()) {
+    enterInIndex(size_);
+  } else if (size_ >= kIndexedSize) {
+    makeIndex();
+  }
+}
+
+void DictionaryNode::makeIndex() {
+  if (index_.empty()) {
+    const std::size_t slots = std::bit_ceil(2 * capacity_);
+    void* memory = arena() != nullptr ? arena()->allocate(slots * sizeof(std::uint32_t))
+                                      : new std::uint32_t[slots];
+    index_ = {static_cast<std::uint32_t*>(memory), slots};
+  }
+  std::fill(index_.begin(), index_.end(), 0);
+  for (std::size_t position = 1; position <= size_; ++position) enterInIndex(position);
+}
+
+void DictionaryNode::enterInIndex(std::size_t position) noexcept {
+  const std::size_t mask = index_.size() - 1;
+  std::size_t slot = keyHash(entries()[position - 1].keyValue) & mask;
+  while (index_[slot] != 0) slot = (slot + 1) & mask;
+  index_[slot] = static_cast<std::uint32_t>(position);
+}
+
+void DictionaryNode::erase(Entry* entry) noexcept {
+  std::move(entry + 1, entries() + size_, entry);
+  --size_;
+  std::destroy_at(entries() + size_);
+  if (!index_.empty()) makeIndex();
+}
+
+}  // namespace orvanta

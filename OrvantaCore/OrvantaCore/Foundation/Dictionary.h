@@ -1,0 +1,105 @@
+#pragma once
+
+#include <initializer_list>
+#include <span>
+
+#include "Foundation/Value.h"
+
+namespace orvanta {
+
+class DictionaryNode;
+
+/// A map from text to values that keeps the order of insertion; replacing a key's value keeps its
+/// place. A copy shares the entries until one side is changed. Looking a key up takes constant
+/// time however the keys were chosen.
+class Dictionary {
+ public:
+  struct Entry {
+    Value keyValue;  // always a string
+    Value value;     // never nil
+    std::string_view key() const noexcept { return *keyValue.string(); }
+  };
+
+  Dictionary() noexcept = default;
+  Dictionary(std::initializer_list<std::pair<std::string_view, Value>> entries);
+  Dictionary(const Dictionary& other) noexcept;
+  Dictionary(Dictionary&& other) noexcept : node_(std::exchange(other.node_, nullptr)) {}
+  ~Dictionary();
+  Dictionary& operator=(Dictionary other) noexcept {
+    std::swap(node_, other.node_);
+    return *this;
+  }
+
+  std::size_t size() const noexcept;
+  bool empty() const noexcept { return size() == 0; }
+  const Entry* begin() const noexcept;
+  const Entry* end() const noexcept { return begin() + size(); }
+
+  /// The value of a key, nil when there is none; the reference lives as long as the dictionary
+  /// stays as it is.
+  const Value& operator[](std::string_view key) const noexcept;
+  /// The same for a key that is at hand as a string value; faster.
+  const Value& valueForKey(const Value& key) const noexcept;
+  bool contains(std::string_view key) const noexcept { return !(*this)[key].isNil(); }
+
+  void reserve(std::size_t capacity);
+  /// Stores a value; a nil removes the key.
+  void set(const Value& key, Value value);
+  void remove(std::string_view key);
+  /// Stores every entry of the other dictionary over this one's.
+  void addEntries(const Dictionary& other);
+
+  /// Same keys with equal values, in whatever order.
+  friend bool operator==(const Dictionary& a, const Dictionary& b);
+  std::size_t hash() const;
+
+ private:
+  friend class Value;
+  friend class TreeBuilder;
+  void detach(std::size_t capacity);
+
+  const DictionaryNode* node_ = nullptr;
+};
+
+/// The entries behind a dictionary; they follow the header. From kIndexedSize entries on a hash
+/// index with a key of its own per process finds them.
+class DictionaryNode : public Node {
+ public:
+  using Entry = Dictionary::Entry;
+  static constexpr std::size_t kIndexedSize = 32;
+
+  static DictionaryNode* create(std::size_t capacity, Arena* arena);
+  void destroy() const noexcept;
+
+  std::size_t size() const noexcept { return size_; }
+  std::size_t capacity() const noexcept { return capacity_; }
+  Entry* entries() noexcept { return reinterpret_cast<Entry*>(this + 1); }
+  const Entry* entries() const noexcept { return reinterpret_cast<const Entry*>(this + 1); }
+  const Entry* find(const Value& key) const noexcept;
+  Entry* find(const Value& key) noexcept {
+    return const_cast<Entry*>(static_cast<const DictionaryNode*>(this)->find(key));
+  }
+  /// Appends an entry whose key is known to be new.
+  void push(Value key, Value value);
+  void erase(Entry* entry) noexcept;
+
+ private:
+  DictionaryNode(std::size_t capacity, Arena* arena) noexcept : Node(arena), capacity_(capacity) {}
+  void makeIndex();
+  void enterInIndex(std::size_t position) noexcept;
+  static std::uint64_t keyHash(const Value& key) noexcept;
+
+  std::size_t size_ = 0;
+  std::size_t capacity_;
+  std::span<std::uint32_t> index_;  // position + 1, 0 = free; a power of two of at least twice
+                                    // the capacity; from the arena or the heap like the node
+};
+
+inline std::size_t Dictionary::size() const noexcept {
+  return node_ == nullptr ? 0 : node_->size();
+}
+inline const Dictionary::Entry* Dictionary::begin() const noexcept {
+  return node_ == nullptr ? nullptr : node_->entries();
+}
+
+}  // namespace orvanta

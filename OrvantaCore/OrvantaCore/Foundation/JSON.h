@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Foundation/JSONReader.h"
+#include "Foundation/Value.h"
+
+namespace orvanta {
+
+/// Builds the value of a JSON text: dictionaries keep the text's order, and of a key that stands
+/// twice the last value wins at the first one's place. Nil when the text is no JSON; `error`, when
+/// given, then tells why. Everything is carved from one arena that any part of the result keeps.
+Value parseJSON(std::string_view text, JSONError* error = nullptr);
+
+/// A key that its dictionary has had before.
+struct DuplicateKey {
+  std::string key;
+  std::size_t firstOffset;
+  std::size_t offset;
+};
+/// The keys that stand twice in the same dictionary of a text, up to its end or first error.
+std::vector<DuplicateKey> findDuplicateKeys(std::string_view text);
+
+struct JSONStyle {
+  /// Two spaces a level, one entry a line, " : " behind a key.
+  bool pretty = false;
+  /// "/" is written "\/".
+  bool escapeSlashes = true;
+};
+
+/// Appends the text of a value: only null, numbers, texts, arrays and dictionaries, finite numbers,
+/// at most 512 nested containers. Numbers get the shortest text that reads back as the same number;
+/// a float is widened first. False, with part of the text appended, for anything else.
+bool writeJSON(const Value& value, std::string& out, JSONStyle style = {});
+
+/// Whether a text can be made of the value: an array or a dictionary that writeJSON takes.
+bool isValidJSONObject(const Value& value);
+
+}  // namespace orvanta

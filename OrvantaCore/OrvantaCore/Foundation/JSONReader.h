@@ -1,0 +1,394 @@
+#pragma once
+
+#include <bit>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <string>
+#include <string_view>
+
+#include "Foundation/Number.h"
+
+namespace orvanta {
+
+/// Containers nested deeper than this are refused, in reading and in writing.
+inline constexpr std::size_t kJSONDepthLimit = 512;
+
+/// Line and column of a byte of a text, both from 1; columns count characters, not bytes.
+struct TextPosition {
+  std::size_t line = 1;
+  std::size_t column = 1;
+  static TextPosition of(std::size_t offset, std::string_view text);
+};
+
+/// Why and where (offset in bytes) a text is no JSON.
+struct JSONError {
+  std::string_view reason;
+  std::size_t offset = 0;
+};
+
+/// Reads JSON text, strictly by RFC 8259 (a byte-order mark is accepted), and tells a client what
+/// it finds. The client is any class with
+///
+///     void beginDictionary(offset); void key(text, offset); void endDictionary(offset);
+///     void beginArray(offset);      void endArray(offset);
+///     void string(text, offset);    void boolean(flag, offset);  void null(offset);
+///     void integer(int64, offset);  void unsignedInteger(uint64, offset);  void real(double, offset);
+///
+/// where an offset is the token's first byte (TextPosition::of makes a line and a column of it),
+/// and a text is valid UTF-8 that lives until the call returns. Integers beyond the signed 64-bit
+/// range come as unsigned ones, beyond that as doubles; "-0" is a double. Every key is reported,
+/// also one that its dictionary has had before. Nothing recurses; depth is limited.
+template <class Client>
+class JSONReader {
+ public:
+  JSONReader(std::string_view text, Client& client)
+      : client_(client), start_(text.data()), at_(text.data()), end_(text.data() + text.size()) {}
+
+  /// Reads the whole text. False when it is not JSON; then error() tells why, and the client has
+  /// been told what stood before.
+  bool read();
+  const JSONError& error() const { return error_; }
+
+ private:
+  bool fail(std::string_view reason, const char* where) {
+    error_ = {reason, static_cast<std::size_t>(where - start_)};
+    return false;
+  }
+  std::size_t offset(const char* where) const { return static_cast<std::size_t>(where - start_); }
+  void skipSpace() {
+    while (at_ != end_ && (*at_ == ' ' || *at_ == '\n' || *at_ == '\r' || *at_ == '\t')) ++at_;
+  }
+  bool atEnd() const { return at_ == end_; }
+
+  /// Reads a scalar or an empty container, or opens a container that has something in it.
+  bool readValue(bool& opened);
+  bool closeContainer();
+  bool readKey();
+  bool readScalar();
+  bool readWord(std::string_view word);
+  bool readNumber();
+  bool readReal(const char* first);
+  /// Reads a string whose quote stands at at_; its text is slice_ afterwards.
+  bool readString();
+  bool readEscape();
+  bool readHex(std::uint32_t& unit);
+  /// Skips characters that stand for themselves, checking UTF-8.
+  bool skipPlain();
+  bool skipMultibyte();
+  void appendUTF8(std::uint32_t code);
+
+  Client& client_;
+  const char* start_;
+  const char* at_;
+  const char* end_;
+  JSONError error_;
+  std::string_view slice_;
+  std::string unescaped_;
+  std::size_t depth_ = 0;
+  bool isDictionary_[kJSONDepthLimit] = {};
+};
+
+template <class Client>
+bool JSONReader<Client>::read() {
+  if (std::string_view(at_, static_cast<std::size_t>(end_ - at_)).starts_with("\xEF\xBB\xBF")) {
+    at_ += 3;
+  }
+  skipSpace();
+  for (bool keyFirst = false;;) {
+    if (keyFirst && !readKey()) return false;
+    bool opened = false;
+    if (!readValue(opened)) return false;
+    if (opened) {
+      keyFirst = isDictionary_[depth_ - 1];
+      continue;
+    }
+    // A value has ended; containers may end with it.
+    for (;;) {
+      skipSpace();
+      if (depth_ == 0) return atEnd() || fail("text after the value", at_);
+      if (atEnd()) return fail("the text ends inside a container", at_);
+      if (*at_ == ',') break;
+      if (!closeContainer()) return false;
+    }
+    ++at_;
+    skipSpace();
+    keyFirst = isDictionary_[depth_ - 1];
+  }
+}
+
+template <class Client>
+bool JSONReader<Client>::readValue(bool& opened) {
+  if (atEnd()) return fail("the text ends where a value should stand", at_);
+  const char first = *at_;
+  if (first != '{' && first != '[') return readScalar();
+  if (depth_ == kJSONDepthLimit) return fail("more than 512 nested containers", at_);
+  const bool dictionary = first == '{';
+  dictionary ? client_.beginDictionary(offset(at_)) : client_.beginArray(offset(at_));
+  isDictionary_[depth_++] = dictionary;
+  ++at_;
+  skipSpace();
+  opened = atEnd() || *at_ != (dictionary ? '}' : ']');
+  return opened || closeContainer();
+}
+
+template <class Client>
+bool JSONReader<Client>::closeContainer() {
+  const bool dictionary = isDictionary_[depth_ - 1];
+  if (*at_ != (dictionary ? '}' : ']')) {
+    return fail(dictionary ? "expected ',' or '}'" : "expected ',' or ']'", at_);
+  }
+  dictionary ? client_.endDictionary(offset(at_)) : client_.endArray(offset(at_));
+  ++at_;
+  --depth_;
+  return true;
+}
+
+template <class Client>
+bool JSONReader<Client>::readKey() {
+  if (atEnd() || *at_ != '"') return fail("expected a key in quotes", at_);
+  const char* first = at_;
+  if (!readString()) return false;
+  client_.key(slice_, offset(first));
+  skipSpace();
+  if (atEnd() || *at_ != ':') return fail("expected ':' after a key", at_);
+  ++at_;
+  skipSpace();
+  return true;
+}
+
+template <class Client>
+bool JSONReader<Client>::readScalar() {
+  const char* first = at_;
+  switch (*first) {
+    case '"':
+      if (!readString()) return false;
+      client_.string(slice_, offset(first));
+      return true;
+    case 't':
+      if (!readWord("true")) return false;
+      client_.boolean(true, offset(first));
+      return true;
+    case 'f':
+      if (!readWord("false")) return false;
+      client_.boolean(false, offset(first));
+      return true;
+    case 'n':
+      if (!readWord("null")) return false;
+      client_.null(offset(first));
+      return true;
+    default:
+      return readNumber();
+  }
+}
+
+template <class Client>
+bool JSONReader<Client>::readWord(std::string_view word) {
+  if (!std::string_view(at_, static_cast<std::size_t>(end_ - at_)).starts_with(word)) {
+    return fail("expected a value", at_);
+  }
+  at_ += word.size();
+  return true;
+}
+
+template <class Client>
+bool JSONReader<Client>::readNumber() {
+  const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+  const char* first = at_;
+  const bool negative = *at_ == '-';
+  if (negative) ++at_;
+  if (atEnd() || !isDigit(*at_)) return fail(negative ? "expected a digit" : "expected a value", at_);
+  const char* digits = at_;
+  std::uint64_t magnitude = 0;
+  bool fits = true;
+  for (; !atEnd() && isDigit(*at_); ++at_) {
+    const auto digit = static_cast<std::uint64_t>(*at_ - '0');
+    if (at_ - digits >= 19 && magnitude > (std::numeric_limits<std::uint64_t>::max() - digit) / 10) {
+      fits = false;
+    }
+    magnitude = magnitude * 10 + digit;
+  }
+  if (*digits == '0' && at_ - digits > 1) return fail("a number with a leading zero", first);
+  bool fraction = false;
+  if (!atEnd() && *at_ == '.') {
+    fraction = true;
+    ++at_;
+    if (atEnd() || !isDigit(*at_)) return fail("expected a digit", at_);
+    while (!atEnd() && isDigit(*at_)) ++at_;
+  }
+  if (!atEnd() && (*at_ == 'e' || *at_ == 'E')) {
+    fraction = true;
+    ++at_;
+    if (!atEnd() && (*at_ == '+' || *at_ == '-')) ++at_;
+    if (atEnd() || !isDigit(*at_)) return fail("expected a digit", at_);
+    while (!atEnd() && isDigit(*at_)) ++at_;
+  }
+  constexpr std::uint64_t kSignedLimit = std::uint64_t{1} << 63U;
+  if (fraction || !fits || (negative && (magnitude > kSignedLimit || magnitude == 0))) {
+    return readReal(first);
+  }
+  if (negative || magnitude < kSignedLimit) {
+    client_.integer(static_cast<std::int64_t>(negative ? 0 - magnitude : magnitude), offset(first));
+  } else {
+    client_.unsignedInteger(magnitude, offset(first));
+  }
+  return true;
+}
+
+template <class Client>
+bool JSONReader<Client>::readReal(const char* first) {
+  double value = 0.0;
+  const auto result = std::from_chars(first, at_, value);
+  if (result.ec == std::errc::result_out_of_range) {
+    value = realReading({first, static_cast<std::size_t>(at_ - first)});  // too small is 0
+    if (std::isinf(value)) return fail("a number beyond the range of a double", first);
+  }
+  client_.real(value, offset(first));
+  return true;
+}
+
+template <class Client>
+bool JSONReader<Client>::readString() {
+  const char* quote = at_++;
+  const char* plain = at_;
+  if (!skipPlain()) return false;
+  if (!atEnd() && *at_ == '"') {
+    slice_ = {plain, static_cast<std::size_t>(at_ - plain)};
+    ++at_;
+    return true;
+  }
+  unescaped_.assign(plain, at_);
+  while (!atEnd() && *at_ == '\\') {
+    if (!readEscape()) return false;
+    plain = at_;
+    if (!skipPlain()) return false;
+    unescaped_.append(plain, at_);
+  }
+  if (atEnd()) return fail("a string without its closing quote", quote);
+  slice_ = unescaped_;
+  ++at_;
+  return true;
+}
+
+template <class Client>
+bool JSONReader<Client>::skipPlain() {
+  constexpr std::uint64_t kOnes = 0x0101010101010101U;
+  constexpr std::uint64_t kHighs = 0x8080808080808080U;
+  for (;;) {
+    // Eight bytes at a time: find the first that is below a space, a quote, a backslash or above
+    // ASCII. A borrow may mark bytes behind the first marked one, never before it.
+    while (end_ - at_ >= 8) {
+      std::uint64_t word;
+      std::memcpy(&word, at_, 8);
+      const std::uint64_t quote = word ^ (kOnes * '"');
+      const std::uint64_t backslash = word ^ (kOnes * '\\');
+      const std::uint64_t marked =
+          ((((word - kOnes * ' ') | (quote - kOnes) | (backslash - kOnes)) & ~word) | word) & kHighs;
+      if (marked == 0) {
+        at_ += 8;
+        continue;
+      }
+      at_ += std::countr_zero(marked) / 8;
+      break;
+    }
+    if (atEnd()) return true;
+    const auto byte = static_cast<unsigned char>(*at_);
+    if (byte == '"' || byte == '\\') return true;
+    if (byte < 0x20) return fail("a control character in a string", at_);
+    if (byte < 0x80) {
+      ++at_;
+    } else if (!skipMultibyte()) {
+      return false;
+    }
+  }
+}
+
+template <class Client>
+bool JSONReader<Client>::skipMultibyte() {
+  const auto lead = static_cast<unsigned char>(*at_);
+  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+  // The second byte's bounds exclude overlong forms, surrogates and what lies beyond U+10FFFF.
+  const unsigned char lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+  const unsigned char highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+  bool valid = lead >= 0xC2 && lead <= 0xF4 && static_cast<std::size_t>(end_ - at_) >= length;
+  for (std::size_t i = 1; valid && i < length; ++i) {
+    const auto byte = static_cast<unsigned char>(at_[i]);
+    valid = byte >= (i == 1 ? lowest : 0x80) && byte <= (i == 1 ? highest : 0xBF);
+  }
+  if (!valid) return fail("text that is not UTF-8", at_);
+  at_ += length;
+  return true;
+}
+
+template <class Client>
+bool JSONReader<Client>::readEscape() {
+  const char* backslash = at_++;
+  if (atEnd()) return fail("the text ends inside an escape", backslash);
+  const char kind = *at_++;
+  switch (kind) {
+    case '"':
+    case '\\':
+    case '/':
+      unescaped_ += kind;
+      return true;
+    case 'b':
+      unescaped_ += '\b';
+      return true;
+    case 'f':
+      unescaped_ += '\f';
+      return true;
+    case 'n':
+      unescaped_ += '\n';
+      return true;
+    case 'r':
+      unescaped_ += '\r';
+      return true;
+    case 't':
+      unescaped_ += '\t';
+      return true;
+    case 'u':
+      break;
+    default:
+      return fail("an unknown escape", backslash);
+  }
+  std::uint32_t code = 0;
+  if (!readHex(code)) return fail("expected four hex digits after \\u", backslash);
+  if (code >= 0xD800 && code <= 0xDFFF) {
+    std::uint32_t low = 0;
+    const bool paired = code < 0xDC00 && end_ - at_ >= 2 && at_[0] == '\\' && at_[1] == 'u' &&
+                        (at_ += 2, readHex(low)) && low >= 0xDC00 && low <= 0xDFFF;
+    if (!paired) return fail("half of a surrogate pair", backslash);
+    code = 0x10000 + ((code - 0xD800) << 10U) + (low - 0xDC00);
+  }
+  appendUTF8(code);
+  return true;
+}
+
+template <class Client>
+bool JSONReader<Client>::readHex(std::uint32_t& unit) {
+  if (end_ - at_ < 4) return false;
+  const auto result = std::from_chars(at_, at_ + 4, unit, 16);
+  if (result.ptr != at_ + 4) return false;
+  at_ += 4;
+  return true;
+}
+
+template <class Client>
+void JSONReader<Client>::appendUTF8(std::uint32_t code) {
+  const auto byte = [this](std::uint32_t bits) { unescaped_ += static_cast<char>(bits); };
+  if (code < 0x80) {
+    byte(code);
+  } else if (code < 0x800) {
+    byte(0xC0U | code >> 6U), byte(0x80U | (code & 0x3FU));
+  } else if (code < 0x10000) {
+    byte(0xE0U | code >> 12U), byte(0x80U | (code >> 6U & 0x3FU)), byte(0x80U | (code & 0x3FU));
+  } else {
+    byte(0xF0U | code >> 18U), byte(0x80U | (code >> 12U & 0x3FU));
+    byte(0x80U | (code >> 6U & 0x3FU)), byte(0x80U | (code & 0x3FU));
+  }
+}
+
+}  // namespace orvanta

@@ -1,0 +1,58 @@
+#include "Foundation/KeyPath.h"
+
+#include "Foundation/Array.h"
+#include "Foundation/Dictionary.h"
+#include "Foundation/Exception.h"
+
+namespace orvanta {
+
+std::vector<Value> splitKeyPath(std::string_view path) {
+  std::vector<Value> names;
+  for (;;) {
+    const auto dot = path.find('.');
+    names.emplace_back(path.substr(0, dot));
+    if (dot == std::string_view::npos) return names;
+    path.remove_prefix(dot + 1);
+  }
+}
+
+Value valueForKeyPath(const Value& receiver, std::span<const Value> path) {
+  if (path.empty() || receiver.isNil()) return receiver;
+  if (const Dictionary* dictionary = receiver.dictionary()) {
+    return valueForKeyPath(*dictionary, path);
+  }
+  if (const Array* array = receiver.array()) {
+    Array results;
+    results.reserve(array->size());
+    for (const Value& element : *array) {
+      Value result = valueForKeyPath(element, path);
+      results.append(result.isNil() ? Value::null() : std::move(result));
+    }
+    return results;
+  }
+  const std::string_view key = *path.front().string();
+  if (const Object* object = receiver.object()) {
+    return valueForKeyPath(object->valueForKey(key), path.subspan(1));
+  }
+  throw Exception::undefinedKey(receiver.className(), key, /*writing=*/false);
+}
+
+Value valueForKeyPath(const Dictionary& receiver, std::span<const Value> path) {
+  // The references stay good: the dictionary outlives the walk and nothing changes it.
+  const Value* found = &receiver.valueForKey(path.front());
+  for (path = path.subspan(1); !path.empty() && found->dictionary() != nullptr;
+       path = path.subspan(1)) {
+    found = &found->dictionary()->valueForKey(path.front());
+  }
+  return path.empty() ? *found : valueForKeyPath(*found, path);
+}
+
+Value valueForKeyPath(const Value& receiver, std::string_view path) {
+  return valueForKeyPath(receiver, splitKeyPath(path));
+}
+
+Value valueForKeyPath(const Dictionary& receiver, std::string_view path) {
+  return valueForKeyPath(receiver, splitKeyPath(path));
+}
+
+}  // namespace orvanta
