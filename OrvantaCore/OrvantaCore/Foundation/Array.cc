@@ -7,7 +7,7 @@
 
 namespace orvanta {
 
-Array::Array(std::initializer_list<Value> elements) {
+Array::Array(std::initializer_list<Value> elements) : Array() {
   reserve(elements.size());
   for (const Value& element : elements) append(element);
 }

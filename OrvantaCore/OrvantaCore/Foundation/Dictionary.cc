@@ -67,7 +67,8 @@ class KeyedHash {
 
 }  // namespace
 
-Dictionary::Dictionary(std::initializer_list<std::pair<std::string_view, Value>> entries) {
+Dictionary::Dictionary(std::initializer_list<std::pair<std::string_view, Value>> entries)
+    : Dictionary() {
   reserve(entries.size());
   for (const auto& [key, value] : entries) set(key, value);
 }
@@ -111,26 +112,32 @@ void Dictionary::reserve(std::size_t capacity) {
 
 void Dictionary::set(const Value& key, Value value) {
   if (value.isNil()) return remove(*key.string());
-  const bool full = node_ == nullptr || size() == node_->capacity();
-  if (node_ != nullptr && node_->find(key) != nullptr) {
+  const Entry* found = node_ == nullptr ? nullptr : node_->find(key);
+  if (found != nullptr) {
+    const auto position = found - begin();
     detach(size());
-    const_cast<DictionaryNode*>(node_)->find(key)->value = std::move(value);
+    const_cast<DictionaryNode*>(node_)->entries()[position].value = std::move(value);
     return;
   }
+  Value ownKey = key;  // which may lie in the entries that detaching lets go of
+  const bool full = node_ == nullptr || size() == node_->capacity();
   detach(full ? std::max<std::size_t>(4, 2 * size()) : size() + 1);
-  const_cast<DictionaryNode*>(node_)->push(key, std::move(value));
+  const_cast<DictionaryNode*>(node_)->push(std::move(ownKey), std::move(value));
 }
 
 void Dictionary::remove(std::string_view key) {
-  if (!contains(key)) return;
+  const Entry* found = node_ == nullptr ? nullptr : node_->find(Value(key));
+  if (found == nullptr) return;
+  const auto position = found - begin();
   detach(size());
   auto* node = const_cast<DictionaryNode*>(node_);
-  node->erase(node->find(Value(key)));
+  node->erase(node->entries() + position);
 }
 
 void Dictionary::addEntries(const Dictionary& other) {
-  reserve(size() + other.size());
-  for (const Entry& entry : other) set(entry.keyValue, entry.value);
+  const Dictionary added = other;  // which may lie in this one's entries
+  reserve(size() + added.size());
+  for (const Entry& entry : added) set(entry.keyValue, entry.value);
 }
 
 bool operator==(const Dictionary& a, const Dictionary& b) {

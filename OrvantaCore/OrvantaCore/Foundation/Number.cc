@@ -112,6 +112,7 @@ double realReading(std::string_view text) noexcept {
   text = withoutLeadingSpace(text);
   const bool negative = takeSign(text);
   const DecimalPrefix prefix = decimalPrefix(text);
+  if (prefix.text.empty()) return 0.0;
   double value = 0.0;
   const auto result =
       std::from_chars(prefix.text.data(), prefix.text.data() + prefix.text.size(), value);
@@ -171,7 +172,8 @@ float Number::floatValue() const noexcept {
 
 std::string Number::description() const {
   char text[40];
-  const auto significant = [&](int digits) {
+  const auto significant = [&](int digits) -> std::string {
+    if (std::isnan(doubleValue())) return "nan";  // without the sign that some have
     const auto end = std::to_chars(text, text + sizeof text, doubleValue(),
                                    std::chars_format::general, digits);
     return std::string(text, end.ptr);

@@ -86,10 +86,7 @@ class Value {
     if (isShared()) releaseNode();
   }
   Value& operator=(const Value& other) noexcept {
-    if (other.isShared()) other.node()->retain();
-    if (isShared()) releaseNode();
-    copyBits(other);
-    return *this;
+    return *this = Value(other);  // the other one may lie inside what this one lets go of
   }
   Value& operator=(Value&& other) noexcept {
     Value taken(static_cast<Value&&>(other));

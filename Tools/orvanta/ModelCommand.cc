@@ -1,0 +1,77 @@
+#include <algorithm>
+#include <ostream>
+
+#include "Commands.h"
+#include "Input.h"
+#include "Mapping/OrvantaBaseModel.h"
+#include "Mapping/RefusalRecorder.h"
+#include "Text.h"
+
+namespace orvanta::tool {
+
+const Class& classForArgument(const std::string& name) {
+  if (const Class* cls = modelClassNamed(name)) return *cls;
+  const auto nearest =
+      std::min_element(modelClasses().begin(), modelClasses().end(),
+                       [&](const Class* a, const Class* b) {
+                         return editDistance(a->name, name) < editDistance(b->name, name);
+                       });
+  throw Failure(ExitCode::usage, "there is no class \"" + printable(name) + "\"; the nearest is " +
+                                     std::string((*nearest)->name));
+}
+
+namespace {
+
+/// What an update answered, or that an error left it.
+enum class Outcome { yes, no, thrown };
+
+template <class Update>
+Outcome outcomeOf(Update&& update) {
+  try {
+    return update() ? Outcome::yes : Outcome::no;
+  } catch (const Exception&) {
+    return Outcome::thrown;
+  }
+}
+
+void tellRefusal(const RefusalRecorder& recorder, const Class& cls, const Streams& streams) {
+  streams.err << "orvanta: "
+              << (recorder.refusal() ? printable(recorder.refusal()->description())
+                                     : std::string(cls.name) + " refused without a reason")
+              << '\n';
+}
+
+}  // namespace
+
+ExitCode model(const ModelOptions& options, const Streams& streams) {
+  const Class& cls = classForArgument(options.className);
+  const auto readsStandardIn = std::count(options.updates.begin(), options.updates.end(), "-") +
+                               (!options.init && options.file == "-" ? 1 : 0);
+  if (readsStandardIn > 1) {
+    throw Failure(ExitCode::usage, "standard input can be read only once");
+  }
+
+  RefusalRecorder recorder;
+  const auto object = Ref<OrvantaBaseModel>::adopt(cls.alloc());
+  const Outcome made = outcomeOf([&] {
+    if (options.init) return object->init();
+    const Input input = readInput(options.file, streams);
+    return object->initWithDictionary(&input.object);
+  });
+  if (made != Outcome::yes) {
+    tellRefusal(recorder, cls, streams);
+    return ExitCode::notMade;
+  }
+  for (const std::string& file : options.updates) {
+    const Input input = readInput(file, streams);
+    recorder.reset();
+    const Outcome updated = outcomeOf([&] { return object->updateWithDictionary(&input.object); });
+    if (updated == Outcome::yes) continue;
+    tellRefusal(recorder, cls, streams);
+    if (updated == Outcome::thrown) return ExitCode::notMade;
+  }
+  printJSON(object->dictionaryValueWithPolicy(options.classInfo), streams.out, options.pretty);
+  return ExitCode::done;
+}
+
+}  // namespace orvanta::tool

@@ -1,0 +1,68 @@
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "Foundation/Date.h"
+
+namespace orvanta::testing {
+namespace {
+
+constexpr auto kInt64Max = std::numeric_limits<std::int64_t>::max();
+constexpr auto kInt64Min = std::numeric_limits<std::int64_t>::min();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+TEST(Date, WholeMillisecondsComeBackTruncatedNotRounded) {
+  const struct {
+    std::int64_t given;
+    std::int64_t back;
+  } rows[] = {
+      {0, 0},
+      {2, 2},
+      {999, 999},
+      {1001, 1000},  // 1.001 * 1000.0 lies below 1001
+      {86399999, 86399999},
+      {1500000000123, 1500000000123},
+      {1700000000000, 1700000000000},
+      {1073741824001, 1073741824000},
+      {1080000000001, 1080000000000},
+      {-1, -1},
+      {-1500, -1500},
+      {-1001, -1000},
+  };
+  for (const auto& row : rows)
+    EXPECT_EQ(Date::fromMilliseconds(row.given).milliseconds(), row.back);
+  EXPECT_EQ(Date::fromMilliseconds(1500000000123).secondsSince1970, 1500000000.123);
+}
+
+TEST(Date, FractionsOfMillisecondsFallTowardZeroAndExtremesAreClamped) {
+  const struct {
+    double seconds;
+    std::int64_t milliseconds;
+  } rows[] = {
+      {0.0019, 1},         {-0.0019, -1},          {1e300, kInt64Max},
+      {-1e300, kInt64Min}, {kInfinity, kInt64Max}, {std::numeric_limits<double>::quiet_NaN(), 0},
+  };
+  for (const auto& row : rows) EXPECT_EQ(Date{row.seconds}.milliseconds(), row.milliseconds);
+}
+
+TEST(Date, TextIsUtcWithoutTheFraction) {
+  const struct {
+    double seconds;
+    std::string_view text;
+  } rows[] = {
+      {0.0, "1970-01-01 00:00:00 +0000"},
+      {1500000000.999, "2017-07-14 02:40:00 +0000"},
+      {951782399.0, "2000-02-28 23:59:59 +0000"},
+      {951782400.0, "2000-02-29 00:00:00 +0000"},
+      {-0.25, "1969-12-31 23:59:59 +0000"},
+      {-86400.0, "1969-12-31 00:00:00 +0000"},
+      {-62135596800.0, "0001-01-01 00:00:00 +0000"},
+      {253402300800.0, "10000-01-01 00:00:00 +0000"},
+      {1e15, "1000000000000000 s since 1970"},
+      {-kInfinity, "-9223372036854775808 s since 1970"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(Date{row.seconds}.description(), row.text);
+}
+
+}  // namespace
+}  // namespace orvanta::testing

@@ -1,0 +1,129 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "support/Values.h"
+
+namespace orvanta::testing {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+
+TEST(JSONWriting, WritesScalars) {
+  const struct {
+    Value value;
+    std::string_view text;
+  } rows[] = {
+      {Value::null(), "null"},
+      {true, "true"},
+      {false, "false"},
+      {1, "1"},
+      {std::numeric_limits<std::int64_t>::min(), "-9223372036854775808"},
+      {std::numeric_limits<std::uint64_t>::max(), "18446744073709551615"},
+      {65.0, "65"},
+      {0.0, "0"},
+      {-0.0, "-0.0"},
+      {-0.0F, "-0.0"},
+      {0.1, "0.1"},
+      {19.99, "19.99"},
+      {0.1 + 0.2, "0.30000000000000004"},
+      {0.45F, "0.44999998807907104"},
+      {1e21, "1e+21"},
+      {1e-7, "1e-07"},
+      {5e-324, "5e-324"},
+      {1500000000.123, "1500000000.123"},
+      {"", R"("")"},
+      {"a/b", R"("a\/b")"},
+      {"\"\\\b\f\n\r\t", R"("\"\\\b\f\n\r\t")"},
+      {"\x01\x1F\x7F", "\"\\u0001\\u001f\x7F\""},
+      {std::string(1, '\0'), R"("\u0000")"},
+      {"\u00e9\u20ac\U0001F600\u2028", "\"\u00e9\u20ac\U0001F600\u2028\""},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(written(row.value), row.text);
+    EXPECT_EQ(pretty(row.value), row.text);
+    EXPECT_EQ(parsed(row.text), row.value) << row.text;
+  }
+  EXPECT_EQ(written("a/b", {.escapeSlashes = false}), R"("a/b")");
+}
+
+TEST(JSONWriting, DoublesReadBackAsTheSameNumber) {
+  std::uint64_t state = 42;
+  for (int i = 0; i < 20'000; ++i) {
+    state = state * 6364136223846793005U + 1442695040888963407U;
+    const auto number = std::bit_cast<double>(state ^ state >> 29U);
+    if (!std::isfinite(number)) continue;
+    const std::string text = written(number);
+    ASSERT_EQ(parsed(text).number()->doubleValue(), number) << text;
+  }
+}
+
+TEST(JSONWriting, LaysOutContainers) {
+  const struct {
+    std::string_view compact;
+    std::string_view pretty;
+  } rows[] = {
+      {"[]", "[\n\n]"},
+      {"{}", "{\n\n}"},
+      {"[1]", "[\n  1\n]"},
+      {R"({"b":1,"a":[1,"x"]})", "{\n  \"b\" : 1,\n  \"a\" : [\n    1,\n    \"x\"\n  ]\n}"},
+      {R"({"a":{},"b":[[],null]})",
+       "{\n  \"a\" : {\n\n  },\n  \"b\" : [\n    [\n\n    ],\n    null\n  ]\n}"},
+      {R"({"a\/b\n":{"c":true}})", "{\n  \"a\\/b\\n\" : {\n    \"c\" : true\n  }\n}"},
+  };
+  for (const auto& row : rows) {
+    const Value value = parsed(row.compact);
+    EXPECT_EQ(written(value), row.compact);
+    EXPECT_EQ(pretty(value), row.pretty);
+    EXPECT_EQ(parsed(row.pretty), value);
+    EXPECT_TRUE(isValidJSONObject(value));
+  }
+  std::string text = "before ";
+  EXPECT_TRUE(writeJSON(Array({1}), text));
+  EXPECT_EQ(text, "before [1]");
+}
+
+TEST(JSONWriting, RefusesWhatJSONCannotHold) {
+  for (const Value& value :
+       {Value(), Value(Date{}), Value(*Url::parse("a")), Value(Labelled::make(1)),
+        Value(&Plain::kClass), Value(kNaN), Value(kInfinity), Value(-kInfinity),
+        Value(std::numeric_limits<float>::infinity())}) {
+    EXPECT_EQ(written(value), "refused") << describe(value);
+    if (value.isNil()) continue;
+    for (const Value& holder : {Value(Array({1, value})), Value(Dictionary({{"a", value}})),
+                                Value(Array({Dictionary({{"a", Array({value})}})}))}) {
+      EXPECT_EQ(written(holder), "refused") << describe(value);
+      EXPECT_FALSE(isValidJSONObject(holder)) << describe(value);
+    }
+  }
+}
+
+TEST(JSONWriting, OnlyContainersAreValidAtTheTop) {
+  for (const Value& value : {Value(), Value::null(), Value(1), Value("text"), Value(true)}) {
+    EXPECT_FALSE(isValidJSONObject(value)) << describe(value);
+  }
+}
+
+TEST(JSONWriting, TakesFiveHundredAndTwelveLevels) {
+  Value array = Array();
+  Value dictionary = Dictionary();
+  for (int depth = 1; depth < 512; ++depth) {
+    array = Array({array});
+    dictionary = Dictionary({{"a", dictionary}});
+  }
+  EXPECT_EQ(written(array), nested(512, "[", "]"));
+  EXPECT_TRUE(isValidJSONObject(array));
+  EXPECT_TRUE(isValidJSONObject(dictionary));
+  EXPECT_EQ(parsed(written(dictionary)), dictionary);
+  for (const Value& value : {Value(Array({array})), Value(Dictionary({{"a", dictionary}}))}) {
+    EXPECT_EQ(written(value), "refused");
+    EXPECT_FALSE(isValidJSONObject(value));
+  }
+  // Siblings do not add up.
+  EXPECT_NE(written(Array({(*array.array())[0], (*array.array())[0]})), "refused");
+}
+
+}  // namespace
+}  // namespace orvanta::testing

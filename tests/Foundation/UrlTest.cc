@@ -1,0 +1,71 @@
+#include <gtest/gtest.h>
+
+#include "Foundation/CharacterSet.h"
+#include "Foundation/Url.h"
+#include "support/Values.h"
+
+namespace orvanta::testing {
+namespace {
+
+TEST(Url, KeepsTheTextOfEveryLegalOne) {
+  for (const std::string_view text :
+       {"", "abc", "/a/b", "https://user:pw@host:80/p;a=1/~x?q=a&b=(c)*!'$,+-_#frag/?",
+        "http://[::1]/", "a[b]", "scheme%3A%2F%2Fhost", "%aF", "#", "//", "?", "a%00b"}) {
+    const auto url = Url::parse(text);
+    ASSERT_TRUE(url.has_value()) << text;
+    EXPECT_EQ(url->absoluteString(), text);
+    EXPECT_EQ(describe(*url), text);
+  }
+}
+
+TEST(Url, RefusesWhatNoUrlHolds) {
+  for (const std::string_view text : {" ",    "a b",   "\"",   "<",    ">",
+                                      "\\",   "^",     "`",    "{",    "|",
+                                      "}",    "\n",    "\x7F", "a\tb", "http://x/\xC3\xA4",
+                                      "\xFF", "%",     "%4",   "a%4",  "%G0",
+                                      "%0g",  "a%%41", "#a#",  "##"}) {
+    EXPECT_FALSE(Url::parse(text).has_value()) << text;
+  }
+  EXPECT_FALSE(Url::parse(std::string_view("a\0b", 3)).has_value());
+}
+
+TEST(Url, CopiesShareAndAssign) {
+  Url url = *Url::parse("https://example.org/first");
+  const Url copy = url;
+  EXPECT_EQ(copy.absoluteString().data(), url.absoluteString().data());
+  const Url& same = url;
+  url = same;
+  EXPECT_EQ(url, copy);
+  url = *Url::parse("b");
+  EXPECT_FALSE(url == copy);
+  Value value = copy;
+  EXPECT_EQ(*value.url(), copy);
+  value = Value();
+  EXPECT_EQ(copy.absoluteString(), "https://example.org/first");
+}
+
+TEST(PercentEncoding, WritesWhatIsOutsideTheSet) {
+  const struct {
+    std::string_view text;
+    std::string_view encoded;
+  } rows[] = {
+      {"", ""},
+      {"app://host/path?x=1", "app:%2F%2Fhost%2Fpath%3Fx=1"},
+      {"a b", "a%20b"},
+      {"100%", "100%25"},
+      {"%20", "%2520"},
+      {"\xC3\xA4", "%C3%A4"},
+      {"[::1]", "[::1]"},
+      {"!$&'()*+,-.:;=[]_~", "!$&'()*+,-.:;=[]_~"},
+      {"/?#@\"<>\\^{|}`", "%2F%3F%23%40%22%3C%3E%5C%5E%7B%7C%7D%60"},
+      {"\n\x7F\xFF", "%0A%7F%FF"},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(percentEncoded(row.text, CharacterSet::urlHostAllowed()), row.encoded);
+  }
+  EXPECT_EQ(percentEncoded(std::string_view("\0a", 2), CharacterSet::alphanumerics()), "%00a");
+  EXPECT_EQ(percentEncoded("a-b", CharacterSet("-").with("b")), "%61-b");
+}
+
+}  // namespace
+}  // namespace orvanta::testing

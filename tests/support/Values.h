@@ -1,0 +1,100 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "Foundation/Array.h"
+#include "Foundation/DecimalNumber.h"
+#include "Foundation/Description.h"
+#include "Foundation/Dictionary.h"
+#include "Foundation/Exception.h"
+#include "Foundation/JSON.h"
+#include "Foundation/KeyPath.h"
+#include "Foundation/Number.h"
+#include "Foundation/Url.h"
+#include "Foundation/Value.h"
+
+namespace orvanta {
+
+// What a failed expectation prints.
+inline void PrintTo(const Value& value, std::ostream* out) {
+  *out << describe(value) << " (" << value.kindName() << ")";
+}
+inline void PrintTo(const DecimalNumber& number, std::ostream* out) {
+  *out << number.stringValue();
+}
+
+namespace testing {
+
+/// The value of a text that is known to be JSON, otherwise nil.
+inline Value parsed(std::string_view text) { return parseJSON(text); }
+
+inline std::string written(const Value& value, JSONStyle style = {}) {
+  std::string text;
+  return writeJSON(value, text, style) ? text : "refused";
+}
+inline std::string pretty(const Value& value) { return written(value, {.pretty = true}); }
+
+/// "name: reason" of the exception that a call throws, or "nothing thrown".
+template <class Call>
+std::string thrown(Call&& call) {
+  try {
+    call();
+  } catch (const Exception& exception) {
+    return std::string(exception.name()).append(": ").append(exception.reason());
+  }
+  return "nothing thrown";
+}
+
+/// A text that `open` begins and `close` ends as many times, around `core`.
+inline std::string nested(std::size_t depth, std::string_view open, std::string_view close,
+                          std::string_view core = "") {
+  std::string text;
+  for (std::size_t i = 0; i < depth; ++i) text += open;
+  text += core;
+  for (std::size_t i = 0; i < depth; ++i) text += close;
+  return text;
+}
+
+/// An object with one property, "label"; equal to any other with the same label. It counts those
+/// that are alive.
+class Labelled : public Object {
+ public:
+  static constexpr ClassObject kClass{"Labelled", nullptr};
+  static constexpr const ClassObject& classObject() { return kClass; }
+  static inline int alive = 0;
+
+  static Ref<Labelled> make(const Value& label) {
+    return Ref<Labelled>::adopt(new Labelled(label));
+  }
+  ~Labelled() override { --alive; }
+
+  const ClassObject& isa() const override { return kClass; }
+  bool isEqual(const Value& other) const override {
+    const Labelled* labelled = other.as<Labelled>();
+    return labelled != nullptr && labelled->label_ == label_;
+  }
+  std::size_t hash() const override { return label_.hash(); }
+  std::string description() const override {
+    return std::string("<Labelled ").append(describe(label_)).append(">");
+  }
+  Value valueForKey(std::string_view key) const override {
+    return key == "label" ? label_ : Object::valueForKey(key);
+  }
+
+ private:
+  explicit Labelled(const Value& label) : label_(label) { ++alive; }
+  Value label_;
+};
+
+/// An object that overrides nothing.
+class Plain : public Object {
+ public:
+  static constexpr ClassObject kClass{"Plain", nullptr};
+  static constexpr const ClassObject& classObject() { return kClass; }
+  const ClassObject& isa() const override { return kClass; }
+};
+
+}  // namespace testing
+}  // namespace orvanta
