@@ -76,4 +76,6 @@ inline const Value* Array::begin() const noexcept {
   return node_ == nullptr ? nullptr : node_->elements();
 }
 
+inline const Array* Value::array() const noexcept { return payloadIf<Array>(Kind::array); }
+
 }  // namespace orvanta

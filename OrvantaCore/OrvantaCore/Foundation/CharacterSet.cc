@@ -5,16 +5,16 @@ namespace orvanta {
 std::string percentEncoded(std::string_view text, const CharacterSet& allowed) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
   std::string encoded;
-  encoded.reserve(text.size());
-  for (const char character : text) {
-    if (allowed.contains(character)) {
-      encoded += character;
-    } else {
-      const auto byte = static_cast<unsigned char>(character);
-      encoded += {'%', kDigits[byte >> 4U], kDigits[byte & 15U]};
-    }
+  encoded.reserve(text.size() + text.size() / 2);
+  std::size_t plain = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (allowed.contains(text[i])) continue;
+    const auto byte = static_cast<unsigned char>(text[i]);
+    encoded.append(text, plain, i - plain);
+    encoded += {'%', kDigits[byte >> 4U], kDigits[byte & 15U]};
+    plain = i + 1;
   }
-  return encoded;
+  return encoded.append(text, plain);
 }
 
 }  // namespace orvanta

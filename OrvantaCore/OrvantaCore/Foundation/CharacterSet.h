@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -25,19 +24,15 @@ class CharacterSet {
     return sum;
   }
   constexpr bool contains(char character) const {
-    const auto code = static_cast<unsigned char>(character);
-    return code < 128 && (words_[code / 64] >> (code % 64) & 1U) != 0;
+    return members_[static_cast<unsigned char>(character)];
   }
 
  private:
   constexpr void add(std::string_view members) {
-    for (const char character : members) {
-      const auto code = static_cast<unsigned char>(character);
-      words_[code / 64] |= std::uint64_t{1} << (code % 64);
-    }
+    for (const char character : members) members_[static_cast<unsigned char>(character)] = true;
   }
 
-  std::uint64_t words_[2] = {0, 0};
+  bool members_[256] = {};
 };
 
 /// Writes every byte outside the set as "%" and two upper-case hex digits.

@@ -101,7 +101,7 @@ const Value& Dictionary::valueForKey(const Value& key) const noexcept {
 void Dictionary::detach(std::size_t capacity) {
   if (node_ != nullptr && node_->isUnshared() && node_->capacity() >= capacity) return;
   DictionaryNode* own = DictionaryNode::create(std::max(capacity, size()), nullptr);
-  for (const Entry& entry : *this) own->push(entry.keyValue, entry.value);
+  for (const Entry& entry : *this) own->push(Value(entry.keyValue), Value(entry.value));
   *this = Dictionary();
   node_ = own;
 }
@@ -119,6 +119,10 @@ void Dictionary::set(const Value& key, Value value) {
     const_cast<DictionaryNode*>(node_)->entries()[position].value = std::move(value);
     return;
   }
+  append(key, std::move(value));
+}
+
+void Dictionary::append(const Value& key, Value value) {
   Value ownKey = key;  // which may lie in the entries that detaching lets go of
   const bool full = node_ == nullptr || size() == node_->capacity();
   detach(full ? std::max<std::size_t>(4, 2 * size()) : size() + 1);
@@ -135,7 +139,8 @@ void Dictionary::remove(std::string_view key) {
 }
 
 void Dictionary::addEntries(const Dictionary& other) {
-  const Dictionary added = other;  // which may lie in this one's entries
+  // The other one may lie in this one's entries.
+  const Dictionary added = other;  // NOLINT(performance-unnecessary-copy-initialization)
   reserve(size() + added.size());
   for (const Entry& entry : added) set(entry.keyValue, entry.value);
 }
@@ -175,35 +180,41 @@ std::uint64_t DictionaryNode::keyHash(const Value& key) noexcept {
 }
 
 const DictionaryNode::Entry* DictionaryNode::find(const Value& key) const noexcept {
-  const Entry* first = entries();
-  if (!index_.empty()) {
-    const std::size_t mask = index_.size() - 1;
-    for (std::size_t slot = keyHash(key) & mask;; slot = (slot + 1) & mask) {
-      const std::uint32_t position = index_[slot];
-      if (position == 0) return nullptr;
-      const Entry& entry = first[position - 1];
-      if (entry.keyValue.text() == key.text()) return &entry;
+  if (!index_.empty()) return findIndexed(key);
+  if (key.isShared()) return findLong(key);
+  const Value::Bits wanted = key.bits();
+  const Entry* const last = entries() + size_;
+  for (const Entry* entry = entries(); entry != last; ++entry) {
+    if (entry->keyValue.word(0) == wanted.words[0] && entry->keyValue.word(1) == wanted.words[1]) {
+      return entry;
     }
-  }
-  if (key.isShared()) {
-    for (const Entry* entry = first; entry != first + size_; ++entry) {
-      if (entry->keyValue.isShared() && entry->keyValue.text() == key.text()) return entry;
-    }
-    return nullptr;
-  }
-  for (const Entry* entry = first; entry != first + size_; ++entry) {
-    if (entry->keyValue.hasSameBits(key)) return entry;
   }
   return nullptr;
 }
 
-void DictionaryNode::push(Value key, Value value) {
-  new (entries() + size_) Entry{std::move(key), std::move(value)};
-  ++size_;
-  if (!index_.empty()) {
-    enterInIndex(size_);
-  } else if (size_ >= kIndexedSize) {
+const DictionaryNode::Entry* DictionaryNode::findLong(const Value& key) const noexcept {
+  const std::string_view text = key.text();
+  for (const Entry* entry = entries(); entry != entries() + size_; ++entry) {
+    if (entry->keyValue.isShared() && entry->keyValue.text() == text) return entry;
+  }
+  return nullptr;
+}
+
+const DictionaryNode::Entry* DictionaryNode::findIndexed(const Value& key) const noexcept {
+  const std::size_t mask = index_.size() - 1;
+  for (std::size_t slot = keyHash(key) & mask;; slot = (slot + 1) & mask) {
+    const std::uint32_t position = index_[slot];
+    if (position == 0) return nullptr;
+    const Entry& entry = entries()[position - 1];
+    if (entry.keyValue.text() == key.text()) return &entry;
+  }
+}
+
+void DictionaryNode::enterNewest() {
+  if (index_.empty()) {
     makeIndex();
+  } else {
+    enterInIndex(size_);
   }
 }
 

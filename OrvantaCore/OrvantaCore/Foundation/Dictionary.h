@@ -40,11 +40,16 @@ class Dictionary {
   const Value& operator[](std::string_view key) const noexcept;
   /// The same for a key that is at hand as a string value; faster.
   const Value& valueForKey(const Value& key) const noexcept;
+  /// The same, looking first where the hint says, which moves on behind what was found: for
+  /// looking up many keys in about the order of the entries. Begin with 0.
+  const Value& valueForKey(const Value& key, std::size_t& hint) const noexcept;
   bool contains(std::string_view key) const noexcept { return !(*this)[key].isNil(); }
 
   void reserve(std::size_t capacity);
   /// Stores a value; a nil removes the key.
   void set(const Value& key, Value value);
+  /// Stores a value that is not nil under a key that is known to be new; faster.
+  void append(const Value& key, Value value);
   void remove(std::string_view key);
   /// Stores every entry of the other dictionary over this one's.
   void addEntries(const Dictionary& other);
@@ -80,11 +85,17 @@ class DictionaryNode : public Node {
     return const_cast<Entry*>(static_cast<const DictionaryNode*>(this)->find(key));
   }
   /// Appends an entry whose key is known to be new.
-  void push(Value key, Value value);
+  void push(Value&& key, Value&& value) {
+    new (entries() + size_) Entry{std::move(key), std::move(value)};
+    if (++size_ >= kIndexedSize) enterNewest();
+  }
   void erase(Entry* entry) noexcept;
 
  private:
   DictionaryNode(std::size_t capacity, Arena* arena) noexcept : Node(arena), capacity_(capacity) {}
+  const Entry* findLong(const Value& key) const noexcept;
+  const Entry* findIndexed(const Value& key) const noexcept;
+  void enterNewest();
   void makeIndex();
   void enterInIndex(std::size_t position) noexcept;
   static std::uint64_t keyHash(const Value& key) noexcept;
@@ -101,5 +112,20 @@ inline std::size_t Dictionary::size() const noexcept {
 inline const Dictionary::Entry* Dictionary::begin() const noexcept {
   return node_ == nullptr ? nullptr : node_->entries();
 }
+
+inline const Value& Dictionary::valueForKey(const Value& key, std::size_t& hint) const noexcept {
+  if (hint < size() && begin()[hint].keyValue.hasSameBits(key)) return begin()[hint++].value;
+  const Value& found = valueForKey(key);
+  if (!found.isNil()) {
+    // Values stand in entries, so the place of one tells that of the other.
+    hint = static_cast<std::size_t>(reinterpret_cast<const std::byte*>(&found) -
+                                    reinterpret_cast<const std::byte*>(begin())) /
+               sizeof(Entry) +
+           1;
+  }
+  return found;
+}
+
+inline const Dictionary* Value::dictionary() const noexcept { return payloadIf<Dictionary>(Kind::dictionary); }
 
 }  // namespace orvanta

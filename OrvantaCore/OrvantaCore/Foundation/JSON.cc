@@ -1,13 +1,16 @@
 #include "Foundation/JSON.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <map>
-#include <memory>
+#include <span>
 
 #include "Foundation/Array.h"
 #include "Foundation/Dictionary.h"
+#include "Foundation/TextScan.h"
 
 namespace orvanta {
 
@@ -26,100 +29,101 @@ TextPosition TextPosition::of(std::size_t offset, std::string_view text) {
 
 // ---- Reading --------------------------------------------------------------
 
-/// Collects what a reader reports. Values on the stack refer to the arena without counting;
-/// a container takes them over when it ends, and only the root is counted for the outside.
+/// Collects what a reader reports. What stands on the stack refers to the arena without counting;
+/// a container takes it over when it ends, and only the root is counted for the outside.
 class TreeBuilder {
  public:
-  explicit TreeBuilder(std::size_t textBytes) : arena_(Arena::create(2 * textBytes + 512)) {
-    stack_.reserve(64);
+  explicit TreeBuilder(std::size_t textBytes)
+      : arena_(Arena::create(textBytes / 2 * 5 + 512)) {
+    stack_.reserve(std::clamp(textBytes / 24, std::size_t{16}, std::size_t{1024}));
   }
   TreeBuilder(const TreeBuilder&) = delete;
   TreeBuilder& operator=(const TreeBuilder&) = delete;
-  ~TreeBuilder() {
-    for (Dictionary::Entry& entry : stack_) {
-      entry.keyValue.forget();
-      entry.value.forget();
-    }
-    key_.forget();
-    arena_->release();
-  }
+  ~TreeBuilder() { arena_->release(); }
 
   void beginDictionary(std::size_t /*offset*/) { open(); }
   void beginArray(std::size_t /*offset*/) { open(); }
   void key(std::string_view text, std::size_t /*offset*/) { key_ = carved(text); }
   void endDictionary(std::size_t /*offset*/) {
-    const std::size_t first = close();
-    DictionaryNode* node = DictionaryNode::create(stack_.size() - first, arena_);
+    const std::span<const Item> items = close();
+    DictionaryNode* node = DictionaryNode::create(items.size(), arena_);
     std::uint64_t seen = 0;  // a bit a key has set: keys with other bits are surely different
-    for (std::size_t i = first; i < stack_.size(); ++i) {
-      Dictionary::Entry& entry = stack_[i];
-      const std::uint64_t bit = std::uint64_t{1} << signature(entry.keyValue);
-      Dictionary::Entry* earlier = (seen & bit) != 0 ? node->find(entry.keyValue) : nullptr;
+    for (const Item& item : items) {
+      const std::uint64_t bit = std::uint64_t{1} << signature(item.key);
+      if ((seen & bit) != 0 && replace(*node, item)) continue;
       seen |= bit;
-      if (earlier != nullptr) {
-        earlier->value.forget();
-        earlier->value = std::move(entry.value);
-        entry.keyValue.forget();
-      } else {
-        node->push(std::move(entry.keyValue), std::move(entry.value));
-      }
+      node->push(Value(item.key), Value(item.value));
     }
-    finish(Value(Kind::dictionary, node), first);
+    finish(Value::sharedBits(Kind::dictionary, node), items.size());
   }
   void endArray(std::size_t /*offset*/) {
-    const std::size_t first = close();
-    ArrayNode* node = ArrayNode::create(stack_.size() - first, arena_);
-    for (std::size_t i = first; i < stack_.size(); ++i) node->push(std::move(stack_[i].value));
-    finish(Value(Kind::array, node), first);
+    const std::span<const Item> items = close();
+    ArrayNode* node = ArrayNode::create(items.size(), arena_);
+    for (const Item& item : items) node->push(Value(item.value));
+    finish(Value::sharedBits(Kind::array, node), items.size());
   }
   void string(std::string_view text, std::size_t /*offset*/) { add(carved(text)); }
-  void integer(std::int64_t number, std::size_t /*offset*/) { add(number); }
-  void unsignedInteger(std::uint64_t number, std::size_t /*offset*/) { add(number); }
-  void real(double number, std::size_t /*offset*/) { add(number); }
-  void boolean(bool flag, std::size_t /*offset*/) { add(flag); }
-  void null(std::size_t /*offset*/) { add(Value::null()); }
+  void integer(std::int64_t number, std::size_t /*offset*/) { add(Value(number).bits()); }
+  void unsignedInteger(std::uint64_t number, std::size_t /*offset*/) { add(Value(number).bits()); }
+  void real(double number, std::size_t /*offset*/) { add(Value(number).bits()); }
+  void boolean(bool flag, std::size_t /*offset*/) { add(Value(flag).bits()); }
+  void null(std::size_t /*offset*/) { add(Value::null().bits()); }
 
   /// The value of a text that was read to its end.
   Value takeRoot() {
-    Value root = std::move(stack_.back().value);
-    stack_.clear();
+    Value root(stack_.back().value);
     if (root.isShared()) arena_->retain();
     return root;
   }
 
  private:
-  Value carved(std::string_view text) {
-    if (text.size() <= Value::kInlineCapacity) return Value::inlineString(text);
-    return {Kind::string, StringNode::create(text, arena_)};
+  using Bits = Value::Bits;
+  struct Item {
+    Bits key;
+    Bits value;
+  };
+
+  Bits carved(std::string_view text) {
+    if (text.size() <= Value::kInlineCapacity) return Value::inlineBits(text);
+    return Value::sharedBits(Kind::string, StringNode::create(text, arena_));
   }
-  static unsigned signature(const Value& key) {
-    const std::uint64_t mixed = (key.isShared() ? key.text().size() * 0x9E3779B97F4A7C15U
-                                                : key.word(0) ^ key.word(1)) *
-                                0x9E3779B97F4A7C15U;
-    return static_cast<unsigned>(mixed >> 58U);
+  static unsigned signature(const Bits& key) {
+    constexpr std::uint64_t kSpread = 0x9E3779B97F4A7C15U;
+    const bool isLong = (key.words[0] & Value::kSharedBit) != 0;  // all long keys are alike here
+    return isLong ? 0
+                  : static_cast<unsigned>(((key.words[0] ^ key.words[1]) * kSpread) >> 58U);
   }
-  void add(Value value) {
-    stack_.push_back({std::move(key_), std::move(value)});
+  /// Replaces the value of a key that the node has already; false when it has not.
+  static bool replace(DictionaryNode& node, const Item& item) {
+    Value key(item.key);
+    Dictionary::Entry* earlier = node.find(key);
+    key.forget();
+    if (earlier == nullptr) return false;
+    earlier->value.forget();
+    earlier->value = Value(item.value);
+    return true;
   }
+  void add(Bits value) { stack_.push_back({key_, value}); }
   void open() {
-    stack_.push_back({std::move(key_), Value(Kind::integer, open_)});
+    stack_.push_back({key_, {{open_, 0}}});
     open_ = stack_.size();
   }
-  /// Where the entries of the innermost open container begin.
-  std::size_t close() {
-    const std::size_t first = open_;
-    open_ = stack_[first - 1].value.word(1);
-    return first;
+  /// The items of the innermost open container, which is open no more.
+  std::span<const Item> close() {
+    const std::span<const Item> items(stack_.begin() + static_cast<std::ptrdiff_t>(open_),
+                                      stack_.end());
+    open_ = stack_[open_ - 1].value.words[0];
+    return items;
   }
-  void finish(Value container, std::size_t first) {
-    stack_.resize(first);
-    stack_.back().value = std::move(container);
+  void finish(Bits container, std::size_t items) {
+    stack_.resize(stack_.size() - items);
+    stack_.back().value = container;
   }
 
   Arena* arena_;
-  std::vector<Dictionary::Entry> stack_;
+  std::vector<Item> stack_;
   std::size_t open_ = 0;  // one past the place of the innermost open container; 0 = none
-  Value key_;
+  Bits key_{};
 };
 
 Value parseJSON(std::string_view text, JSONError* error) {
@@ -168,6 +172,47 @@ std::vector<DuplicateKey> findDuplicateKeys(std::string_view text) {
 
 namespace {
 
+/// Appends to a string faster than the string itself does.
+class Output {
+ public:
+  explicit Output(std::string& text) : text_(text), used_(text.size()) {}
+  Output(const Output&) = delete;
+  Output& operator=(const Output&) = delete;
+  ~Output() { text_.resize(used_); }
+
+  /// Room for that many bytes; what is written there counts with advance().
+  char* room(std::size_t bytes) {
+    if (text_.size() - used_ < bytes) grow(bytes);
+    return text_.data() + used_;
+  }
+  void advance(std::size_t bytes) { used_ += bytes; }
+  void append(std::string_view text) {
+    std::memcpy(room(text.size()), text.data(), text.size());
+    used_ += text.size();
+  }
+  void append(std::size_t count, char c) {
+    std::memset(room(count), c, count);
+    used_ += count;
+  }
+  Output& operator+=(char c) {
+    *room(1) = c;
+    ++used_;
+    return *this;
+  }
+  Output& operator+=(std::string_view text) {
+    append(text);
+    return *this;
+  }
+
+ private:
+  [[gnu::noinline]] void grow(std::size_t bytes) {
+    text_.resize(std::max(2 * text_.size(), used_ + bytes + 256));
+  }
+
+  std::string& text_;
+  std::size_t used_;
+};
+
 class JSONWriter {
  public:
   JSONWriter(std::string& out, JSONStyle style) : out_(out), style_(style) {}
@@ -195,7 +240,7 @@ class JSONWriter {
       case Kind::dictionary:
         return writeContainer('{', '}', *value.dictionary(), [this](const Dictionary::Entry& entry) {
           writeString(entry.key());
-          out_ += style_.pretty ? " : " : ":";
+          out_ += std::string_view(style_.pretty ? " : " : ":");
           return &entry.value;
         });
       default:
@@ -230,9 +275,10 @@ class JSONWriter {
 
   template <class T>
   bool writeNumber(T number) {
-    char text[32];
-    const auto result = std::to_chars(text, text + sizeof text, number);
-    out_.append(text, result.ptr);
+    constexpr std::size_t kLongest = 32;
+    char* first = out_.room(kLongest);
+    const auto result = std::to_chars(first, first + kLongest, number);
+    out_.advance(static_cast<std::size_t>(result.ptr - first));
     return true;
   }
 
@@ -245,32 +291,50 @@ class JSONWriter {
     return writeNumber(number);
   }
 
+  /// Whether a byte cannot stand for itself, and with what it is written behind a backslash: a
+  /// character, or 1 for "u00" and two digits.
+  static constexpr std::array<char, 256> kEscapes = [] {
+    std::array<char, 256> escapes{};
+    for (std::size_t i = 0; i < 0x20; ++i) escapes[i] = 1;
+    for (const char c : {'"', '\\', '/'}) escapes[static_cast<unsigned char>(c)] = c;
+    escapes['\b'] = 'b';
+    escapes['\f'] = 'f';
+    escapes['\n'] = 'n';
+    escapes['\r'] = 'r';
+    escapes['\t'] = 't';
+    return escapes;
+  }();
+
   void writeString(std::string_view text) {
     constexpr std::string_view kDigits = "0123456789abcdef";
     out_ += '"';
     std::size_t plain = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
-      const auto byte = static_cast<unsigned char>(text[i]);
-      if (byte >= 0x20 && byte != '"' && byte != '\\' && (byte != '/' || !style_.escapeSlashes)) {
-        continue;
+      while (text.size() - i >= 8) {
+        const std::size_t skipped = firstSpecialOfEight<'/', false>(text.data() + i);
+        i += skipped;
+        if (skipped != 8) break;
       }
-      out_.append(text, plain, i - plain);
+      if (i == text.size()) break;
+      const auto byte = static_cast<unsigned char>(text[i]);
+      const char escape = kEscapes[byte];
+      if (escape == 0 || (escape == '/' && !style_.escapeSlashes)) continue;
+      out_.append(text.substr(plain, i - plain));
       plain = i + 1;
       out_ += '\\';
-      constexpr std::string_view kNamed = "\b\f\n\r\t";
-      if (const auto named = kNamed.find(text[i]); named != std::string_view::npos) {
-        out_ += "bfnrt"[named];
-      } else if (byte < 0x20) {
-        out_ += {'u', '0', '0', kDigits[byte >> 4U], kDigits[byte & 15U]};
+      if (escape == 1) {
+        out_ += "u00";
+        out_ += kDigits[byte >> 4U];
+        out_ += kDigits[byte & 15U];
       } else {
-        out_ += text[i];
+        out_ += escape;
       }
     }
-    out_.append(text, plain);
+    out_.append(text.substr(plain));
     out_ += '"';
   }
 
-  std::string& out_;
+  Output out_;
   JSONStyle style_;
   std::size_t depth_ = 0;
 };

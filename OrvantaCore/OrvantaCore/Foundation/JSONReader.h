@@ -1,16 +1,15 @@
 #pragma once
 
-#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <string>
 #include <string_view>
 
 #include "Foundation/Number.h"
+#include "Foundation/TextScan.h"
 
 namespace orvanta {
 
@@ -275,24 +274,11 @@ bool JSONReader<Client>::readString() {
 
 template <class Client>
 bool JSONReader<Client>::skipPlain() {
-  constexpr std::uint64_t kOnes = 0x0101010101010101U;
-  constexpr std::uint64_t kHighs = 0x8080808080808080U;
   for (;;) {
-    // Eight bytes at a time: find the first that is below a space, a quote, a backslash or above
-    // ASCII. A borrow may mark bytes behind the first marked one, never before it.
     while (end_ - at_ >= 8) {
-      std::uint64_t word;
-      std::memcpy(&word, at_, 8);
-      const std::uint64_t quote = word ^ (kOnes * '"');
-      const std::uint64_t backslash = word ^ (kOnes * '\\');
-      const std::uint64_t marked =
-          ((((word - kOnes * ' ') | (quote - kOnes) | (backslash - kOnes)) & ~word) | word) & kHighs;
-      if (marked == 0) {
-        at_ += 8;
-        continue;
-      }
-      at_ += std::countr_zero(marked) / 8;
-      break;
+      const std::size_t plain = firstSpecialOfEight<0, true>(at_);
+      at_ += plain;
+      if (plain != 8) break;
     }
     if (atEnd()) return true;
     const auto byte = static_cast<unsigned char>(*at_);

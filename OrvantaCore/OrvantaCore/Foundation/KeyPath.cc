@@ -16,6 +16,15 @@ std::vector<Value> splitKeyPath(std::string_view path) {
   }
 }
 
+std::string joinedKeyPath(std::span<const Value> path) {
+  std::string joined;
+  for (const Value& name : path) {
+    if (&name != path.data()) joined += '.';
+    joined += *name.string();
+  }
+  return joined;
+}
+
 Value valueForKeyPath(const Value& receiver, std::span<const Value> path) {
   if (path.empty() || receiver.isNil()) return receiver;
   if (const Dictionary* dictionary = receiver.dictionary()) {

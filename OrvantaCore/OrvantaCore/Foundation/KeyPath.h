@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <vector>
 
 #include "Foundation/Value.h"
@@ -9,6 +10,9 @@ namespace orvanta {
 
 /// The names of a dotted path, as string values: "aps.alert" is "aps", "alert".
 std::vector<Value> splitKeyPath(std::string_view path);
+
+/// The dotted path of names.
+std::string joinedKeyPath(std::span<const Value> path);
 
 /// What stands at a path below a value. A dictionary answers the key's entry, an object its
 /// property; an array applies the rest of the path to each of its elements and answers the array

@@ -1,19 +1,12 @@
 #include "Foundation/Node.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <new>
 
 namespace orvanta {
 
 namespace {
 constexpr std::size_t kLargestBlock = std::size_t{1} << 20;
-
-void* allocateBytes(std::size_t bytes) {
-  void* memory = std::malloc(bytes);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
 }  // namespace
 
 Arena::Arena(std::size_t firstBlock) noexcept
@@ -23,13 +16,13 @@ Arena::Arena(std::size_t firstBlock) noexcept
 
 Arena* Arena::create(std::size_t firstBlock) {
   firstBlock = (firstBlock + kAlignment - 1) & ~(kAlignment - 1);
-  return new (allocateBytes(sizeof(Arena) + firstBlock)) Arena(firstBlock);
+  return new (::operator new(sizeof(Arena) + firstBlock)) Arena(firstBlock);
 }
 
 void Arena::addBlock(std::size_t atLeast) {
   const std::size_t bytes = std::max(atLeast, nextBlockBytes_);
   nextBlockBytes_ = std::min(2 * nextBlockBytes_, kLargestBlock);
-  blocks_ = new (allocateBytes(sizeof(Block) + bytes)) Block{blocks_, bytes};
+  blocks_ = new (::operator new(sizeof(Block) + bytes)) Block{blocks_, bytes};
   next_ = reinterpret_cast<std::byte*>(blocks_) + sizeof(Block);
   end_ = next_ + bytes;
 }
@@ -37,11 +30,11 @@ void Arena::addBlock(std::size_t atLeast) {
 void Arena::destroy() noexcept {
   while (blocks_ != nullptr) {
     Block* previous = blocks_->previous;
-    std::free(blocks_);
+    ::operator delete(blocks_);
     blocks_ = previous;
   }
   this->~Arena();
-  std::free(this);
+  ::operator delete(this);
 }
 
 }  // namespace orvanta

@@ -59,15 +59,7 @@ void Value::destroyNode() const noexcept {
   }
 }
 
-const Array* Value::array() const noexcept {
-  return kind() == Kind::array ? payloadAs<Array>() : nullptr;
-}
-
-const Dictionary* Value::dictionary() const noexcept {
-  return kind() == Kind::dictionary ? payloadAs<Dictionary>() : nullptr;
-}
-
-const Url* Value::url() const noexcept { return kind() == Kind::url ? payloadAs<Url>() : nullptr; }
+const Url* Value::url() const noexcept { return payloadIf<Url>(Kind::url); }
 
 Object* Value::object() const noexcept {
   if (kind() != Kind::object) return nullptr;

@@ -164,12 +164,44 @@ class Value {
   Value(Kind kind, const Node* node) noexcept : Value(kind, std::bit_cast<std::uint64_t>(node)) {
     bytes_[0] |= kSharedBit;
   }
+  /// What a value is made of, without counting a reference; for whoever counts otherwise.
+  struct Bits {
+    std::uint64_t words[2];
+  };
+  explicit Value(Bits bits) noexcept {
+    setWord(0, bits.words[0]);
+    setWord(1, bits.words[1]);
+  }
+  Bits bits() const noexcept { return {{word(0), word(1)}}; }
+  static Bits sharedBits(Kind kind, const Node* node) noexcept {
+    return {{static_cast<std::uint64_t>(kind) | kSharedBit, std::bit_cast<std::uint64_t>(node)}};
+  }
   /// Text of at most kInlineCapacity bytes.
-  static Value inlineString(std::string_view text) noexcept {
-    Value value(Kind::string, std::uint64_t{0});
-    value.bytes_[1] = static_cast<unsigned char>(text.size());
-    if (!text.empty()) std::memcpy(value.bytes_ + 2, text.data(), text.size());
-    return value;
+  static Bits inlineBits(std::string_view text) noexcept {
+    const char* at = text.data();
+    const std::size_t size = text.size();
+    std::uint64_t first = 0;   // the text's bytes 0 to 7
+    std::uint64_t second = 0;  // and 8 to 13
+    if (size >= 8) {
+      first = load<std::uint64_t>(at);
+      if (size > 8) second = load<std::uint64_t>(at + size - 8) >> (8 * (16 - size));
+    } else if (size >= 4) {
+      first = load<std::uint32_t>(at) | std::uint64_t{load<std::uint32_t>(at + size - 4)}
+                                            << (8 * (size - 4));
+    } else if (size > 0) {
+      first = load<std::uint8_t>(at) |
+              std::uint64_t{load<std::uint8_t>(at + size / 2)} << (8 * (size / 2)) |
+              std::uint64_t{load<std::uint8_t>(at + size - 1)} << (8 * (size - 1));
+    }
+    return {{static_cast<std::uint64_t>(Kind::string) | size << 8U | first << 16U,
+             first >> 48U | second << 16U}};
+  }
+  static Value inlineString(std::string_view text) noexcept { return Value(inlineBits(text)); }
+  template <class T>
+  static T load(const char* at) noexcept {
+    T loaded;
+    std::memcpy(&loaded, at, sizeof loaded);
+    return loaded;
   }
 
   std::uint64_t word(int index) const noexcept {
@@ -196,6 +228,10 @@ class Value {
   void destroyNode() const noexcept;
   /// The text of a value that is known to be a string or a URL.
   std::string_view text() const noexcept;
+  template <class T>
+  const T* payloadIf(Kind wanted) const noexcept {
+    return kind() == wanted ? payloadAs<T>() : nullptr;
+  }
   /// The second word as the one-pointer class that stands for it.
   template <class T>
   const T* payloadAs() const noexcept {

@@ -57,7 +57,7 @@ Ref<OrvantaBaseModel> OrvantaBaseModel::copyWithZone() const {
 struct OrvantaBaseModel::OwnTables {
   Dictionary keys;
   Dictionary classes;
-  std::optional<MappingPlan> plan;  // only when a table was set
+  std::shared_ptr<const MappingPlan> plan;  // only when a table was set
 };
 
 OrvantaBaseModel::OrvantaBaseModel() = default;
@@ -78,13 +78,15 @@ const Dictionary& OrvantaBaseModel::keyPathClassDictionary() const {
 void OrvantaBaseModel::setKeyPathPropertyDictionary(Dictionary table) {
   keyPathPropertyDictionary();
   ownTables_->keys = std::move(table);
-  ownTables_->plan.emplace(isa(), keyPathPropertyDictionary(), keyPathClassDictionary());
+  ownTables_->plan = std::make_shared<const MappingPlan>(isa(), keyPathPropertyDictionary(),
+                                                         keyPathClassDictionary());
 }
 
 void OrvantaBaseModel::setKeyPathClassDictionary(Dictionary table) {
   keyPathClassDictionary();
   ownTables_->classes = std::move(table);
-  ownTables_->plan.emplace(isa(), keyPathPropertyDictionary(), keyPathClassDictionary());
+  ownTables_->plan = std::make_shared<const MappingPlan>(isa(), keyPathPropertyDictionary(),
+                                                         keyPathClassDictionary());
 }
 
 const MappingPlan& OrvantaBaseModel::mappingPlan() const {
@@ -102,12 +104,13 @@ class Lookup {
   explicit Lookup(const Dictionary& dictionary) : dictionary_(dictionary) {}
 
   const Value& find(const MappingEntry& entry) {
-    if (entry.path.size() == 1) return dictionary_.valueForKey(entry.path.front());
+    if (entry.path.size() == 1) return dictionary_.valueForKey(entry.path.front(), hint_);
     if (entry.path.size() == 2) {
       if (!entry.sharesParent) {
         parent_ = dictionary_.valueForKey(entry.path.front()).dictionary();
+        hint_ = 0;
       }
-      if (parent_ != nullptr) return parent_->valueForKey(entry.path.back());
+      if (parent_ != nullptr) return parent_->valueForKey(entry.path.back(), hint_);
     }
     collected_ = valueForKeyPath(dictionary_, entry.path);
     return collected_;
@@ -116,6 +119,7 @@ class Lookup {
  private:
   const Dictionary& dictionary_;
   const Dictionary* parent_ = nullptr;
+  std::size_t hint_ = 0;  // entries often come in the table's order
   Value collected_;
 };
 
@@ -126,21 +130,24 @@ constexpr LogSite kUpdateFailed{"-[OrvantaBaseModel updateWithDictionary:]", "Or
 
 bool OrvantaBaseModel::updateWithDictionary(const Dictionary* dictionary) {
   if (dictionary == nullptr) return true;
+  // Setters may replace what holds the dictionary or the table.
+  const Dictionary payload = *dictionary;
+  const auto ownPlan = ownTables_ ? ownTables_->plan : nullptr;
   const MappingEntry* current = nullptr;
   const auto refuse = [&](std::string_view error) {
     if (RefusalRecorder::current() != nullptr && current != nullptr) {
-      recordRefusal(*current, *dictionary);
+      recordRefusal(*current, payload);
     }
     if (error.data() != nullptr) {
       logError(kUpdateFailed, [&] {
         return formatted("*** Caught exception deserializing dictionary '%@' to class '%@' : %@",
-                         {describe(*dictionary), isa().name, error});
+                         {describe(payload), isa().name, error});
       });
     }
     return false;
   };
   try {
-    Lookup lookup(*dictionary);
+    Lookup lookup(payload);
     for (const MappingEntry& entry : mappingPlan().entries) {
       current = &entry;
       const Value& found = lookup.find(entry);
@@ -346,15 +353,15 @@ void OrvantaBaseModel::recordRefusal(const MappingEntry& entry,
                                      value.kindName(), reason);
 }
 
-Value OrvantaBaseModel::readByHand(const Dictionary& dictionary, std::string_view keyPath,
+Value OrvantaBaseModel::readByHand(const Dictionary& dictionary, std::span<const Value> keyPath,
                                    std::string_view property) const {
   try {
     return valueForKeyPath(dictionary, keyPath);
   } catch (const Exception&) {
     if (RefusalRecorder* recorder = RefusalRecorder::current()) {
       std::string reason;
-      const Value value = reachedAt(dictionary, splitKeyPath(keyPath), reason);
-      recorder->record(isa(), keyPath, property, value.kindName(), reason);
+      const Value value = reachedAt(dictionary, keyPath, reason);
+      recorder->record(isa(), joinedKeyPath(keyPath), property, value.kindName(), reason);
     }
     throw;
   }

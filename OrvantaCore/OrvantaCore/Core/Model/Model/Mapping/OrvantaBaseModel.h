@@ -105,7 +105,7 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
   static const Class kClass;
 
   /// Reads a key path of a payload outside the update's catch: the undefined-key exception passes.
-  Value readByHand(const Dictionary& dictionary, std::string_view keyPath,
+  Value readByHand(const Dictionary& dictionary, std::span<const Value> keyPath,
                    std::string_view property) const;
   /// Tells a recorder that a model which this one needs refused its dictionary.
   void recordRefusedModel(std::string_view keyPath, std::string_view property) const;

@@ -1,3 +1,5 @@
+#include <new>
+
 #include "Foundation/Description.h"
 #include "Foundation/JSON.h"
 #include "Foundation/KeyPath.h"
@@ -9,8 +11,10 @@ Value OrvantaBaseModel::readForWriting(const MappingEntry& entry) const {
   try {
     return entry.property != nullptr ? entry.property->valueIn(*this)
                                      : valueForKeyPath(Value(this), entry.propertyPath);
-  } catch (const Exception&) {
-    return {};  // a property that the object does not have is not written
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (const std::exception&) {
+    return {};  // what cannot be read is not written
   }
 }
 
@@ -29,7 +33,7 @@ Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
       continue;
     }
     if (value.isNil() || !convert(value, entry.converter)) continue;
-    result.set(entry.key, std::move(value));
+    result.append(entry.key, std::move(value));
   }
   if (classInfo) result.set("klazz", isa().name);
   return result;

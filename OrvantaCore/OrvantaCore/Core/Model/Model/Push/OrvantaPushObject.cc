@@ -1,6 +1,6 @@
 #include "Push/OrvantaPushObject.h"
 
-#include "Mapping/RefusalRecorder.h"
+#include "Foundation/KeyPath.h"
 
 namespace orvanta {
 
@@ -8,13 +8,15 @@ ORVANTA_IMPLEMENTATION(OrvantaPushObject)
 
 bool OrvantaPushObject::updateWithDictionary(const Dictionary* dictionary) {
   badge_ = static_cast<std::uint64_t>(kUnsetInteger);
-  const auto read = [&](std::string_view keyPath, std::string_view property) {
+  static const std::vector<Value> kAlertPath = splitKeyPath("aps.alert");
+  static const std::vector<Value> kActionPath = splitKeyPath("_ov.act");
+  const auto read = [&](std::span<const Value> keyPath, std::string_view property) {
     return dictionary != nullptr ? readByHand(*dictionary, keyPath, property) : Value();
   };
   alert_ = make<OrvantaPushObjectAlert>(&OrvantaPushObjectAlert::initWithValue,
-                                        read("aps.alert", "alert"));
+                                        read(kAlertPath, "alert"));
   action_ = make<OrvantaPushObjectAction>(&OrvantaPushObjectAction::initWithValue,
-                                          read("_ov.act", "action"));
+                                          read(kActionPath, "action"));
   if (auto* action = action_.get()) action->setDeeplinkURLAsURL();
 
   bool updated = false;
