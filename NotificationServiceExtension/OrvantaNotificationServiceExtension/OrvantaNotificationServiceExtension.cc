@@ -8,9 +8,6 @@
 
 namespace orvanta {
 
-namespace {
-
-/// The buttons that a payload asks for; nil when it names no category or no action.
 Ref<OrvantaUserNotificationCategory> interactiveCategory(const OrvantaPushObject& object) {
   const auto identifier = object.interactiveCategoryIdentifier().get();
   const Array* given = object.interactiveActions().get();
@@ -26,13 +23,10 @@ Ref<OrvantaUserNotificationCategory> interactiveCategory(const OrvantaPushObject
   return category;
 }
 
-/// The name of the sender's picture, if the payload asks for one.
 std::optional<std::string_view> pushIcon(const OrvantaPushObject& object) {
   const auto* style = object.pushStyle().get();
   return style != nullptr ? style->pushIcon().get() : std::nullopt;
 }
-
-}  // namespace
 
 Ref<OrvantaPushObject> OrvantaNotificationServiceExtension::pushObject() const {
   try {

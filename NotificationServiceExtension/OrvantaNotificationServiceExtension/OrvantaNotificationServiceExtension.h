@@ -2,6 +2,8 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string_view>
 
 #include "Foundation/Value.h"
 #include "Notifications/OrvantaUserNotificationCategory.h"
@@ -9,6 +11,13 @@
 #include "Push/OrvantaPushObject.h"
 
 namespace orvanta {
+
+/// The buttons that a payload asks for; nil when it names no category, or no action. Elements that
+/// are no actions are passed over.
+Ref<OrvantaUserNotificationCategory> interactiveCategory(const OrvantaPushObject& object);
+
+/// The name of the sender's picture, if the payload asks for one; it lives as long as the object.
+std::optional<std::string_view> pushIcon(const OrvantaPushObject& object);
 
 /// Enriches one incoming notification: registers the buttons that its payload asks for, attaches
 /// its media, and turns it into a communication notification. Whatever goes wrong on the way, the

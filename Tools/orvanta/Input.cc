@@ -1,10 +1,12 @@
 #include "Input.h"
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstring>
 #include <fstream>
+#include <iostream>
 #include <iterator>
-#include <ostream>
 
 #include "Foundation/JSON.h"
 
@@ -19,7 +21,12 @@ std::string readAll(std::istream& in, const std::string& name) {
 }
 
 std::string readText(const std::string& file, const std::string& name, std::istream& standardIn) {
-  if (file == "-") return readAll(standardIn, name);
+  if (file == "-") {
+    if (&standardIn == &std::cin && isatty(STDIN_FILENO) != 0) {
+      std::cerr << "orvanta: reading JSON from the terminal; end it with Ctrl-D\n";
+    }
+    return readAll(standardIn, name);
+  }
   errno = 0;
   std::ifstream in(file, std::ios::binary);
   if (in) in.peek();  // a folder opens, but cannot be read
@@ -44,13 +51,12 @@ Input readInput(const std::string& file, const Streams& streams) {
   JSONError error;
   const Value value = parseJSON(input.text, &error);
   if (value.isNil()) {
-    throw Failure(ExitCode::unreadable, place(input.name, error.offset, input.text) + ": " +
-                                            std::string(error.reason));
+    throw Failure(ExitCode::unreadable,
+                  place(input.name, error.offset, input.text) + ": " + std::string(error.reason));
   }
   if (value.dictionary() == nullptr) {
     throw Failure(ExitCode::unreadable, input.name + ": the text is " +
-                                            std::string(value.kindName()) +
-                                            ", not a JSON object");
+                                            std::string(value.kindName()) + ", not a JSON object");
   }
   for (const DuplicateKey& duplicate : findDuplicateKeys(input.text)) {
     streams.err << "orvanta: " << place(input.name, duplicate.offset, input.text)

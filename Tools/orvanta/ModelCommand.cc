@@ -11,11 +11,10 @@ namespace orvanta::tool {
 
 const Class& classForArgument(const std::string& name) {
   if (const Class* cls = modelClassNamed(name)) return *cls;
-  const auto nearest =
-      std::min_element(modelClasses().begin(), modelClasses().end(),
-                       [&](const Class* a, const Class* b) {
-                         return editDistance(a->name, name) < editDistance(b->name, name);
-                       });
+  const auto nearest = std::min_element(
+      modelClasses().begin(), modelClasses().end(), [&](const Class* a, const Class* b) {
+        return editDistance(a->name, name) < editDistance(b->name, name);
+      });
   throw Failure(ExitCode::usage, "there is no class \"" + printable(name) + "\"; the nearest is " +
                                      std::string((*nearest)->name));
 }

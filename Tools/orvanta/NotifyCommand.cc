@@ -99,7 +99,10 @@ std::string counted(std::size_t count, const std::string& noun) {
   return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }
 
+/// What the payload asks for, as the extension reads it.
 void printWishes(const Dictionary& payload, Sheet& sheet) {
+  Platform silent;  // the extension's own reading has logged what there is to log
+  const PlatformOverride override(silent);
   RefusalRecorder recorder;
   Ref<OrvantaPushObject> push;
   try {
@@ -113,17 +116,16 @@ void printWishes(const Dictionary& payload, Sheet& sheet) {
     sheet.row("", "so the content goes on unchanged");
     return;
   }
-  const auto* actions = push->interactiveActions().get();
-  if (const auto category = push->interactiveCategoryIdentifier().get();
-      category && actions != nullptr && !actions->empty()) {
-    sheet.row("buttons", counted(actions->size(), "action") + " under the category \"" +
-                             std::string(*category) + "\"");
+  if (const auto category = interactiveCategory(*push)) {
+    sheet.row("asks for", counted(category->actions().get()->size(), "button") +
+                              " under the category \"" +
+                              std::string(*category->identifier().get()) + "\"");
   }
   if (const Url* media = push->mediaAttachmentURL().get()) {
-    sheet.row("media", media->absoluteString());
+    sheet.row("asks for", "media from " + std::string(media->absoluteString()));
   }
-  if (const auto* style = push->pushStyle().get(); style != nullptr && style->pushIcon().get()) {
-    sheet.row("icon", *style->pushIcon().get());
+  if (const auto icon = pushIcon(*push)) {
+    sheet.row("asks for", "the sender icon \"" + std::string(*icon) + "\"");
   }
 }
 
@@ -151,20 +153,23 @@ void print(const Input& input, const HostReport& report, std::ostream& out) {
   } else {
     std::string reasons = "no, the system would not start the extension:";
     for (const std::string& reason : report.launch.unmet) reasons.append("\n").append(reason);
-    sheet.heading("Start", reasons + "\nwhat follows is what the extension does all the same");
+    sheet.heading("Start", reasons + "\nwhat follows is what the extension would do");
   }
   sheet.heading("Steps", "");
   sheet.step(0.0, "the extension gets the request");
   printWishes(input.object, sheet);
   for (const Delivery& delivery : report.deliveries) {
-    std::string text = delivery.content ? "content delivered by the " : "no content delivered by the ";
+    std::string text =
+        delivery.content ? "content delivered by the " : "no content delivered by the ";
     text.append(nameOf(delivery.by));
     sheet.step(delivery.time, text + (delivery.ignored ? ", which the system ignores" : ""));
   }
   if (report.deliveries.empty()) sheet.row("", "nothing was delivered");
   for (const ShownNotification& notification : report.shown) {
     const bool original = notification.from == ShownNotification::From::original;
-    sheet.heading("Shown", original ? "the original content" : "the delivered content");
+    sheet.heading("Shown", !report.launch.starts() ? "had the system started the extension"
+                           : original              ? "the original content"
+                                                   : "the delivered content");
     printContent(notification.content, sheet);
   }
 }

@@ -13,9 +13,8 @@ namespace {
 Dictionary classEntry(const Class& cls) {
   Array properties;
   for (const Property& property : cls.properties) {
-    properties.append(Dictionary{{"name", property.name},
-                                 {"type", property.encoding},
-                                 {"readOnly", property.readOnly}});
+    properties.append(Dictionary{
+        {"name", property.name}, {"type", property.encoding}, {"readOnly", property.readOnly}});
   }
   Dictionary keys;
   for (const KeyEntry& entry : cls.keyPathPropertySelectorMapping) {

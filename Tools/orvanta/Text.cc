@@ -14,8 +14,8 @@ std::string printable(std::string_view text, std::size_t indent) {
   std::string result;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const auto byte = static_cast<unsigned char>(text[i]);
-    const bool isC1 = byte == 0xC2 && i + 1 < text.size() &&
-                      static_cast<unsigned char>(text[i + 1]) < 0xA0;
+    const bool isC1 =
+        byte == 0xC2 && i + 1 < text.size() && static_cast<unsigned char>(text[i + 1]) < 0xA0;
     if (byte == '\n') {
       result.append("\n").append(indent, ' ');
     } else if (byte < 0x20 || byte == 0x7F || isC1) {

@@ -58,11 +58,12 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
   modelCommand->add_option("CLASS", modelOptions.className, "See `orvanta schema`")->required();
   auto* file =
       modelCommand->add_option("FILE", modelOptions.file, "JSON file")->capture_default_str();
-  modelCommand->add_flag("--init", modelOptions.init, "Read nothing: a new object with its defaults")
+  modelCommand
+      ->add_flag("--init", modelOptions.init, "Read nothing: a new object with its defaults")
       ->excludes(file);
   modelCommand
       ->add_option("--update", modelOptions.updates, "Then update it from this file; repeatable")
-      ->type_name("FILE")
+      ->option_text("FILE")
       ->allow_extra_args(false);
   modelCommand->add_flag("--class-info", modelOptions.classInfo,
                          "Name the class of every model under \"klazz\"");
@@ -74,7 +75,10 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
   schemaCommand->add_option("CLASS", schemaOptions.className, "Only this class");
   schemaCommand->add_flag("--json", schemaOptions.json, "Print JSON");
 
-  for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
+  for (CLI::App* command : app.get_subcommands({})) {
+    command->fallthrough();
+    command->footer("--log-level and the exit codes: see `orvanta --help`.");
+  }
 
   try {
     app.parse(argc, argv);

@@ -21,5 +21,7 @@ build_preset() {
   shift
   (cd "$root" && cmake --build --preset "$preset" "$@") </dev/null 2>&1 |
     sed -u -e '/^\[[0-9]*\/[0-9]*\] Re-checking globbed directories\.\.\.$/d' \
+      -e '/^\(-- \)\?\(GLOB mismatch!\|Configuring done\|Generating done\|Build files have been written to:.*\)$/d' \
+      -e '/^\[[0-9]*\/[0-9]*\] Re-running CMake\.\.\.$/d' \
       -e '/^ninja: no work to do\.$/d' >&2
 }

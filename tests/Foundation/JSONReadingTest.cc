@@ -27,6 +27,8 @@ TEST(JSONReading, ReadsEveryWellFormedText) {
       {R"("\u0041\u00e9\u00E9\u20ac\uFFFF")", "A\u00e9\u00e9\u20ac\uFFFF"},
       {R"("\ud83d\ude00\uD800\uDC00\udbff\udfff")", "\U0001F600\U00010000\U0010FFFF"},
       {R"("\u0000")", std::string(1, '\0')},
+      {R"("\u007f\u0080\u07ff\u0800")", "\x7F\u0080\u07ff\u0800"},
+      {R"(["\n", "\t", "a\\"])", Array({"\n", "\t", "a\\"})},
       {"\"\x7F\u00e9\u20ac\U0001F600\U0010FFFF\uD7FF\uE000\"",
        "\x7F\u00e9\u20ac\U0001F600\U0010FFFF\uD7FF\uE000"},
       {'"' + longText + "\\n" + longText + "\\u00e9" + longText + '"',
@@ -48,12 +50,16 @@ TEST(JSONReading, FindsSpecialCharactersAtEveryOffset) {
     for (std::size_t after = 0; after < 12; ++after) {
       const std::string head(before, 'h');
       const std::string tail(after, 't');
-      EXPECT_EQ(parsed('"' + head + "\\n" + tail + '"'), Value(head + "\n" + tail));
-      EXPECT_EQ(parsed('"' + head + "\xC3\xA9" + tail + '"'), Value(head + "\xC3\xA9" + tail));
-      EXPECT_EQ(parsed('"' + head + " !#[]~\x7F" + tail + '"'), Value(head + " !#[]~\x7F" + tail));
+      const auto plain = [&](std::string_view middle) {
+        return std::string(head).append(middle).append(tail);
+      };
+      const auto quoted = [&](std::string_view middle) { return '"' + plain(middle) + '"'; };
+      EXPECT_EQ(parsed(quoted("\\n")), Value(plain("\n")));
+      EXPECT_EQ(parsed(quoted("\u00e9")), Value(plain("\u00e9")));
+      EXPECT_EQ(parsed(quoted(" !#[]~\x7F")), Value(plain(" !#[]~\x7F")));
       for (const char bad : {'\0', '\n', '\x1F', '\x80', '\xFF'}) {
         JSONError error;
-        EXPECT_TRUE(parseJSON('"' + head + bad + tail + '"', &error).isNil());
+        EXPECT_TRUE(parseJSON(quoted({&bad, 1}), &error).isNil());
         EXPECT_EQ(error.offset, before + 1);
       }
     }
@@ -143,7 +149,7 @@ TEST(JSONReading, TellsWhyAndWhereATextIsIllFormed) {
       {"{\"a\":1", kOpen, 1, 7},
       {"{\"a\":1,}", kKey, 1, 8},
       {"{\"a\":1]", kInDictionary, 1, 7},
-      {"{\"a\":1 \"b\":2}", kInDictionary, 1, 8},
+      {R"({"a":1 "b":2})", kInDictionary, 1, 8},
       {"{a:1}", kKey, 1, 2},
       {"{1:1}", kKey, 1, 2},
       {"{'a':1}", kKey, 1, 2},
@@ -175,19 +181,21 @@ TEST(JSONReading, TellsWhyAndWhereATextIsIllFormed) {
       {"\"abc\\n", kQuote, 1, 1},
       {"[\"a\nb\"]", kControl, 1, 4},
       {"\"\t\"", kControl, 1, 2},
-      {"\"\\x\"", kEscape, 1, 2},
-      {"\"\\U0041\"", kEscape, 1, 2},
+      {R"("\x")", kEscape, 1, 2},
+      {R"("\U0041")", kEscape, 1, 2},
       {"\"\\", kCutEscape, 1, 2},
-      {"\"\\u12\"", kHex, 1, 2},
-      {"\"\\u12g4\"", kHex, 1, 2},
-      {"\"\\u-123\"", kHex, 1, 2},
-      {"\"\\u0x41\"", kHex, 1, 2},
-      {"\"\\ud800\"", kSurrogate, 1, 2},
-      {"\"\\udc00\"", kSurrogate, 1, 2},
-      {"\"a\\ud800\\u0041\"", kSurrogate, 1, 3},
-      {"\"\\ud800\\ud800\"", kSurrogate, 1, 2},
-      {"\"\\udc00\\ud800\"", kSurrogate, 1, 2},
-      {"\"\\ud800x\"", kSurrogate, 1, 2},
+      {R"("\u12")", kHex, 1, 2},
+      {R"("\u12g4")", kHex, 1, 2},
+      {R"("\u-123")", kHex, 1, 2},
+      {R"("\u0x41")", kHex, 1, 2},
+      {R"("\ud800")", kSurrogate, 1, 2},
+      {R"("\udc00")", kSurrogate, 1, 2},
+      {R"("a\ud800\u0041")", kSurrogate, 1, 3},
+      {R"("\ud800\ud800")", kSurrogate, 1, 2},
+      {R"("\udc00\ud800")", kSurrogate, 1, 2},
+      {R"("\ud800x")", kSurrogate, 1, 2},
+      {R"("\udc00\udc00")", kSurrogate, 1, 2},
+      {R"("\ud800\ue000")", kSurrogate, 1, 2},
       {"\"\x80\"", kUTF8, 1, 2},
       {"\"\xC3\"", kUTF8, 1, 2},
       {"\"\xC3(\"", kUTF8, 1, 2},

@@ -12,6 +12,7 @@ namespace {
 template <class Work>
 void inThreads(const Work& work) {
   std::vector<std::thread> threads;
+  threads.reserve(4);
   std::atomic<int> waiting{4};
   for (int i = 0; i < 4; ++i) {
     threads.emplace_back([&work, &waiting, i] {

@@ -84,7 +84,7 @@ class Labelled : public Object {
   }
 
  private:
-  explicit Labelled(const Value& label) : label_(label) { ++alive; }
+  explicit Labelled(Value label) : label_(std::move(label)) { ++alive; }
   Value label_;
 };
 

@@ -31,7 +31,7 @@ class Array {
   void reserve(std::size_t capacity);
   /// Appends a value. A nil throws the invalid-argument exception.
   void append(Value element);
-  /// Replaces an element that exists.
+  /// Replaces an element that exists; a nil throws as well.
   void set(std::size_t index, Value element);
   /// Removes that many elements (all, when there are fewer) from the front.
   void removeFirst(std::size_t count);

@@ -16,7 +16,7 @@ namespace orvanta {
 ///     }
 std::string describe(const Value& value);
 
-/// Replaces each "%@" of a format, in order, by the arguments' texts.
+/// Replaces each "%@" of a format, in order, by the arguments' texts; there are as many.
 std::string formatted(std::string_view format, std::initializer_list<std::string_view> arguments);
 
 }  // namespace orvanta

@@ -126,6 +126,8 @@ inline const Value& Dictionary::valueForKey(const Value& key, std::size_t& hint)
   return found;
 }
 
-inline const Dictionary* Value::dictionary() const noexcept { return payloadIf<Dictionary>(Kind::dictionary); }
+inline const Dictionary* Value::dictionary() const noexcept {
+  return payloadIf<Dictionary>(Kind::dictionary);
+}
 
 }  // namespace orvanta

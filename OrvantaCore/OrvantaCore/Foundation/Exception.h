@@ -23,7 +23,8 @@ class Exception : public std::exception {
   const std::string& reason() const noexcept { return reason_; }
   const char* what() const noexcept override { return reason_.c_str(); }
 
-  /// "[<Class> valueForUndefinedKey:]: …" or, for a write, "[<Class> setValue:forUndefinedKey:]: …".
+  /// "[<Class> valueForUndefinedKey:]: …" or, for a write, "[<Class> setValue:forUndefinedKey:]:
+  /// …".
   static Exception undefinedKey(std::string_view className, std::string_view key, bool writing);
   /// "-[Class selector]: unrecognized selector sent to instance".
   static Exception unrecognizedSelector(std::string_view className, std::string_view selector);

@@ -33,8 +33,7 @@ TextPosition TextPosition::of(std::size_t offset, std::string_view text) {
 /// a container takes it over when it ends, and only the root is counted for the outside.
 class TreeBuilder {
  public:
-  explicit TreeBuilder(std::size_t textBytes)
-      : arena_(Arena::create(textBytes / 2 * 5 + 512)) {
+  explicit TreeBuilder(std::size_t textBytes) : arena_(Arena::create(textBytes / 2 * 5 + 512)) {
     stack_.reserve(std::clamp(textBytes / 24, std::size_t{16}, std::size_t{1024}));
   }
   TreeBuilder(const TreeBuilder&) = delete;
@@ -90,8 +89,7 @@ class TreeBuilder {
   static unsigned signature(const Bits& key) {
     constexpr std::uint64_t kSpread = 0x9E3779B97F4A7C15U;
     const bool isLong = (key.words[0] & Value::kSharedBit) != 0;  // all long keys are alike here
-    return isLong ? 0
-                  : static_cast<unsigned>(((key.words[0] ^ key.words[1]) * kSpread) >> 58U);
+    return isLong ? 0 : static_cast<unsigned>(((key.words[0] ^ key.words[1]) * kSpread) >> 58U);
   }
   /// Replaces the value of a key that the node has already; false when it has not.
   static bool replace(DictionaryNode& node, const Item& item) {
@@ -236,13 +234,15 @@ class JSONWriter {
         writeString(*value.string());
         return true;
       case Kind::array:
-        return writeContainer('[', ']', *value.array(), [](const Value& element) { return &element; });
+        return writeContainer('[', ']', *value.array(),
+                              [](const Value& element) { return &element; });
       case Kind::dictionary:
-        return writeContainer('{', '}', *value.dictionary(), [this](const Dictionary::Entry& entry) {
-          writeString(entry.key());
-          out_ += std::string_view(style_.pretty ? " : " : ":");
-          return &entry.value;
-        });
+        return writeContainer('{', '}', *value.dictionary(),
+                              [this](const Dictionary::Entry& entry) {
+                                writeString(entry.key());
+                                out_ += std::string_view(style_.pretty ? " : " : ":");
+                                return &entry.value;
+                              });
       default:
         return false;
     }

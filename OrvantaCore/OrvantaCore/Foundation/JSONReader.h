@@ -35,7 +35,8 @@ struct JSONError {
 ///     void beginDictionary(offset); void key(text, offset); void endDictionary(offset);
 ///     void beginArray(offset);      void endArray(offset);
 ///     void string(text, offset);    void boolean(flag, offset);  void null(offset);
-///     void integer(int64, offset);  void unsignedInteger(uint64, offset);  void real(double, offset);
+///     void integer(int64, offset);  void unsignedInteger(uint64, offset);  void real(double,
+///     offset);
 ///
 /// where an offset is the token's first byte (TextPosition::of makes a line and a column of it),
 /// and a text is valid UTF-8 that lives until the call returns. Integers beyond the signed 64-bit
@@ -59,7 +60,10 @@ class JSONReader {
   }
   std::size_t offset(const char* where) const { return static_cast<std::size_t>(where - start_); }
   void skipSpace() {
-    while (at_ != end_ && (*at_ == ' ' || *at_ == '\n' || *at_ == '\r' || *at_ == '\t')) ++at_;
+    while (at_ != end_ && static_cast<unsigned char>(*at_) <= ' ' &&
+           (*at_ == ' ' || *at_ == '\n' || *at_ == '\r' || *at_ == '\t')) {
+      ++at_;
+    }
   }
   bool atEnd() const { return at_ == end_; }
 
@@ -73,6 +77,8 @@ class JSONReader {
   bool readReal(const char* first);
   /// Reads a string whose quote stands at at_; its text is slice_ afterwards.
   bool readString();
+  /// The same for a string that is known to be plain up to a place.
+  bool readStringFrom(const char* checked);
   bool readEscape();
   bool readHex(std::uint32_t& unit);
   /// Skips characters that stand for themselves, checking UTF-8.
@@ -199,13 +205,15 @@ bool JSONReader<Client>::readNumber() {
   const char* first = at_;
   const bool negative = *at_ == '-';
   if (negative) ++at_;
-  if (atEnd() || !isDigit(*at_)) return fail(negative ? "expected a digit" : "expected a value", at_);
+  if (atEnd() || !isDigit(*at_))
+    return fail(negative ? "expected a digit" : "expected a value", at_);
   const char* digits = at_;
   std::uint64_t magnitude = 0;
   bool fits = true;
   for (; !atEnd() && isDigit(*at_); ++at_) {
     const auto digit = static_cast<std::uint64_t>(*at_ - '0');
-    if (at_ - digits >= 19 && magnitude > (std::numeric_limits<std::uint64_t>::max() - digit) / 10) {
+    if (at_ - digits >= 19 &&
+        magnitude > (std::numeric_limits<std::uint64_t>::max() - digit) / 10) {
       fits = false;
     }
     magnitude = magnitude * 10 + digit;
@@ -251,8 +259,26 @@ bool JSONReader<Client>::readReal(const char* first) {
 
 template <class Client>
 bool JSONReader<Client>::readString() {
-  const char* quote = at_++;
-  const char* plain = at_;
+  // Most strings are plain ASCII from quote to quote.
+  const char* const first = at_ + 1;
+  const char* next = first;
+  while (end_ - next >= 8) {
+    const std::size_t plain = firstSpecialOfEight<0, true>(next);
+    next += plain;
+    if (plain == 8) continue;
+    if (*next != '"') break;
+    slice_ = {first, static_cast<std::size_t>(next - first)};
+    at_ = next + 1;
+    return true;
+  }
+  return readStringFrom(next);
+}
+
+template <class Client>
+bool JSONReader<Client>::readStringFrom(const char* checked) {
+  const char* quote = at_;
+  const char* plain = quote + 1;
+  at_ = checked;
   if (!skipPlain()) return false;
   if (!atEnd() && *at_ == '"') {
     slice_ = {plain, static_cast<std::size_t>(at_ - plain)};

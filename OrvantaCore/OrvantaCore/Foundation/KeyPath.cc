@@ -47,6 +47,7 @@ Value valueForKeyPath(const Value& receiver, std::span<const Value> path) {
 }
 
 Value valueForKeyPath(const Dictionary& receiver, std::span<const Value> path) {
+  if (path.empty()) return receiver;
   // The references stay good: the dictionary outlives the walk and nothing changes it.
   const Value* found = &receiver.valueForKey(path.front());
   for (path = path.subspan(1); !path.empty() && found->dictionary() != nullptr;

@@ -66,7 +66,7 @@ std::uint64_t integerReading(std::string_view text, std::uint64_t lowest,
 /// The longest prefix that is a decimal number with an optional exponent, so that "inf", "nan" and
 /// hexadecimal never reach the library.
 struct DecimalPrefix {
-  std::string_view text;     // empty when there is no digit
+  std::string_view text;       // empty when there is no digit
   std::int64_t magnitude = 0;  // about the power of ten of the first digit that is not 0
 };
 
@@ -95,7 +95,8 @@ DecimalPrefix decimalPrefix(std::string_view text) noexcept {
     if (!exponent.empty() && isDigit(exponent.front())) {
       std::int64_t value = 0;
       while (!exponent.empty() && isDigit(exponent.front())) {
-        if (value < std::numeric_limits<std::int32_t>::max()) value = value * 10 + (exponent.front() - '0');
+        if (value < std::numeric_limits<std::int32_t>::max())
+          value = value * 10 + (exponent.front() - '0');
         exponent.remove_prefix(1);
       }
       prefix.magnitude += negative ? -value : value;
@@ -174,8 +175,8 @@ std::string Number::description() const {
   char text[40];
   const auto significant = [&](int digits) -> std::string {
     if (std::isnan(doubleValue())) return "nan";  // without the sign that some have
-    const auto end = std::to_chars(text, text + sizeof text, doubleValue(),
-                                   std::chars_format::general, digits);
+    const auto end =
+        std::to_chars(text, text + sizeof text, doubleValue(), std::chars_format::general, digits);
     return std::string(text, end.ptr);
   };
   switch (kind_) {

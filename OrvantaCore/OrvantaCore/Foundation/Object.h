@@ -73,8 +73,8 @@ class Ref {
   Ref(const Ref& other) noexcept : Ref(other.object_) {}
   Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
   template <class U>
-    requires std::is_convertible_v<U*, T*>
-  Ref(const Ref<U>& other) noexcept : Ref(other.get()) {}
+  requires std::is_convertible_v<U*, T*> Ref(const Ref<U>& other)
+  noexcept : Ref(other.get()) {}
   ~Ref() { reset(); }
 
   Ref& operator=(Ref other) noexcept {
@@ -85,6 +85,9 @@ class Ref {
     T* object = std::exchange(object_, nullptr);
     if (object != nullptr && object->release()) delete object;
   }
+
+  /// Hands the reference over to the caller; this one is empty then.
+  T* release() noexcept { return std::exchange(object_, nullptr); }
 
   T* get() const noexcept { return object_; }
   T* operator->() const noexcept { return object_; }

@@ -17,8 +17,8 @@ inline std::size_t firstSpecialOfEight(const char* at) {
   std::memcpy(&word, at, sizeof word);
   // Subtracting marks the high bit of bytes below the subtrahend. A borrow may mark bytes behind
   // the first marked one, never before it. A byte above ASCII is none of those looked for.
-  std::uint64_t marked = (word - kOnes * ' ') | ((word ^ (kOnes * '"')) - kOnes) |
-                         ((word ^ (kOnes * '\\')) - kOnes);
+  std::uint64_t marked =
+      (word - kOnes * ' ') | ((word ^ (kOnes * '"')) - kOnes) | ((word ^ (kOnes * '\\')) - kOnes);
   if constexpr (kOther != 0) {
     marked |= (word ^ (kOnes * static_cast<unsigned char>(kOther))) - kOnes;
   }

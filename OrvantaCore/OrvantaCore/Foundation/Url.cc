@@ -6,8 +6,7 @@ namespace orvanta {
 
 namespace {
 // The characters of RFC 3986 but "%" and "#", which have rules of their own.
-constexpr CharacterSet kUrlCharacters =
-    CharacterSet::alphanumerics().with("-._~:/?[]@!$&'()*+,;=");
+constexpr CharacterSet kUrlCharacters = CharacterSet::alphanumerics().with("-._~:/?[]@!$&'()*+,;=");
 
 constexpr CharacterSet kHexDigits = CharacterSet("0123456789ABCDEFabcdef");
 }  // namespace
@@ -42,14 +41,7 @@ Value Url::stringValue() const {
 }
 
 Url::~Url() {
-  if (node_->release()) node_->destroy();
-}
-
-Url& Url::operator=(const Url& other) noexcept {
-  other.node_->retain();
-  if (node_->release()) node_->destroy();
-  node_ = other.node_;
-  return *this;
+  if (node_ != nullptr && node_->release()) node_->destroy();
 }
 
 }  // namespace orvanta

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "Foundation/Value.h"
 
@@ -15,8 +16,12 @@ class Url {
   static std::optional<Url> parse(const Value& text);
 
   Url(const Url& other) noexcept : node_(other.node_) { node_->retain(); }
+  Url(Url&& other) noexcept : node_(std::exchange(other.node_, nullptr)) {}
   ~Url();
-  Url& operator=(const Url& other) noexcept;
+  Url& operator=(Url other) noexcept {
+    std::swap(node_, other.node_);
+    return *this;
+  }
 
   std::string_view absoluteString() const noexcept { return node_->text(); }
 
@@ -31,7 +36,7 @@ class Url {
   friend class Value;
   explicit Url(const StringNode* adopted) noexcept : node_(adopted) {}
 
-  const StringNode* node_;
+  const StringNode* node_;  // null only in one that was moved from
 };
 
 }  // namespace orvanta

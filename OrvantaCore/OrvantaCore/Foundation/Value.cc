@@ -29,6 +29,13 @@ Value::Value(const Dictionary& dictionary) noexcept : Value(Kind::dictionary, di
 
 Value::Value(const Url& url) noexcept : Value(Kind::url, url.node_) { url.node_->retain(); }
 
+Value::Value(Array&& array) noexcept : Value(Kind::array, std::exchange(array.node_, nullptr)) {}
+
+Value::Value(Dictionary&& dictionary) noexcept
+    : Value(Kind::dictionary, std::exchange(dictionary.node_, nullptr)) {}
+
+Value::Value(Url&& url) noexcept : Value(Kind::url, std::exchange(url.node_, nullptr)) {}
+
 Value::Value(const Object* object) noexcept {
   if (object == nullptr) return;
   object->retain();

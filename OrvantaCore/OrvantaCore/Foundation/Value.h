@@ -56,10 +56,11 @@ class Value {
   Value(T number) noexcept
       : Value(Kind::integer, static_cast<std::uint64_t>(std::int64_t{number})) {}
   template <std::unsigned_integral T>
-    requires(!std::same_as<T, bool>)
-  Value(T number) noexcept : Value(Kind::unsignedInteger, std::uint64_t{number}) {}
+  requires(!std::same_as<T, bool>) Value(T number)
+  noexcept : Value(Kind::unsignedInteger, std::uint64_t{number}) {}
   Value(double number) noexcept : Value(Kind::real, std::bit_cast<std::uint64_t>(number)) {}
-  Value(float number) noexcept : Value(Kind::real32, std::uint64_t{std::bit_cast<std::uint32_t>(number)}) {}
+  Value(float number) noexcept
+      : Value(Kind::real32, std::uint64_t{std::bit_cast<std::uint32_t>(number)}) {}
   Value(Date date) noexcept
       : Value(Kind::date, std::bit_cast<std::uint64_t>(date.secondsSince1970)) {}
   /// UTF-8 text; what JSON, URLs and the platform hand over is checked where it enters.
@@ -69,8 +70,18 @@ class Value {
   Value(const Array& array) noexcept;
   Value(const Dictionary& dictionary) noexcept;
   Value(const Url& url) noexcept;
+  Value(Array&& array) noexcept;
+  Value(Dictionary&& dictionary) noexcept;
+  Value(Url&& url) noexcept;
   template <std::derived_from<Object> T>
   Value(const Ref<T>& object) noexcept : Value(static_cast<const Object*>(object.get())) {}
+  template <std::derived_from<Object> T>
+  Value(Ref<T>&& object) noexcept {
+    if (const Object* taken = object.release()) {
+      bytes_[0] = static_cast<unsigned char>(Kind::object) | kSharedBit;
+      setWord(1, std::bit_cast<std::uint64_t>(static_cast<const Node*>(taken)));
+    }
+  }
   explicit Value(const Object* object) noexcept;
   explicit Value(const ClassObject* cls) noexcept;
 
@@ -113,8 +124,8 @@ class Value {
     if (kind() != Kind::date) return std::nullopt;
     return Date{std::bit_cast<double>(word(1))};
   }
-  const Array* array() const noexcept;
-  const Dictionary* dictionary() const noexcept;
+  inline const Array* array() const noexcept;            // Array.h
+  inline const Dictionary* dictionary() const noexcept;  // Dictionary.h
   const Url* url() const noexcept;
   Object* object() const noexcept;
   const ClassObject* classObject() const noexcept;
@@ -212,9 +223,7 @@ class Value {
   void setWord(int index, std::uint64_t bits) noexcept {
     std::memcpy(bytes_ + std::ptrdiff_t{8} * index, &bits, sizeof bits);
   }
-  void copyBits(const Value& other) noexcept {
-    std::memcpy(bytes_, other.bytes_, sizeof bytes_);
-  }
+  void copyBits(const Value& other) noexcept { std::memcpy(bytes_, other.bytes_, sizeof bytes_); }
   bool hasSameBits(const Value& other) const noexcept {
     return word(0) == other.word(0) && word(1) == other.word(1);
   }

@@ -57,6 +57,12 @@ void Property::assignTo(OrvantaBaseModel& object, const Value& value) const {
   }
 }
 
+void Property::assignTo(OrvantaBaseModel& object, Value&& value) const {
+  const bool isScalar = encoding.front() != '@' && encoding.front() != '#';
+  if (isScalar || set != nullptr || field == nullptr) return assignTo(object, value);
+  *static_cast<Value*>(field(object)) = std::move(value);
+}
+
 const Property* Class::property(std::string_view wanted) const {
   for (const Class* cls = this; cls != nullptr; cls = cls->parent()) {
     for (const Property& property : cls->properties) {

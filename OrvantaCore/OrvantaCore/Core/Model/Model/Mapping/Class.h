@@ -35,6 +35,7 @@ struct Property {
   /// Scalars take the value's numeric reading, which throws the invalid-argument exception when
   /// there is none.
   void assignTo(OrvantaBaseModel& object, const Value& value) const;
+  void assignTo(OrvantaBaseModel& object, Value&& value) const;
 };
 
 /// Wire key path to property name.

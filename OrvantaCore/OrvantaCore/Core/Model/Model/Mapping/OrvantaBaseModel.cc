@@ -31,12 +31,9 @@ constexpr Property kBaseProperties[] = {
 }  // namespace
 
 constinit const Class OrvantaBaseModel::kClass{
-    "OrvantaBaseModel",
-    nullptr,
-    kBaseProperties,
-    {},
-    {},
-    []() -> OrvantaBaseModel* { return new OrvantaBaseModel; }};
+    "OrvantaBaseModel", nullptr, kBaseProperties, {}, {}, []() -> OrvantaBaseModel* {
+      return new OrvantaBaseModel;
+    }};
 
 const Class& classObjectOfOrvantaBaseModel();
 const Class& classObjectOfOrvantaBaseModel() { return OrvantaBaseModel::classObject(); }
@@ -178,19 +175,23 @@ bool OrvantaBaseModel::apply(const MappingEntry& entry, const Value& found) {
     value = &made;
     if (!convert(made, entry.converter)) return false;
   }
-  if (entry.property != nullptr) {
-    entry.property->assignTo(*this, *value);
-  } else {
+  const bool isNil = value->isNil();
+  if (entry.property == nullptr) {
     setValueForKeyPath(*value, *entry.propertyName.string());
+  } else if (value == &made) {
+    entry.property->assignTo(*this, std::move(made));
+  } else {
+    entry.property->assignTo(*this, found);
   }
-  if (value->isNil()) RefusalRecorder::forget();  // a nested model's, which did not matter
+  if (isNil) RefusalRecorder::forget();  // a nested model's, which did not matter
   return true;
 }
 
 Value OrvantaBaseModel::component(const Dictionary& dictionary, const Class* declared) {
   static const Value kKlazz = "klazz";
   if (declared == nullptr) {
-    if (const auto name = dictionary.valueForKey(kKlazz).string()) declared = modelClassNamed(*name);
+    if (const auto name = dictionary.valueForKey(kKlazz).string())
+      declared = modelClassNamed(*name);
   }
   if (declared == nullptr) return dictionary;
   return makeModel(*declared, &dictionary);
@@ -264,8 +265,8 @@ bool OrvantaBaseModel::BOOLValidateValue(Value& value, Value* /*error*/) {
 
 bool OrvantaBaseModel::NSURLValidateValue(Value& value, Value* /*error*/) {
   if (value.isString()) {
-    const auto url = Url::parse(value);
-    value = url ? Value(*url) : Value();
+    auto url = Url::parse(value);
+    value = url ? Value(*std::move(url)) : Value();
     return true;
   }
   if (const Url* url = value.url()) {

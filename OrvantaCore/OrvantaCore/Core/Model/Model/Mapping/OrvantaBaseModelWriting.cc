@@ -62,8 +62,8 @@ AttributedString OrvantaBaseModel::attributedDebugDescription() const {
   AttributedString text;
   text.runs.push_back({formatted("\n%@\n", {isa().name}), TextStyle::headline, 1});
   for (const Dictionary::Entry& entry : dictionaryValue()) {
-    text.runs.push_back({formatted("%@ : %@\n", {entry.key(), describe(entry.value)}),
-                         TextStyle::body, 0});
+    text.runs.push_back(
+        {formatted("%@ : %@\n", {entry.key(), describe(entry.value)}), TextStyle::body, 0});
   }
   text.runs.push_back({"\n", TextStyle::none, 0});
   return text;

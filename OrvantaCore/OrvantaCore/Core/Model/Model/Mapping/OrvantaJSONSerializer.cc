@@ -1,5 +1,7 @@
 #include "Mapping/OrvantaJSONSerializer.h"
 
+#include "Foundation/Array.h"
+#include "Foundation/Dictionary.h"
 #include "Foundation/JSON.h"
 #include "Platform/Interface/Platform.h"
 

@@ -29,7 +29,7 @@ template <class T>
 struct Declared {
   static constexpr std::string_view kEncoding{};  // made from the class's name
   template <std::derived_from<T> U>
-  static Value box(const Ref<U>& object) {
+  static Value box(Ref<U> object) {
     return object;
   }
   static T* get(const Value& value) { return value.as<T>(); }
@@ -43,11 +43,7 @@ struct Declared<String> {
 template <>
 struct Declared<Number> {
   static constexpr std::string_view kEncoding = "@\"NSNumber\"";
-  static Value box(auto number)
-    requires std::is_arithmetic_v<decltype(number)>
-  {
-    return number;
-  }
+  static Value box(auto number) requires std::is_arithmetic_v<decltype(number)> { return number; }
   static std::optional<Number> get(const Value& value) { return value.number(); }
 };
 template <>
@@ -129,9 +125,9 @@ class Held {
   Held() noexcept = default;
   Held(std::nullptr_t) noexcept {}
   template <class U>
-    requires(!std::same_as<std::remove_cvref_t<U>, Held> &&
-             requires(U&& typed) { Declared<T>::box(std::forward<U>(typed)); })
-  Held(U&& typed) : value_(Declared<T>::box(std::forward<U>(typed))) {}
+  requires(!std::same_as<std::remove_cvref_t<U>, Held> &&
+           requires(U && typed) { Declared<T>::box(std::forward<U>(typed)); }) Held(U&& typed)
+      : value_(Declared<T>::box(std::forward<U>(typed))) {}
   /// A value of any kind.
   static Held any(Value value) noexcept {
     Held held;
@@ -168,7 +164,7 @@ struct Stored {
   }
 };
 template <class T>
-  requires std::is_arithmetic_v<T>
+requires std::is_arithmetic_v<T>
 struct Stored<T> {
   using Field = T;
   using Read = T;
@@ -219,99 +215,104 @@ struct Reflect {
   template <class M>
   static consteval auto rows() {
     constexpr auto isDeclared = []<int... L>(std::integer_sequence<int, L...>) {
-      return std::array<bool, kMostLines>{requires { M::declared(Line<L>{}); }...};
-    }(std::make_integer_sequence<int, kMostLines>{});
-    constexpr auto lines = [](std::array<bool, kMostLines> declared) {
-      std::array<int, kMostLines + 1> found{};  // the count stands last
-      for (int line = 0; line < kMostLines; ++line) {
-        if (declared[static_cast<std::size_t>(line)]) {
-          found[static_cast<std::size_t>(found[kMostLines]++)] = line;
-        }
-      }
-      return found;
-    }(isDeclared);
-    return [&]<std::size_t... I>(std::index_sequence<I...>) {
-      return std::array<Row, sizeof...(I)>{M::declared(Line<lines[I]>{})...};
-    }(std::make_index_sequence<static_cast<std::size_t>(lines[kMostLines])>{});
-  }
-
-  template <class M>
-  static consteval auto tables() {
-    constexpr auto declared = rows<M>();
-    constexpr auto count = [](auto&& wanted) {
-      std::size_t n = 0;
-      for (const Row& row : rows<M>()) n += wanted(row) ? 1 : 0;
-      return n;
-    };
-    Tables<count([](const Row& row) { return row.declares; }),
-           count([](const Row& row) { return !row.key.empty(); }),
-           count([](const Row& row) { return row.model != nullptr; })>
-        tables;
-    std::size_t property = 0;
-    std::size_t key = 0;
-    std::size_t model = 0;
-    for (const Row& row : declared) {
-      if (row.declares) tables.properties[property++] = row.property;
-      if (!row.key.empty()) tables.keys[key++] = {row.key, row.property.name};
-      if (row.model != nullptr) tables.classes[model++] = {row.property.name, row.model};
+      return std::array<bool, kMostLines>{requires {M::declared(Line<L>{});
     }
-    return tables;
+    ...
+  };
+}(std::make_integer_sequence<int, kMostLines>{});
+constexpr auto lines = [](std::array<bool, kMostLines> declared) {
+  std::array<int, kMostLines + 1> found{};  // the count stands last
+  for (int line = 0; line < kMostLines; ++line) {
+    if (declared[static_cast<std::size_t>(line)]) {
+      found[static_cast<std::size_t>(found[kMostLines]++)] = line;
+    }
   }
-};
+  return found;
+}(isDeclared);
+return [&]<std::size_t... I>(std::index_sequence<I...>) {
+  return std::array<Row, sizeof...(I)>{M::declared(Line<lines[I]>{})...};
+}
+(std::make_index_sequence<static_cast<std::size_t>(lines[kMostLines])>{});
+}  // namespace orvanta
+
+template <class M>
+static consteval auto tables() {
+  constexpr auto declared = rows<M>();
+  constexpr auto count = [](auto&& wanted) {
+    std::size_t n = 0;
+    for (const Row& row : rows<M>()) n += wanted(row) ? 1 : 0;
+    return n;
+  };
+  Tables<count([](const Row& row) { return row.declares; }),
+         count([](const Row& row) { return !row.key.empty(); }),
+         count([](const Row& row) { return row.model != nullptr; })>
+      tables;
+  std::size_t property = 0;
+  std::size_t key = 0;
+  std::size_t model = 0;
+  for (const Row& row : declared) {
+    if (row.declares) tables.properties[property++] = row.property;
+    if (!row.key.empty()) tables.keys[key++] = {row.key, row.property.name};
+    if (row.model != nullptr) tables.classes[model++] = {row.property.name, row.model};
+  }
+  return tables;
+}
+}
+;
 
 /// Opens the body of a model class.
-#define ORVANTA_MODEL(Self_, Super_)                                      \
- public:                                                                  \
-  using Self = Self_;                                                     \
-  using Super = Super_;                                                   \
-  static constexpr const Class& classObject() { return kClass; }          \
-  const Class& isa() const override { return kClass; }                    \
-  static KeyTable keyPathPropertySelectorMapping() {                      \
-    return kClass.keyPathPropertySelectorMapping;                         \
-  }                                                                       \
+#define ORVANTA_MODEL(Self_, Super_)                                             \
+ public:                                                                         \
+  using Self = Self_;                                                            \
+  using Super = Super_;                                                          \
+  static constexpr const Class& classObject() { return kClass; }                 \
+  const Class& isa() const override { return kClass; }                           \
+  static KeyTable keyPathPropertySelectorMapping() {                             \
+    return kClass.keyPathPropertySelectorMapping;                                \
+  }                                                                              \
   static ClassTable keyPathClassMapping() { return kClass.keyPathClassMapping; } \
-                                                                          \
- protected:                                                               \
-  friend struct ::orvanta::Reflect;                                       \
-  static const Class kClass;                                              \
-  static void declared() {} /* hides the ancestors' */                    \
-  static constexpr int kFirstLine = __LINE__;                             \
-                                                                          \
+                                                                                 \
+ protected:                                                                      \
+  friend struct ::orvanta::Reflect;                                              \
+  static const Class kClass;                                                     \
+  static void declared() {} /* hides the ancestors' */                           \
+  static constexpr int kFirstLine = __LINE__;                                    \
+                                                                                 \
  public:
 
 /// Defines the class object; stands once in the class's source file.
-#define ORVANTA_IMPLEMENTATION(Self_)                                                          \
-  static constexpr auto k##Self_##Tables = Reflect::tables<Self_>();                           \
-  constinit const Class Self_::kClass{#Self_,                                                  \
-                                      &Super::classObject(),                                   \
-                                      k##Self_##Tables.properties,                             \
-                                      k##Self_##Tables.keys,                                   \
-                                      k##Self_##Tables.classes,                                \
-                                      []() -> OrvantaBaseModel* { return new Self_; }};        \
+#define ORVANTA_IMPLEMENTATION(Self_)                                                   \
+  static constexpr auto k##Self_##Tables = Reflect::tables<Self_>();                    \
+  constinit const Class Self_::kClass{#Self_,                                           \
+                                      &Super::classObject(),                            \
+                                      k##Self_##Tables.properties,                      \
+                                      k##Self_##Tables.keys,                            \
+                                      k##Self_##Tables.classes,                         \
+                                      []() -> OrvantaBaseModel* { return new Self_; }}; \
   const Class& classObjectOf##Self_() { return Self_::classObject(); }
 
-#define ORVANTA_ROW_(key_, name_, model_, ...)                                     \
-  static consteval Reflect::Row declared(Line<__LINE__ - kFirstLine>) {            \
+#define ORVANTA_ROW_(key_, name_, model_, ...)                                         \
+  static consteval Reflect::Row declared(Line<__LINE__ - kFirstLine>) {                \
     static_assert(__LINE__ - kFirstLine < Reflect::kMostLines, "class body too long"); \
-    return {__VA_ARGS__, key_, model_, true};                                      \
+    return {__VA_ARGS__, key_, model_, true};                                          \
   }
 
-#define ORVANTA_STORED_(key_, ownership_, type_, name_, readOnly_, get_, set_, ...)            \
- protected:                                                                                    \
-  Stored<type_>::Field name_##_{};                                                             \
-  ORVANTA_ROW_(                                                                                \
-      key_, name_, modelClass<__VA_ARGS__>(),                                                  \
-      {#name_, Stored<type_>::encoding("@\"" #type_ "\""), Ownership::ownership_, readOnly_,   \
+#define ORVANTA_STORED_(key_, ownership_, type_, name_, readOnly_, get_, set_, ...)              \
+ protected:                                                                                      \
+  Stored<type_>::Field name_##_{};                                                               \
+  ORVANTA_ROW_(                                                                                  \
+      key_, name_, modelClass<__VA_ARGS__>(),                                                    \
+      {#name_, Stored<type_>::encoding("@\"" #type_ "\""), Ownership::ownership_, readOnly_,     \
        [](OrvantaBaseModel& o) { return Stored<type_>::field(static_cast<Self&>(o).name_##_); }, \
-       get_, set_})                                                                            \
-                                                                                               \
+       get_, set_})                                                                              \
+                                                                                                 \
  public:
 
 /// A property: wire key (or kUnmapped), ownership (assign, copy, strong), type, getter, setter and,
 /// where the value is a nested model or an array of them, the model's class.
-#define ORVANTA_PROPERTY(key_, ownership_, type_, name_, setter_, ...)                  \
-  Stored<type_>::Read name_() const { return name_##_; }                                \
-  void setter_(Stored<type_>::Field value) { name_##_ = std::move(value); }             \
+#define ORVANTA_PROPERTY(key_, ownership_, type_, name_, setter_, ...)      \
+  Stored<type_>::Read name_() const { return name_##_; }                    \
+  void setter_(Stored<type_>::Field value) { name_##_ = std::move(value); } \
   ORVANTA_STORED_(key_, ownership_, type_, name_, false, nullptr, nullptr, __VA_ARGS__)
 
 /// A property without a public setter; the mapping still fills it.
@@ -320,28 +321,32 @@ struct Reflect {
   ORVANTA_STORED_(key_, ownership_, type_, name_, true, nullptr, nullptr, __VA_ARGS__)
 
 /// A property whose setter the class writes itself; assignment by name goes through it.
-#define ORVANTA_CUSTOM_SETTER(key_, ownership_, type_, name_, setter_, ...)                   \
-  Stored<type_>::Read name_() const { return name_##_; }                                      \
-  void setter_(Stored<type_>::Field value);                                                   \
-  ORVANTA_STORED_(key_, ownership_, type_, name_, false, nullptr,                             \
-                  [](OrvantaBaseModel& o, const Value& v) {                                   \
-                    static_cast<Self&>(o).setter_(Stored<type_>::unbox(v));                   \
-                  },                                                                          \
-                  __VA_ARGS__)
+#define ORVANTA_CUSTOM_SETTER(key_, ownership_, type_, name_, setter_, ...) \
+  Stored<type_>::Read name_() const { return name_##_; }                    \
+  void setter_(Stored<type_>::Field value);                                 \
+  ORVANTA_STORED_(                                                          \
+      key_, ownership_, type_, name_, false, nullptr,                       \
+      [](OrvantaBaseModel& o, const Value& v) {                             \
+        static_cast<Self&>(o).setter_(Stored<type_>::unbox(v));             \
+      },                                                                    \
+      __VA_ARGS__)
 
 /// A read-only property whose getter subclasses override.
-#define ORVANTA_OVERRIDABLE(key_, ownership_, type_, name_)                               \
-  virtual Stored<type_>::Field name_() const { return name_##_; }                         \
-  ORVANTA_STORED_(key_, ownership_, type_, name_, true, [](const OrvantaBaseModel& o) {   \
-    return Stored<type_>::box(static_cast<const Self&>(o).name_());                       \
-  }, nullptr, )
+#define ORVANTA_OVERRIDABLE(key_, ownership_, type_, name_)             \
+  virtual Stored<type_>::Field name_() const { return name_##_; }       \
+  ORVANTA_STORED_(                                                      \
+      key_, ownership_, type_, name_, true,                             \
+      [](const OrvantaBaseModel& o) {                                   \
+        return Stored<type_>::box(static_cast<const Self&>(o).name_()); \
+      },                                                                \
+      nullptr, )
 
 /// A property without storage, over accessors that the class declares; `set_` may be nullptr.
-#define ORVANTA_COMPUTED(key_, ownership_, encoding_, name_, get_, set_) \
- protected:                                                              \
-  ORVANTA_ROW_(key_, name_, nullptr,                                     \
+#define ORVANTA_COMPUTED(key_, ownership_, encoding_, name_, get_, set_)                           \
+ protected:                                                                                        \
+  ORVANTA_ROW_(key_, name_, nullptr,                                                               \
                {#name_, encoding_, Ownership::ownership_, (set_) == nullptr, nullptr, get_, set_}) \
-                                                                         \
+                                                                                                   \
  public:
 
 }  // namespace orvanta

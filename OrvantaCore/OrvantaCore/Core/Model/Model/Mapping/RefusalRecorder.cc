@@ -14,9 +14,8 @@ std::string Refusal::description() const {
   return text.append(": ").append(kind).append(", ").append(reason);
 }
 
-void RefusalRecorder::record(const Class& cls, std::string_view keyPath,
-                             std::string_view property, std::string_view kind,
-                             std::string_view reason) {
+void RefusalRecorder::record(const Class& cls, std::string_view keyPath, std::string_view property,
+                             std::string_view kind, std::string_view reason) {
   if (!refusal_) refusal_.emplace(Refusal{{}, std::string(kind), std::string(reason)});
   refusal_->steps.insert(refusal_->steps.begin(),
                          {&cls, std::string(keyPath), std::string(property)});

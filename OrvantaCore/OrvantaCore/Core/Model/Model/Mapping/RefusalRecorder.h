@@ -38,7 +38,8 @@ class RefusalRecorder {
   RefusalRecorder& operator=(const RefusalRecorder&) = delete;
   ~RefusalRecorder() { current_ = previous_; }
 
-  /// The refusal of the last update, none when that succeeded.
+  /// The refusal of the update, none when that succeeded. A recorder that is to tell about a
+  /// further update is reset before it.
   const std::optional<Refusal>& refusal() const { return refusal_; }
   void reset() { refusal_.reset(); }
 

@@ -1,6 +1,7 @@
 #include "Push/OrvantaPushObject.h"
 
 #include "Foundation/KeyPath.h"
+#include "Mapping/RefusalRecorder.h"
 
 namespace orvanta {
 
@@ -17,7 +18,11 @@ bool OrvantaPushObject::updateWithDictionary(const Dictionary* dictionary) {
                                         read(kAlertPath, "alert"));
   action_ = make<OrvantaPushObjectAction>(&OrvantaPushObjectAction::initWithValue,
                                           read(kActionPath, "action"));
-  if (auto* action = action_.get()) action->setDeeplinkURLAsURL();
+  if (auto* action = action_.get()) {
+    action->setDeeplinkURLAsURL();
+  } else if (alert_) {
+    RefusalRecorder::forget();  // the action's, which does not matter
+  }
 
   bool updated = false;
   if (alert_) {

@@ -1,0 +1,113 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <set>
+#include <sstream>
+
+#include "support/ModelZoo.h"
+
+// One walk over every model class that the library declares.
+
+namespace orvanta::testing {
+namespace {
+
+TEST(ModelRegistry, FindsEachClassByItsName) {
+  std::set<std::string_view> names;
+  for (const Class* cls : modelClasses()) {
+    EXPECT_EQ(modelClassNamed(cls->name), cls);
+    EXPECT_TRUE(cls->name.starts_with("Orvanta")) << cls->name;
+    EXPECT_TRUE(names.insert(cls->name).second) << cls->name << " stands twice";
+  }
+  EXPECT_EQ(modelClassNamed("LeafModel"), nullptr);
+  EXPECT_EQ(modelClassNamed(""), nullptr);
+}
+
+TEST(ModelRegistry, EveryChainOfSuperclassesEndsInTheBaseModel) {
+  for (const Class* cls : modelClasses()) {
+    const Class* root = cls;
+    while (root->parent() != nullptr) root = root->parent();
+    EXPECT_EQ(root, &OrvantaBaseModel::classObject()) << cls->name;
+  }
+}
+
+TEST(ModelRegistry, EveryClassMakesObjectsOfItself) {
+  for (const Class* cls : modelClasses()) {
+    const auto model = makeModel(*cls, nullptr);
+    ASSERT_TRUE(model) << cls->name;
+    EXPECT_EQ(&model->isa(), cls);
+    EXPECT_EQ(model->dictionaryValueWithClassInfo()["klazz"], Value(cls->name));
+  }
+}
+
+TEST(ModelRegistry, EveryTypeCodeIsWellFormed) {
+  const std::regex wellFormed("[BiqQfd@#]|@\\?|@\"[A-Z]\\w+\"");
+  for (const Class* cls : modelClasses()) {
+    std::set<std::string_view> names;
+    for (const Property& property : cls->properties) {
+      EXPECT_TRUE(std::regex_match(std::string(property.encoding), wellFormed))
+          << cls->name << "." << property.name << " " << property.encoding;
+      EXPECT_TRUE(names.insert(property.name).second) << cls->name << "." << property.name;
+    }
+  }
+}
+
+TEST(ModelRegistry, EveryTableRowNamesAProperty) {
+  for (const Class* cls : modelClasses()) {
+    for (const KeyEntry& row : cls->keyPathPropertySelectorMapping) {
+      EXPECT_NE(cls->property(row.property), nullptr) << cls->name << "." << row.property;
+    }
+    for (const ClassEntry& row : cls->keyPathClassMapping) {
+      const Property* property = cls->property(row.property);
+      ASSERT_NE(property, nullptr) << cls->name << "." << row.property;
+      EXPECT_EQ(property->encoding.front(), '@') << cls->name << "." << row.property;
+      EXPECT_NE(modelClassIn(Value(row.model)), nullptr) << cls->name << "." << row.property;
+    }
+  }
+}
+
+TEST(ModelRegistry, EveryPropertyCanBeReadFromANewObject) {
+  for (const Class* cls : modelClasses()) {
+    const auto model = makeModel(*cls, nullptr);
+    for (const Dictionary::Entry& entry : cls->propertyTypeEncodingCache()) {
+      EXPECT_EQ(thrown([&] { model->valueForKey(entry.key()); }), "nothing thrown")
+          << cls->name << "." << entry.key();
+    }
+  }
+}
+
+/// What a pattern's group finds in a text.
+std::set<std::string> found(const std::string& text, const std::regex& pattern) {
+  std::set<std::string> names;
+  for (auto at = std::sregex_iterator(text.begin(), text.end(), pattern);
+       at != std::sregex_iterator(); ++at) {
+    names.insert((*at)[1]);
+  }
+  return names;
+}
+
+std::string textOf(const std::filesystem::path& file) {
+  std::stringstream text;
+  text << std::ifstream(file).rdbuf();
+  return text.str();
+}
+
+TEST(ModelRegistry, ListsExactlyTheClassesThatHeadersDeclare) {
+  const std::filesystem::path models =
+      std::filesystem::path(ORVANTA_SOURCE_DIR) / "OrvantaCore/OrvantaCore/Core/Model/Model";
+  const std::regex declaration("(?:^|\n)  ORVANTA_MODEL\\((\\w+)");
+  std::set<std::string> declared = {"OrvantaBaseModel"};  // the root opens its body by hand
+  for (const auto& file : std::filesystem::recursive_directory_iterator(models)) {
+    if (file.path().extension() == ".h") declared.merge(found(textOf(file.path()), declaration));
+  }
+  const std::regex listing("(?:^|\n)ORVANTA_MODEL_CLASS\\((\\w+)\\)");
+  EXPECT_EQ(found(textOf(models / "Mapping/ModelClasses.def"), listing), declared);
+
+  std::set<std::string> registered;
+  for (const Class* cls : modelClasses()) registered.emplace(cls->name);
+  EXPECT_EQ(registered, declared);
+}
+
+}  // namespace
+}  // namespace orvanta::testing

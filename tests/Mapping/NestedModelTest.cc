@@ -1,0 +1,145 @@
+#include <gtest/gtest.h>
+
+#include "support/ModelZoo.h"
+
+namespace orvanta::testing {
+namespace {
+
+/// "LeafModel" and the like for a model, the name of the kind for anything else.
+std::string_view classOrKind(const Value& value) {
+  return value.object() != nullptr ? value.className() : value.kindName();
+}
+
+TEST(NestedModel, DeclaredClassBeatsKlazzAndKlazzBeatsNothing) {
+  const struct {
+    std::string_view json;
+    std::string_view property;
+    std::string_view made;
+  } rows[] = {
+      {R"({"leaf": {}})", "leaf", "LeafModel"},
+      {R"({"leaf": {"klazz": "OrvantaPushStyle"}})", "leaf", "LeafModel"},
+      {R"({"free": {"klazz": "OrvantaPushStyle"}})", "free", "OrvantaPushStyle"},
+      {R"({"free": {}})", "free", "a dictionary"},
+      // Only text that names a model class of the library counts.
+      {R"({"free": {"klazz": "NSString"}})", "free", "a dictionary"},
+      {R"({"free": {"klazz": "orvantapushstyle"}})", "free", "a dictionary"},
+      {R"({"free": {"klazz": ""}})", "free", "a dictionary"},
+      {R"({"free": {"klazz": 5}})", "free", "a dictionary"},
+      {R"({"free": {"klazz": null}})", "free", "a dictionary"},
+      {R"({"free": {"klazz": {"klazz": "OrvantaPushStyle"}}})", "free", "a dictionary"},
+      // A class is declared for the property, whatever it holds.
+      {R"({"leaf": [{}]})", "leaf", "an array"},
+      {R"({"leaf": "text"})", "leaf", "a string"},
+      {R"({"leaves": {}})", "leaves", "LeafModel"},
+  };
+  for (const auto& row : rows) {
+    const auto model = made<NestingModel>(row.json);
+    ASSERT_TRUE(model) << row.json;
+    EXPECT_EQ(classOrKind(model->valueForKey(row.property)), row.made) << row.json;
+  }
+}
+
+TEST(NestedModel, KeepsAFreeDictionaryAsItIs) {
+  const auto model = made<NestingModel>(
+      R"({"free": {"in": {"klazz": "OrvantaPushStyle"}, "klazz": "Unknown", "n": null}})");
+  EXPECT_EQ(model->free().value(),
+            parsed(R"({"in": {"klazz": "OrvantaPushStyle"}, "klazz": "Unknown", "n": null})"));
+}
+
+TEST(NestedModel, ArraysKeepOrderAndCountAndAreConvertedAtEveryDepth) {
+  const auto model = made<NestingModel>(
+      R"({"leaves": [{"name": "a"}, 5, [{"name": "b"}, [{"name": "c"}], null], {"name": "d"}],
+          "list": [{"klazz": "OrvantaPushStyle"}, {"x": 1}, [{"klazz": "OrvantaPushStyle"}]]})");
+  ASSERT_TRUE(model);
+  const Array& leaves = *model->leaves().get();
+  ASSERT_EQ(leaves.size(), 4U);
+  const auto name = [](const Value& leaf) { return leaf.as<LeafModel>()->name().get(); };
+  EXPECT_EQ(name(leaves[0]), "a");
+  EXPECT_EQ(leaves[1], Value(5));
+  const Array& inner = *leaves[2].array();
+  EXPECT_EQ(name(inner[0]), "b");
+  EXPECT_EQ(name((*inner[1].array())[0]), "c");
+  EXPECT_TRUE(inner[2].isNull());
+  EXPECT_EQ(name(leaves[3]), "d");
+
+  const Array& list = *model->list().get();
+  EXPECT_EQ(classOrKind(list[0]), "OrvantaPushStyle");
+  EXPECT_EQ(classOrKind(list[1]), "a dictionary");
+  EXPECT_EQ(classOrKind((*list[2].array())[0]), "OrvantaPushStyle");
+}
+
+TEST(NestedModel, ElementsFoundByAKeyPathAreConvertedToo) {
+  const auto model = make<NestingModel>();
+  model->setKeyPathPropertyDictionary({{"a.leaf", "leaves"}});
+  EXPECT_TRUE(update(*model, R"({"a": [{"leaf": {"name": "x"}}, {}]})"));
+  const Array& leaves = *model->leaves().get();
+  EXPECT_EQ(leaves[0].as<LeafModel>()->name().get(), "x");
+  EXPECT_TRUE(leaves[1].isNull());
+}
+
+TEST(NestedModel, OneThatRefusesItsDictionaryBecomesNil) {
+  const auto model = made<NestingModel>(R"({"leaf": {"name": "old"}, "deeper": {}})");
+  RecordingPlatform platform;
+  EXPECT_TRUE(update(*model, R"({"leaf": {"size": null}, "list": [1]})"));
+  EXPECT_FALSE(model->leaf());
+  EXPECT_EQ(platform.log.size(), 1U);  // the leaf's own
+  EXPECT_TRUE(model->list());
+
+  EXPECT_TRUE(update(*model, R"({"deeper": {"leaves": [{"size": null}]}})"));
+  EXPECT_FALSE(model->deeper());
+}
+
+TEST(NestedModel, AnElementThatRefusesEndsTheUpdate) {
+  RecordingPlatform platform;
+  const auto model = make<NestingModel>();
+  EXPECT_FALSE(update(*model, R"({"leaves": [{}, {"size": null}], "free": 1, "leaf": {}})"));
+  EXPECT_TRUE(model->leaf());
+  EXPECT_FALSE(model->leaves());
+  EXPECT_FALSE(model->free());
+  ASSERT_EQ(platform.log.size(), 2U);  // the element's, then the owner's
+  EXPECT_NE(platform.log[0].find("to class 'LeafModel'"), std::string::npos);
+  EXPECT_NE(platform.log[1].find("to class 'NestingModel' : "
+                                 "*** -[__NSArrayM insertObject:atIndex:]: object cannot be nil"),
+            std::string::npos);
+}
+
+TEST(NestedModel, ARefusingModelCannotBeAScalarUrlOrDate) {
+  RecordingPlatform platform;
+  const char* refusing = R"({"klazz": "OrvantaUserNotificationAction", "actM": null})";
+  for (const auto& [cls, key] : {std::pair{&ScalarModel::classObject(), "q"},
+                                 {&ObjectModel::classObject(), "url"},
+                                 {&ObjectModel::classObject(), "date"}}) {
+    const Dictionary payload{{key, parsed(refusing)}};
+    EXPECT_FALSE(makeModel(*cls, &payload)) << key;
+  }
+}
+
+TEST(NestedModel, AnUndefinedKeyFromAnInitialiserRefusesTheOwnerSilently) {
+  RecordingPlatform platform;
+  const auto holder = make<PushHolderModel>();
+  EXPECT_FALSE(update(*holder, R"({"push": {"aps": 1}, "after": "x"})"));
+  EXPECT_FALSE(holder->after());
+  EXPECT_TRUE(platform.log.empty());
+  EXPECT_TRUE(update(*holder, R"({"push": {"_ov": {"mu": 5}}, "after": "x"})"));
+  EXPECT_FALSE(holder->push());
+}
+
+TEST(NestedModel, ComponentsAreMadeByThePropertysClass) {
+  const auto model = make<NestingModel>();
+  EXPECT_EQ(classOrKind(model->valueForDictionaryComponent({}, "leaf")), "LeafModel");
+  EXPECT_EQ(classOrKind(model->valueForDictionaryComponent({}, "free")), "a dictionary");
+  EXPECT_EQ(classOrKind(model->valueForDictionaryComponent({}, "missing")), "a dictionary");
+  EXPECT_TRUE(model->valueForDictionaryComponent({{"size", Array()}}, "leaf").isNil());
+
+  const Array converted = model->valueForArrayComponent({Dictionary(), "x"}, "leaves");
+  EXPECT_EQ(classOrKind(converted[0]), "LeafModel");
+  EXPECT_EQ(converted[1], Value("x"));
+  EXPECT_EQ(thrown([&] {
+              model->valueForArrayComponent({Dictionary({{"size", Array()}})}, "leaves");
+            }),
+            "NSInvalidArgumentException: *** -[__NSArrayM insertObject:atIndex:]: "
+            "object cannot be nil");
+}
+
+}  // namespace
+}  // namespace orvanta::testing

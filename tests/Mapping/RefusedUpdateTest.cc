@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include <new>
+
+#include "support/ModelZoo.h"
+
+namespace orvanta::testing {
+namespace {
+
+TEST(RefusedUpdate, IsLoggedWithDictionaryClassAndReason) {
+  RecordingPlatform platform;
+  EXPECT_FALSE(made<LeafModel>(R"({"size": null, "name": "a b"})"));
+  ASSERT_EQ(platform.log.size(), 1U);
+  EXPECT_EQ(platform.log.front(),
+            "\n\n❗ -[OrvantaBaseModel updateWithDictionary:] (OrvantaBaseModel:81) ❗\n"
+            "*** Caught exception deserializing dictionary '{\n"
+            "    name = \"a b\";\n"
+            "    size = \"<null>\";\n"
+            "}' to class 'LeafModel' : "
+            "-[NSNull longLongValue]: unrecognized selector sent to instance\n\n");
+}
+
+TEST(RefusedUpdate, IsLoggedAtLevelsAboveZeroOnly) {
+  for (const auto& [level, entries] : {std::pair{-1, 0U}, {0, 0U}, {1, 1U}, {2, 1U}}) {
+    const LogLevel scope(level);
+    RecordingPlatform platform;
+    EXPECT_FALSE(made<ScalarModel>(R"({"B": null})"));
+    EXPECT_EQ(platform.log.size(), entries) << level;
+  }
+}
+
+TEST(RefusedUpdate, KeepsWhatWasAssignedBeforeAndReadsNoFurther) {
+  for (const char* refused : {"known", "unknown key", "standard"}) {
+    RecordingPlatform platform;
+    const auto model = make<SetterModel>();
+    const Dictionary payload{{"after", "c"}, {"text", refused}, {"before", "a"}};
+    EXPECT_FALSE(model->updateWithDictionary(&payload)) << refused;
+    EXPECT_EQ(model->before().get(), "a") << refused;
+    EXPECT_FALSE(model->after()) << refused;
+  }
+  const auto model = make<ObjectModel>();
+  EXPECT_FALSE(update(*model, R"({"date": 1, "url": 5, "number": 2, "text": "t"})"));
+  EXPECT_EQ(model->text().get(), "t");
+  EXPECT_EQ(model->number().value(), Value(2));
+  EXPECT_FALSE(model->date());
+}
+
+TEST(RefusedUpdate, LogsEveryErrorButThatOfAnUndefinedKey) {
+  const struct {
+    std::string_view text;
+    std::string_view reason;  // empty: nothing is logged
+  } rows[] = {{"known", "known trouble"}, {"standard", "standard trouble"}, {"unknown key", ""}};
+  for (const auto& row : rows) {
+    RecordingPlatform platform;
+    EXPECT_FALSE(make<SetterModel>(Dictionary{{"text", row.text}})) << row.text;
+    ASSERT_EQ(platform.log.size(), row.reason.empty() ? 0U : 1U) << row.text;
+    if (!row.reason.empty()) {
+      const std::string end = "' to class 'SetterModel' : " + std::string(row.reason) + "\n\n";
+      EXPECT_TRUE(platform.log.front().ends_with(end)) << platform.log.front();
+    }
+  }
+}
+
+TEST(RefusedUpdate, LetsOnlyTheLackOfMemoryPass) {
+  RecordingPlatform platform;
+  const Dictionary payload{{"text", "memory"}};
+  EXPECT_THROW(make<SetterModel>(payload), std::bad_alloc);
+  EXPECT_TRUE(platform.log.empty());
+}
+
+TEST(RefusedUpdate, APropertyThatTheClassLacksIsSilent) {
+  RecordingPlatform platform;
+  const auto model = make<LeafModel>();
+  model->setKeyPathPropertyDictionary({{"x", "missing"}, {"name", "name"}});
+  EXPECT_TRUE(update(*model, R"({"name": "a"})"));  // its key does not occur
+  EXPECT_FALSE(update(*model, R"({"x": 1})"));
+  EXPECT_TRUE(platform.log.empty());
+}
+
+TEST(RefusedUpdate, NeedsNoSystemLog) {
+  Platform none;
+  const PlatformOverride scope(none);
+  EXPECT_FALSE(made<LeafModel>(R"({"size": null})"));
+}
+
+}  // namespace
+}  // namespace orvanta::testing

@@ -1,0 +1,234 @@
+#pragma once
+
+#include <atomic>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "Mapping/OrvantaBaseModel.h"
+#include "Mapping/OrvantaLogger.h"
+#include "Platform/Interface/Platform.h"
+#include "Push/OrvantaPushObject.h"
+#include "support/Values.h"
+
+// Small models, each for one trait of the mapping, and what their tests share.
+
+namespace orvanta::testing {
+
+/// Every width of scalar, under its type code.
+class ScalarModel : public OrvantaBaseModel {
+  ORVANTA_MODEL(ScalarModel, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("B", assign, bool, flag, setFlag)
+  ORVANTA_PROPERTY("i", assign, std::int32_t, narrow, setNarrow)
+  ORVANTA_PROPERTY("q", assign, std::int64_t, whole, setWhole)
+  ORVANTA_PROPERTY("Q", assign, std::uint64_t, natural, setNatural)
+  ORVANTA_PROPERTY("f", assign, float, single, setSingle)
+  ORVANTA_PROPERTY("d", assign, double, real, setReal)
+};
+
+/// What the others nest: can refuse (a size that is null) and declares nothing special.
+class LeafModel : public OrvantaBaseModel {
+  ORVANTA_MODEL(LeafModel, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("name", copy, String, name, setName)
+  ORVANTA_PROPERTY("size", assign, std::int64_t, size, setSize)
+};
+
+/// Every declared kind of object; no nested class is declared.
+class ObjectModel : public OrvantaBaseModel {
+  ORVANTA_MODEL(ObjectModel, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("text", copy, String, text, setText)
+  ORVANTA_PROPERTY("number", strong, Number, number, setNumber)
+  ORVANTA_PROPERTY("url", strong, Url, url, setUrl)
+  ORVANTA_READONLY("date", strong, Date, date)
+  ORVANTA_PROPERTY("array", copy, Array, array, setArray)
+  ORVANTA_PROPERTY("marray", strong, MutableArray, mutableArray, setMutableArray)
+  ORVANTA_PROPERTY("dictionary", copy, Dictionary, dictionary, setDictionary)
+  ORVANTA_PROPERTY("mdictionary", strong, MutableDictionary, mutableDictionary,
+                   setMutableDictionary)
+  ORVANTA_PROPERTY("any", strong, AnyObject, any, setAny)
+  ORVANTA_PROPERTY("class", assign, ClassReference, model, setModel)
+  ORVANTA_PROPERTY("block", copy, Block<void()>, block, setBlock)
+  ORVANTA_PROPERTY("leaf", strong, LeafModel, leaf, setLeaf)
+};
+
+/// Dotted keys: a run below one parent, a longer path, the first parent once more.
+class DottedModel : public OrvantaBaseModel {
+  ORVANTA_MODEL(DottedModel, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("aps.sound", copy, String, sound, setSound)
+  ORVANTA_PROPERTY("aps.badge", assign, std::int64_t, badge, setBadge)
+  ORVANTA_PROPERTY("a.b.c", strong, AnyObject, deep, setDeep)
+  ORVANTA_PROPERTY("a.b", strong, AnyObject, middle, setMiddle)
+  ORVANTA_PROPERTY("aps.tags", copy, Array, tags, setTags)
+  ORVANTA_PROPERTY("title", copy, String, title, setTitle)
+};
+
+/// Nested models: declared, undeclared, and arrays of both.
+class NestingModel : public OrvantaBaseModel {
+  ORVANTA_MODEL(NestingModel, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("leaf", strong, LeafModel, leaf, setLeaf, LeafModel)
+  ORVANTA_PROPERTY("leaves", strong, MutableArray, leaves, setLeaves, LeafModel)
+  ORVANTA_PROPERTY("free", strong, AnyObject, free, setFree)
+  ORVANTA_PROPERTY("list", copy, Array, list, setList)
+  ORVANTA_PROPERTY("deeper", strong, NestingModel, deeper, setDeeper, NestingModel)
+};
+
+/// A key and a property that its descendant declares again, and a getter that it overrides.
+class AncestorModel : public OrvantaBaseModel {
+  ORVANTA_MODEL(AncestorModel, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("k", copy, String, inherited, setInherited)
+  ORVANTA_PROPERTY("s", strong, AnyObject, stamp, setStamp)
+  ORVANTA_OVERRIDABLE("code", copy, String, code)
+};
+class DescendantModel : public AncestorModel {
+  ORVANTA_MODEL(DescendantModel, AncestorModel)
+
+  ORVANTA_PROPERTY("own", copy, String, own, setOwn)
+  ORVANTA_PROPERTY("k", copy, String, overruled, setOverruled)
+  ORVANTA_PROPERTY(kUnmapped, strong, Date, stamp, setStamp)
+  Held<String> code() const override { return "overridden"; }
+};
+
+/// A setter of its own that throws what the text names: "known", "unknown key", "standard" or
+/// "memory"; "tables" replaces the object's key table. A limit that never exceeds 100.
+class SetterModel : public OrvantaBaseModel {
+  ORVANTA_MODEL(SetterModel, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("before", copy, String, before, setBefore)
+  ORVANTA_CUSTOM_SETTER("text", copy, String, text, setText)
+  ORVANTA_CUSTOM_SETTER("limit", assign, std::int64_t, limit, setLimit)
+  ORVANTA_PROPERTY("after", copy, String, after, setAfter)
+};
+
+/// Properties without storage, one of them read-only.
+class ComputedModel : public OrvantaBaseModel {
+  ORVANTA_MODEL(ComputedModel, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("half", assign, double, half, setHalf)
+  ORVANTA_COMPUTED("twice", assign, "d", twice, &ComputedModel::readTwice, nullptr)
+  ORVANTA_COMPUTED(kUnmapped, assign, "q", percent, &ComputedModel::readPercent,
+                   (+[](OrvantaBaseModel& o, const Value& v) {
+                     static_cast<ComputedModel&>(o).setHalf(scalarReading<double>(v) / 200);
+                   }))
+  static Value readTwice(const OrvantaBaseModel& model);
+  static Value readPercent(const OrvantaBaseModel& model);
+};
+
+/// Getters that throw, between others that do not.
+class FaultyGetterModel : public OrvantaBaseModel {
+  ORVANTA_MODEL(FaultyGetterModel, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("first", copy, String, first, setFirst)
+  ORVANTA_COMPUTED("known", strong, "@", known, &FaultyGetterModel::throwKnown, nullptr)
+  ORVANTA_COMPUTED("standard", strong, "@", standard, &FaultyGetterModel::throwStandard, nullptr)
+  ORVANTA_PROPERTY("last", copy, String, last, setLast)
+  static Value throwKnown(const OrvantaBaseModel& model);
+  static Value throwStandard(const OrvantaBaseModel& model);
+};
+
+/// Writes itself out while it is written out, and counts without a lock of its own.
+class SelfWritingModel : public OrvantaBaseModel {
+  ORVANTA_MODEL(SelfWritingModel, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("name", copy, String, name, setName)
+  ORVANTA_COMPUTED("entries", assign, "q", entries, &SelfWritingModel::countEntries, nullptr)
+  static Value countEntries(const OrvantaBaseModel& model);
+  int timesCounted() const { return timesCounted_; }
+
+ private:
+  mutable bool counting_ = false;
+  mutable int timesCounted_ = 0;
+};
+
+/// An update that sets defaults first.
+class DefaultsModel : public OrvantaBaseModel {
+  ORVANTA_MODEL(DefaultsModel, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("count", assign, std::int64_t, count, setCount)
+  ORVANTA_PROPERTY("unit", copy, String, unit, setUnit)
+  bool updateWithDictionary(const Dictionary* dictionary) override;
+};
+
+/// Nests a model whose update lets an exception pass.
+class PushHolderModel : public OrvantaBaseModel {
+  ORVANTA_MODEL(PushHolderModel, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("push", strong, OrvantaPushObject, push, setPush, OrvantaPushObject)
+  ORVANTA_PROPERTY("after", copy, String, after, setAfter)
+};
+
+/// Never touched but by the test of concurrent first use.
+class UntouchedModel : public LeafModel {
+  ORVANTA_MODEL(UntouchedModel, LeafModel)
+
+  ORVANTA_PROPERTY("link", strong, Url, link, setLink)
+};
+
+// ---- What the tests share -------------------------------------------------
+
+/// The dictionary of a JSON text.
+Dictionary dictionaryOf(std::string_view json);
+/// Updates a model from a JSON text.
+bool update(OrvantaBaseModel& model, std::string_view json);
+/// A new model initialised from a JSON text, or nil.
+template <class M>
+Ref<M> made(std::string_view json) {
+  return make<M>(dictionaryOf(json));
+}
+
+/// A value of every kind that can be stored.
+std::vector<Value> oneOfEachKind();
+/// What becomes of a value of a kind that a dictionary holds for a property of a type code.
+enum class Outcome { keptAsItIs, read, converted, refused, refusedWithLog };
+Outcome outcomeOf(Kind kind, std::string_view encoding);
+
+/// The calling thread's platform while it lives: keeps what is logged; its clock stands still.
+class RecordingPlatform final : public Platform, private SystemLog, private Clock {
+ public:
+  std::vector<std::string> log;
+  std::int64_t now = 0;
+
+  SystemLog* systemLog() override { return this; }
+  Clock* clock() override { return this; }
+
+ private:
+  void write(std::string_view entry) noexcept override { log.emplace_back(entry); }
+  std::int64_t wallNanoseconds() override { return now; }
+  std::int64_t monotonicNanoseconds() override { return now; }
+
+  PlatformOverride override_{*this};
+};
+
+/// Another log level while it lives.
+class LogLevel {
+ public:
+  explicit LogLevel(std::int64_t level) { OrvantaLogger::setLogLevel(level); }
+  LogLevel(const LogLevel&) = delete;
+  LogLevel& operator=(const LogLevel&) = delete;
+  ~LogLevel() { OrvantaLogger::setLogLevel(previous_); }
+
+ private:
+  std::int64_t previous_ = OrvantaLogger::logLevel();
+};
+
+/// Runs the work in four threads that start together.
+template <class Work>
+void runTogether(const Work& work) {
+  std::atomic<int> waiting{4};
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 4; ++i) {
+    threads.emplace_back([&work, &waiting] {
+      --waiting;
+      while (waiting != 0) std::this_thread::yield();
+      work();
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+}
+
+}  // namespace orvanta::testing
