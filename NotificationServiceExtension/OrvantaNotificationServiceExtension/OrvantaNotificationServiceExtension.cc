@@ -4,7 +4,10 @@
 
 #include "Foundation/Exception.h"
 #include "Mapping/OrvantaLogger.h"
+#include "OrvantaNotificationServiceExtension/NotificationHelper.h"
 #include "Platform/Interface/Platform.h"
+
+// The pipeline; MediaAttachment.cc and CommunicationIntent.cc have the steps that it calls.
 
 namespace orvanta {
 
@@ -42,19 +45,15 @@ void OrvantaNotificationServiceExtension::didReceiveNotificationRequest(
   bestAttemptContent_ = std::make_shared<UNMutableNotificationContent>(*request.content);
   notificationCenter_ = Platform::current().currentNotificationCenter();
   const Ref<OrvantaPushObject> object = pushObject();
-  const auto update = [self = shared_from_this(), contentHandler = std::move(contentHandler),
-                       object] { self->updateNotificationContent(contentHandler, object); };
-  if (const auto category = object ? interactiveCategory(*object) : nullptr) {
-    registerCategory(category, update);
-  } else {
-    update();
+  const auto category = object ? interactiveCategory(*object) : nullptr;
+  if (!category) {
+    updateNotificationContent(contentHandler, object);
+    return;
   }
-}
-
-void OrvantaNotificationServiceExtension::registerCategory(
-    const Ref<OrvantaUserNotificationCategory>& /*category*/,
-    const std::function<void()>& completion) {
-  completion();
+  NotificationHelper::requestNotificationAuthorizationForCategories(
+      NotificationHelper::setForCategories(Array{Value(category)}), notificationCenter_.lock(),
+      [self = shared_from_this(), contentHandler = std::move(contentHandler),
+       object](bool /*registered*/) { self->updateNotificationContent(contentHandler, object); });
 }
 
 void OrvantaNotificationServiceExtension::updateNotificationContent(
@@ -63,6 +62,7 @@ void OrvantaNotificationServiceExtension::updateNotificationContent(
   const bool hasMedia = object && object->mediaAttachmentURL().get() != nullptr;
   const bool hasIcon = object && pushIcon(*object);
 
+  // The object of the best attempt is read anew: a later request on this instance replaces it.
   const auto applyIntent = [self = shared_from_this(), contentHandler, content, hasIcon] {
     if (!hasIcon) {
       contentHandler(content);
@@ -70,26 +70,14 @@ void OrvantaNotificationServiceExtension::updateNotificationContent(
     }
     self->setNotificationIntentForNotificationContent(
         self->bestAttemptContent_, contentHandler,
-        [contentHandler, content](const Value& /*error*/) { contentHandler(content); });
+        [contentHandler, content](const Ref<NSError>& /*error*/) { contentHandler(content); });
   };
   if (!hasMedia) {
     applyIntent();
     return;
   }
   downloadAndSetMediaImageForNotificationContent(
-      bestAttemptContent_, [applyIntent](const Value& /*error*/) { applyIntent(); });
-}
-
-void OrvantaNotificationServiceExtension::downloadAndSetMediaImageForNotificationContent(
-    const std::shared_ptr<UNMutableNotificationContent>& /*content*/,
-    const ErrorCompletion& completionHandler) {
-  completionHandler(Value());
-}
-
-void OrvantaNotificationServiceExtension::setNotificationIntentForNotificationContent(
-    const std::shared_ptr<UNMutableNotificationContent>& content,
-    const UNContentHandler& contentHandler, const ErrorCompletion& /*completionHandler*/) {
-  contentHandler(content);
+      bestAttemptContent_, [applyIntent](const Ref<NSError>& /*error*/) { applyIntent(); });
 }
 
 void OrvantaNotificationServiceExtension::serviceExtensionTimeWillExpire() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <compare>
 #include <memory>
 #include <utility>
 
@@ -9,21 +10,48 @@
 
 namespace orvanta {
 
+class Images;
+class Intents;
+class NSBundle;
+class NSFileManager;
+class NSURLSession;
+class TypeIdentifiers;
+class UNNotificationAttachmentFactory;
 class UNUserNotificationCenter;
 
-/// The process-wide services of the platform. A program sets one at its start; without one, and
-/// for each service that an implementation leaves out, there is none: nothing is logged, and so on
-/// as told at each.
+/// A version of the operating system.
+struct OperatingSystemVersion {
+  int major = 0;
+  int minor = 0;
+  int patch = 0;
+  auto operator<=>(const OperatingSystemVersion&) const = default;
+};
+
+/// The process-wide services of the platform. A program sets one platform at its start. A service
+/// is asked for whenever it is used, from any thread, and lives as long as its platform; one that a
+/// platform does without is nullptr, with the consequence told at each.
 class Platform {
  public:
   virtual ~Platform() = default;
 
   /// None: log entries are dropped.
   virtual SystemLog* systemLog() { return nullptr; }
-  /// None: time stands still at 1970-01-01.
+  /// None: it is always 1970-01-01.
   virtual Clock* clock() { return nullptr; }
-  /// The one long-lived notification center of the process; the caller may keep it weakly.
+  /// The one long-lived notification center of the process, which is kept weakly. None: categories
+  /// are never registered, and what waits for that waits for ever.
   virtual std::shared_ptr<UNUserNotificationCenter> currentNotificationCenter() { return nullptr; }
+  /// These four go together; without them media is not attached.
+  virtual NSURLSession* sharedSession() { return nullptr; }
+  virtual NSFileManager* defaultManager() { return nullptr; }
+  virtual TypeIdentifiers* typeIdentifiers() { return nullptr; }
+  virtual UNNotificationAttachmentFactory* attachments() { return nullptr; }
+  /// Without one of these two a notification does not become a communication notification.
+  virtual Images* images() { return nullptr; }
+  virtual Intents* intents() { return nullptr; }
+  /// None: every key stands for itself.
+  virtual NSBundle* mainBundle() { return nullptr; }
+  virtual OperatingSystemVersion operatingSystemVersion() { return {}; }
 
   /// The platform of the calling thread (see PlatformOverride), else the one of the process.
   static Platform& current();

@@ -1,5 +1,7 @@
 #include "Foundation/CharacterSet.h"
 
+#include <charconv>
+
 namespace orvanta {
 
 std::string percentEncoded(std::string_view text, const CharacterSet& allowed) {
@@ -15,6 +17,22 @@ std::string percentEncoded(std::string_view text, const CharacterSet& allowed) {
     plain = i + 1;
   }
   return encoded.append(text, plain);
+}
+
+std::string percentDecoded(std::string_view text) {
+  std::string decoded;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    unsigned byte = 0;
+    if (text[i] == '%' && text.size() - i > 2 &&
+        std::from_chars(text.data() + i + 1, text.data() + i + 3, byte, 16).ptr ==
+            text.data() + i + 3) {
+      decoded += static_cast<char>(byte);
+      i += 2;
+    } else {
+      decoded += text[i];
+    }
+  }
+  return decoded;
 }
 
 }  // namespace orvanta

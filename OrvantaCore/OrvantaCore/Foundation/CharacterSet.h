@@ -37,5 +37,7 @@ class CharacterSet {
 
 /// Writes every byte outside the set as "%" and two upper-case hex digits.
 std::string percentEncoded(std::string_view text, const CharacterSet& allowed);
+/// Replaces every "%" and two hex digits by the byte; a "%" without them stays.
+std::string percentDecoded(std::string_view text);
 
 }  // namespace orvanta

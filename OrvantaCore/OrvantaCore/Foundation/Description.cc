@@ -147,7 +147,7 @@ std::string describe(const Value& value) {
     case Kind::string:
       return std::string(*value.string());
     case Kind::url:
-      return std::string(value.url()->absoluteString());
+      return value.url()->description();
     case Kind::object:
       return value.object()->description();
     case Kind::classObject:

@@ -15,6 +15,11 @@ class Url {
   /// when the text is no URL, or the value no text.
   static std::optional<Url> parse(const Value& text);
 
+  /// The file URL of an absolute path; what a URL cannot hold is percent-encoded.
+  static Url fileURLWithPath(std::string_view path);
+  /// The file URL of a name below a folder, whose URL ends in a slash; it stays relative to it.
+  static Url fileURLWithPath(std::string_view name, const Url& folder);
+
   Url(const Url& other) noexcept : node_(other.node_) { node_->retain(); }
   Url(Url&& other) noexcept : node_(std::exchange(other.node_, nullptr)) {}
   ~Url();
@@ -27,6 +32,15 @@ class Url {
 
   /// The absolute string as a value; a long one is shared.
   Value stringValue() const;
+  /// "http" and the like, as written; empty for a relative reference.
+  std::string_view scheme() const noexcept;
+  bool isFileURL() const noexcept { return scheme() == "file"; }
+  /// What stands between authority and query, decoded.
+  std::string path() const;
+  /// The last name of the path, decoded; a slash behind it does not count.
+  std::string lastPathComponent() const;
+  /// The absolute string, or "name -- folder" of a relative one.
+  std::string description() const;
 
   friend bool operator==(const Url& a, const Url& b) {
     return a.absoluteString() == b.absoluteString();

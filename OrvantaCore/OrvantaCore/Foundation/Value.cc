@@ -166,15 +166,15 @@ std::string_view Value::className() const noexcept {
 
 // ---- Texts ----------------------------------------------------------------
 
-StringNode::StringNode(std::string_view text, Arena* arena) noexcept
-    : Node(arena), size_(text.size()) {
+StringNode::StringNode(std::string_view text, Arena* arena, std::uint32_t baseSize) noexcept
+    : Node(arena), baseSize_(baseSize), size_(text.size()) {
   if (!text.empty()) std::memcpy(static_cast<void*>(this + 1), text.data(), text.size());
 }
 
-StringNode* StringNode::create(std::string_view text, Arena* arena) {
+StringNode* StringNode::create(std::string_view text, Arena* arena, std::uint32_t baseSize) {
   const std::size_t bytes = sizeof(StringNode) + text.size();
   void* memory = arena != nullptr ? arena->allocate(bytes) : ::operator new(bytes);
-  return new (memory) StringNode(text, arena);
+  return new (memory) StringNode(text, arena, baseSize);
 }
 
 void StringNode::destroy() const noexcept { ::operator delete(const_cast<StringNode*>(this)); }

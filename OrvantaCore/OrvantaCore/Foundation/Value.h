@@ -260,11 +260,14 @@ class StringNode : public Node {
   std::string_view text() const noexcept {
     return {reinterpret_cast<const char*>(this + 1), size_};
   }
-  static StringNode* create(std::string_view text, Arena* arena);
+  /// Of a relative URL: how much of the text is its base's. 0 for an absolute one.
+  std::size_t baseSize() const noexcept { return baseSize_; }
+  static StringNode* create(std::string_view text, Arena* arena, std::uint32_t baseSize = 0);
   void destroy() const noexcept;
 
  private:
-  StringNode(std::string_view text, Arena* arena) noexcept;
+  StringNode(std::string_view text, Arena* arena, std::uint32_t baseSize) noexcept;
+  std::uint32_t baseSize_;
   std::size_t size_;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Mapping/OrvantaBaseModel.h"
+#include "Platform/Interface/UserNotifications.h"
 
 namespace orvanta {
 
@@ -19,6 +20,13 @@ class OrvantaUserNotificationAction : public OrvantaBaseModel {
   ORVANTA_READONLY("auth", assign, bool, authenticationRequired)
   /// 1 takes text input, anything else is a plain button.
   ORVANTA_READONLY("bhv", assign, std::uint64_t, behaviour)
+  /// The platform's action, made anew each time. An identifier or title that is no text is empty.
+  Ref<UNNotificationAction> interactiveAction() const;
+  ORVANTA_COMPUTED(kUnmapped, strong, "@\"UNNotificationAction\"", interactiveAction,
+                   [](const OrvantaBaseModel& o) -> Value {
+                     return static_cast<const Self&>(o).interactiveAction();
+                   },
+                   nullptr)
 };
 
 }  // namespace orvanta

@@ -12,6 +12,10 @@ class OrvantaUserNotificationCategory : public OrvantaBaseModel {
   /// OrvantaUserNotificationAction in the order of display.
   ORVANTA_PROPERTY("ia", strong, MutableArray, actions, setActions, OrvantaUserNotificationAction)
   ORVANTA_PROPERTY("id", strong, String, identifier, setIdentifier)
+
+  /// The platform's category: every action's platform action, in order. Elements that are no
+  /// actions are passed over; an identifier that is no text is empty.
+  UNNotificationCategory category() const;
 };
 
 }  // namespace orvanta

@@ -1,0 +1,83 @@
+#include <string>
+#include <utility>
+
+#include "Mapping/OrvantaLogger.h"
+#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
+#include "Platform/Interface/Images.h"
+#include "Platform/Interface/Intents.h"
+#include "Platform/Interface/Platform.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr LogSite site(int line) {
+  return {"-[OrvantaNotificationServiceExtension setNotificationIntentForNotificationContent:"
+          "withContentHandler:completionHandler:]",
+          "OrvantaNotificationServiceExtension", line};
+}
+
+constexpr OperatingSystemVersion kFirstWithCommunication{15, 0, 0};
+
+/// The JPEG data of a picture in the bundle's resources.
+std::optional<std::string> jpegData(std::string_view name) {
+  constexpr double kBestQuality = 1.0;
+  Images* images = Platform::current().images();
+  if (images == nullptr) return std::nullopt;
+  const Ref<UIImage> image = images->imageNamed(name);
+  return image ? images->JPEGRepresentation(image, kBestQuality) : std::nullopt;
+}
+
+/// The content's title as sender and its subtitle, if any, as group, with one picture for both.
+INSendMessageIntent intentFor(const UNNotificationContent& content, const INImage& picture) {
+  INSendMessageIntent intent;
+  intent.sender = {.personHandle = {.value = content.title.value_or("")}, .image = picture};
+  if (!content.subtitle.value_or("").empty()) {
+    intent.speakableGroupName = INSpeakableString{*content.subtitle};
+    intent.recipients = {INPerson{}};
+    intent.speakableGroupNameImage = picture;
+  }
+  return intent;
+}
+
+}  // namespace
+
+void OrvantaNotificationServiceExtension::setNotificationIntentForNotificationContent(
+    const std::shared_ptr<UNMutableNotificationContent>& content, UNContentHandler contentHandler,
+    ErrorCompletion completionHandler) {
+  const Ref<OrvantaPushObject> object = pushObject();
+  const auto icon = object ? pushIcon(*object) : std::nullopt;
+  auto data = icon ? jpegData(*icon) : std::nullopt;
+  Platform& platform = Platform::current();
+  Intents* intents = platform.intents();
+  if (!data || intents == nullptr || platform.operatingSystemVersion() < kFirstWithCommunication) {
+    contentHandler(content);
+    return;
+  }
+  const INSendMessageIntent intent = intentFor(*content, INImage{*std::move(data)});
+  intents->donateInteraction(
+      INInteraction{intent},
+      [self = shared_from_this(), intents, intent, content,
+       contentHandler = std::move(contentHandler),
+       completionHandler = std::move(completionHandler)](const Ref<NSError>& donationError) {
+        if (donationError) {
+          logError(site(149), [&] {
+            return "Donate Interaction error: " + donationError->description();
+          });
+          completionHandler(donationError);
+          return;
+        }
+        const auto [updated, updateError] = intents->contentByUpdating(*content, intent);
+        if (updateError) {
+          const Ref<NSError>& error = updateError;
+          logError(site(157),
+                   [&] { return "Update Notification Error: " + error->description(); });
+          completionHandler(updateError);
+        }
+        contentHandler(updated != nullptr
+                           ? std::make_shared<UNMutableNotificationContent>(*updated)
+                           : nullptr);
+      });
+}
+
+}  // namespace orvanta

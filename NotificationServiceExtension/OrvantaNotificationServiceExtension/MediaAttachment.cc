@@ -1,0 +1,98 @@
+#include <string>
+#include <utility>
+
+#include "Foundation/Description.h"
+#include "Mapping/OrvantaLogger.h"
+#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
+#include "Platform/Interface/NSFileManager.h"
+#include "Platform/Interface/NSURLSession.h"
+#include "Platform/Interface/Platform.h"
+#include "Platform/Interface/TypeIdentifiers.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr LogSite site(int line) {
+  return {"-[OrvantaNotificationServiceExtension downloadAndSetMediaImageForNotificationContent:"
+          "withCompletionHandler:]",
+          "OrvantaNotificationServiceExtension", line};
+}
+
+/// "label" and what "%@" prints of a value.
+auto labelled(std::string_view label, const Value& value) {
+  return [label, &value] { return std::string(label) + describe(value); };
+}
+auto labelled(std::string_view label, const std::optional<std::string>& text) {
+  return [label, &text] { return std::string(label) + text.value_or("(null)"); };
+}
+
+Value orNil(const Url* url) { return url != nullptr ? Value(*url) : Value(); }
+
+}  // namespace
+
+std::optional<Url> OrvantaNotificationServiceExtension::cacheURL() {
+  NSFileManager* files = Platform::current().defaultManager();
+  if (files == nullptr) return std::nullopt;
+  return files->URLsForCachesDirectory().back();
+}
+
+void OrvantaNotificationServiceExtension::downloadAndSetMediaImageForNotificationContent(
+    const std::shared_ptr<UNMutableNotificationContent>& content,
+    ErrorCompletion completionHandler) {
+  const Ref<OrvantaPushObject> object = pushObject();
+  const Url* media = object ? object->mediaAttachmentURL().get() : nullptr;
+  const Value mediaValue = orNil(media);
+  logDebug(site(175), labelled("Start request with URL : ", mediaValue));
+  NSURLSession* session = Platform::current().sharedSession();
+  if (session == nullptr) {
+    completionHandler(
+        NSError::errorWithDomain(kNSURLErrorDomain, kNSURLErrorUnsupportedURL, "unsupported URL"));
+    return;
+  }
+  session->downloadTaskWithURL(
+      media != nullptr ? std::optional<Url>(*media) : std::nullopt,
+      [self = shared_from_this(), content, completionHandler = std::move(completionHandler)](
+          const std::optional<Url>& location, const Ref<NSURLResponse>& response,
+          const Ref<NSError>& error) {
+        if (error) {
+          logError(site(181),
+                   [&] { return "Attachment download error : " + error->debugDescription(); });
+          completionHandler(error);
+          return;
+        }
+        completionHandler(self->attach(*location, response, *content));
+      });
+}
+
+Ref<NSError> OrvantaNotificationServiceExtension::attach(
+    const Url& location, const Ref<NSURLResponse>& response,
+    UNMutableNotificationContent& content) const {
+  Platform& platform = Platform::current();
+  const std::optional<std::string> mimeType = response ? response->MIMEType() : std::nullopt;
+  const auto type = platform.typeIdentifiers()->preferredIdentifierForMIMEType(mimeType);
+  logDebug(site(190), labelled("Response : ", Value(response)));
+  logDebug(site(191), labelled("MIME Type : ", mimeType));
+  logDebug(site(192), labelled("UTI : ", type));
+
+  const Url destination = Url::fileURLWithPath(location.lastPathComponent(), *cacheURL());
+  if (Ref<NSError> error = platform.defaultManager()->moveItemAtURL(location, destination)) {
+    logError(site(198), [&] { return "Attachment move error: " + error->debugDescription(); });
+    return error;
+  }
+  logDebug(site(202), labelled("URL : ", Value(destination)));
+
+  auto [attachment, error] =
+      platform.attachments()->attachmentWithIdentifier("attachment", destination, type);
+  if (error) {
+    const Ref<NSError>& refused = error;
+    logError(site(211), [&] { return "Attachment create error: " + refused->debugDescription(); });
+    return refused;
+  }
+  const Value made(attachment);
+  logDebug(site(215), labelled("Present Attachment : ", made));
+  content.attachments = {std::move(attachment)};
+  return nullptr;
+}
+
+}  // namespace orvanta

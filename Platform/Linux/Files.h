@@ -1,0 +1,24 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "Platform/Interface/NSFileManager.h"
+
+namespace orvanta {
+
+/// A file manager whose caches folder is the one given.
+class HostFileManager final : public NSFileManager {
+ public:
+  /// Makes the folder when it is missing; throws std::filesystem::filesystem_error.
+  explicit HostFileManager(std::filesystem::path cachesFolder);
+
+  std::vector<Url> URLsForCachesDirectory() override;
+  Ref<NSError> moveItemAtURL(const Url& source, const Url& destination) override;
+
+ private:
+  std::filesystem::path cachesFolder_;
+};
+
+}  // namespace orvanta

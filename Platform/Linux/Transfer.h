@@ -1,0 +1,49 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+#include "Platform/Interface/NSURLSession.h"
+
+namespace orvanta {
+
+/// How far a transfer may go.
+struct TransferLimits {
+  std::chrono::milliseconds idle{60'000};  // without a byte, at any stage: -1001
+  std::chrono::milliseconds total{7LL * 24 * 3600 * 1000};  // from start to end: -1001
+  std::uint64_t bytes = 256'000'000;  // of the body, after decoding: -1103
+  int redirects = 20;                 // one more: -1007
+};
+
+/// What a transfer ended with, as NSURLSession reports it.
+struct TransferResult {
+  std::optional<std::filesystem::path> file;  // the temporary file, the caller's to move or remove
+  Ref<NSURLResponse> response;
+  Ref<NSError> error;
+};
+
+/// Told the bytes so far and the size that was announced, 0 for none.
+using TransferProgress = std::function<void(std::uint64_t received, std::uint64_t expected)>;
+
+/// Fetches a URL over http or https, and nothing else, into a new file of the folder, named
+/// "CFNetworkDownload_" + six letters or digits + ".tmp" as the platform names its own. Blocks. The
+/// body is streamed to the file; certificates are checked. Errors are those of NSURLErrorDomain,
+/// with NSLocalizedDescription, NSErrorFailingURLStringKey and NSErrorFailingURLKey. An HTTP error
+/// status is none. No file is left behind after an error.
+TransferResult transfer(const Url& url, const std::filesystem::path& folder,
+                        const TransferLimits& limits, const TransferProgress& progress = {});
+
+/// A name of the platform's form for a download's temporary file, which the folder does not have.
+std::filesystem::path temporaryDownload(const std::filesystem::path& folder);
+
+/// An error of NSURLErrorDomain with the platform's text for the code and the URL that failed.
+Ref<NSError> urlError(std::int64_t code, const std::optional<Url>& url);
+
+/// The value of a Content-Type header as a response's MIME type: lower case, without parameters;
+/// none when it is empty or no "type/subtype" of RFC 9110 tokens.
+std::optional<std::string> mimeTypeOfHeader(std::string_view contentType);
+
+}  // namespace orvanta
