@@ -26,6 +26,13 @@ class NSError final : public Object {
                                       std::string_view localizedDescription) {
     return errorWithDomain(domain, code, Dictionary{{kLocalizedDescription, localizedDescription}});
   }
+  /// One whose text its domain makes up: the user info does not hold it.
+  static Ref<NSError> errorWithDomain(std::string_view domain, std::int64_t code,
+                                      Dictionary userInfo, std::string_view generatedDescription) {
+    Ref<NSError> error = errorWithDomain(domain, code, std::move(userInfo));
+    error->generatedDescription_ = generatedDescription;
+    return error;
+  }
 
   static constexpr const ClassObject& classObject() { return kClass; }
   const ClassObject& isa() const override { return kClass; }
@@ -33,11 +40,16 @@ class NSError final : public Object {
   const std::string& domain() const { return domain_; }
   std::int64_t code() const { return code_; }
   const Dictionary& userInfo() const { return userInfo_; }
+  /// The text in the user info, else the one that the domain made up; nil for none.
+  const Value& localizedDescription() const {
+    const Value& given = userInfo_[kLocalizedDescription];
+    return given.isNil() ? generatedDescription_ : given;
+  }
 
   /// Error Domain=… Code=… "text" UserInfo={key=value, …}; the last part only when there is one.
   std::string description() const override {
     std::string text = "Error Domain=" + domain_ + " Code=" + std::to_string(code_) + " \"" +
-                       describe(userInfo_[kLocalizedDescription]) + "\"";
+                       describe(localizedDescription()) + "\"";
     if (userInfo_.empty()) return text;
     text += " UserInfo={";
     for (const Dictionary::Entry& entry : userInfo_) {
@@ -58,6 +70,7 @@ class NSError final : public Object {
   std::string domain_;
   std::int64_t code_;
   Dictionary userInfo_;
+  Value generatedDescription_;
 };
 
 /// Told how an operation ended; nil for success.

@@ -1,35 +1,53 @@
 #pragma once
 
 #include <algorithm>
+#include <chrono>
 #include <compare>
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <string>
+#include <thread>
 #include <utility>
+#include <vector>
 
 namespace orvanta {
 
 /// One serial queue with a clock of its own: events run in the order of their times, and the clock
-/// jumps from one to the next, so nothing waits. Those of equal times run in the order in which
-/// they were scheduled, urgent ones first.
+/// jumps from one to the next. Those of equal times run in the order in which they were scheduled,
+/// urgent ones first.
 class EventLoop {
  public:
+  /// In real time the loop waits until an event's time has come; otherwise nothing waits.
+  explicit EventLoop(bool realTime = false) : realTime_(realTime) {}
+
   /// Seconds since the loop began.
   double now() const { return now_; }
   /// Runs an event at a time, at the earliest now.
   void schedule(double at, std::function<void()> event, bool urgent = false) {
     events_.emplace(Order{std::max(at, now_), !urgent, next_++}, std::move(event));
   }
+  /// The same that many seconds from now.
+  void scheduleIn(double seconds, std::function<void()> event) {
+    schedule(now_ + seconds, std::move(event));
+  }
   /// Runs until nothing is scheduled.
   void run() {
+    const auto start = std::chrono::steady_clock::now();
     while (!events_.empty()) {
       auto first = events_.extract(events_.begin());
       now_ = first.key().at;
+      if (realTime_) {
+        std::this_thread::sleep_until(
+            start + std::chrono::duration_cast<std::chrono::nanoseconds>(
+                        std::chrono::duration<double>(std::min(now_, kLongestWait))));
+      }
       first.mapped()();
     }
   }
 
  private:
+  static constexpr double kLongestWait = 1e6;  // seconds
   struct Order {
     double at;
     bool patient;
@@ -37,9 +55,27 @@ class EventLoop {
     auto operator<=>(const Order&) const = default;
   };
 
+  bool realTime_;
   double now_ = 0.0;
   std::uint64_t next_ = 0;
   std::map<Order, std::function<void()>> events_;
+};
+
+/// What happened and when, for people.
+class Timeline {
+ public:
+  struct Step {
+    double time;  // seconds
+    std::string text;
+  };
+
+  explicit Timeline(const EventLoop& loop) : loop_(loop) {}
+  void add(std::string text) { steps_.push_back({loop_.now(), std::move(text)}); }
+  const std::vector<Step>& steps() const { return steps_; }
+
+ private:
+  const EventLoop& loop_;
+  std::vector<Step> steps_;
 };
 
 }  // namespace orvanta

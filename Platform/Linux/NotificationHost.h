@@ -1,12 +1,17 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "Platform/Interface/UserNotifications.h"
+#include "Platform/Linux/HostServices.h"
+#include "Platform/Linux/HostURLSession.h"
 #include "Platform/Linux/RemoteNotification.h"
+#include "Platform/Linux/Scenario.h"
 
 namespace orvanta {
 
@@ -17,7 +22,7 @@ struct Delivery {
   int request;  // from 1
   double time;  // seconds since the first request came in
   By by;
-  bool ignored;                                  // the system takes a request's first delivery only
+  bool ignored;  // the system takes a request's first delivery only
   std::optional<UNNotificationContent> content;  // as it was at the call; none when it was null
 };
 
@@ -27,6 +32,7 @@ struct ShownNotification {
 
   From from;
   UNNotificationContent content;
+  std::vector<Ref<UNNotificationAction>> buttons;  // of the content's category, if it is registered
 };
 
 /// Everything that came of a payload.
@@ -34,27 +40,43 @@ struct HostReport {
   LaunchVerdict launch;
   std::vector<Delivery> deliveries;
   std::vector<ShownNotification> shown;  // one per request
+  /// Everything that is registered after the last write; none when nothing was written.
+  std::optional<UNNotificationCategorySet> categories;
+  std::vector<Donation> donations;
+  std::vector<Timeline::Step> steps;
+};
+
+/// What the host is to be like.
+struct HostOptions {
+  OperatingSystemVersion os{17, 0, 0};
+  std::filesystem::path resources;    // of the bundle; empty for none
+  std::filesystem::path stateFolder;  // caches, categories, donations; must exist
+  std::vector<UrlMapping> urlMappings;
+  Scenario scenario;
+  double timeBudget = 30.0;  // seconds from a request to serviceExtensionTimeWillExpire
+  bool realTime = false;
+  TransferLimits limits;
+  TransferProgress progress;
+  SystemLog* log = nullptr;
 };
 
 /// Does what the system does with a remote notification: makes its content, creates the extension,
-/// hands over the request, gives it a budget of time and takes what it delivers. Time is simulated.
-/// The extension runs whatever the launch verdict says.
+/// hands over the request, gives it a budget of time and takes what it delivers. Everything runs on
+/// one serial queue; time is simulated, a real transfer adds what it took. The extension runs
+/// whatever the launch verdict says. Throws std::runtime_error for a folder, strings file or state
+/// that cannot be used.
 class NotificationHost {
  public:
-  struct Options {
-    double timeBudget = 30.0;  // seconds from the request to serviceExtensionTimeWillExpire
-  };
   using ExtensionFactory = std::function<std::shared_ptr<UNNotificationServiceExtension>()>;
 
-  explicit NotificationHost(ExtensionFactory makeExtension) : NotificationHost(makeExtension, {}) {}
-  NotificationHost(ExtensionFactory makeExtension, Options options)
-      : makeExtension_(std::move(makeExtension)), options_(options) {}
+  NotificationHost(ExtensionFactory makeExtension, HostOptions options)
+      : makeExtension_(std::move(makeExtension)), options_(std::move(options)) {}
 
   HostReport run(const Dictionary& payload);
 
  private:
   ExtensionFactory makeExtension_;
-  Options options_;
+  HostOptions options_;
 };
 
 }  // namespace orvanta

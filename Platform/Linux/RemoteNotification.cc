@@ -51,10 +51,12 @@ std::string withArguments(std::string_view format, const Array* arguments) {
   return text;
 }
 
-std::optional<std::string> alertText(const Dictionary& alert, const AlertText& part) {
+std::optional<std::string> alertText(const Dictionary& alert, const AlertText& part,
+                                     NSBundle& bundle) {
   const Value& key = alert[part.localizationKey];
   if (isNonEmptyText(key)) {
-    return withArguments(*key.string(), alert[part.localizationArguments].array());
+    return withArguments(bundle.localizedStringForKey(*key.string()),
+                         alert[part.localizationArguments].array());
   }
   const auto text = alert[part.key].string();
   return text ? std::optional<std::string>(*text) : std::nullopt;
@@ -84,7 +86,7 @@ LaunchVerdict launchVerdict(const Dictionary& payload) {
   return verdict;
 }
 
-UNNotificationContent contentForPayload(const Dictionary& payload) {
+UNNotificationContent contentForPayload(const Dictionary& payload, NSBundle& bundle) {
   UNNotificationContent content;
   content.userInfo = payload;
   const Dictionary* aps = payload["aps"].dictionary();
@@ -93,7 +95,7 @@ UNNotificationContent contentForPayload(const Dictionary& payload) {
   const Value& alert = (*aps)["alert"];
   if (const auto text = alert.string()) content.body = *text;
   if (const Dictionary* texts = alert.dictionary()) {
-    for (const AlertText& part : kAlertTexts) content.*part.member = alertText(*texts, part);
+    for (const AlertText& part : kAlertTexts) content.*part.member = alertText(*texts, part, bundle);
   }
   if (const Value& badge = (*aps)["badge"]; badge.isNumber()) content.badge = badge;
   const Value& sound = (*aps)["sound"];

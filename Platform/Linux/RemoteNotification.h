@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "Platform/Interface/NSBundle.h"
 #include "Platform/Interface/UserNotifications.h"
 
 namespace orvanta {
@@ -16,8 +17,8 @@ struct LaunchVerdict {
 LaunchVerdict launchVerdict(const Dictionary& payload);
 
 /// The content that the system makes of a payload before any extension sees it. A value of another
-/// kind than the system expects counts as absent. A localisation key wins over the plain text and
-/// stands for itself; "%@" and "%1$@" in it take the arguments.
-UNNotificationContent contentForPayload(const Dictionary& payload);
+/// kind than the system expects counts as absent. A localisation key wins over the plain text; "%@"
+/// and "%1$@" in the bundle's text for it take the arguments.
+UNNotificationContent contentForPayload(const Dictionary& payload, NSBundle& bundle);
 
 }  // namespace orvanta

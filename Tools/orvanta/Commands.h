@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "Mapping/Class.h"
-#include "Platform/Linux/LinuxPlatform.h"
 #include "Tool.h"
 
 namespace orvanta::tool {
@@ -12,9 +11,16 @@ namespace orvanta::tool {
 struct NotifyOptions {
   std::string payload = "-";
   bool json = false;
+  std::string osVersion;  // empty: the scenario's, else the newest
+  std::string resources;
+  std::string state;     // empty: a fresh folder
+  std::string scenario;  // file; empty for none
+  std::vector<std::string> mapUrls;
+  double timeBudget = 30.0;
+  bool realTime = false;
+  std::string maxDownload = "256M";
 };
-ExitCode notify(const NotifyOptions& options, const LinuxPlatform& platform,
-                const Streams& streams);
+ExitCode notify(const NotifyOptions& options, const Streams& streams);
 
 struct ModelOptions {
   std::string className;

@@ -1,190 +1,179 @@
-#include <cstdio>
-#include <ostream>
+#include <unistd.h>
+
+#include <charconv>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <system_error>
 
 #include "Commands.h"
-#include "Foundation/Array.h"
-#include "Foundation/Description.h"
+#include "Foundation/Url.h"
 #include "Input.h"
-#include "Mapping/RefusalRecorder.h"
+#include "Ledger.h"
 #include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
+#include "Platform/Linux/ClockAndLog.h"
 #include "Platform/Linux/NotificationHost.h"
+#include "Sheet.h"
 #include "Text.h"
 
 namespace orvanta::tool {
 
 namespace {
 
-// ---- The ledger -----------------------------------------------------------
+namespace fs = std::filesystem;
 
-Value orNull(Value value) { return value.isNil() ? Value::null() : std::move(value); }
-Value orNull(const std::optional<std::string>& text) { return text ? Value(*text) : Value::null(); }
-
-Dictionary contentEntry(const UNNotificationContent& content) {
-  return {{"title", orNull(content.title)},
-          {"subtitle", orNull(content.subtitle)},
-          {"body", orNull(content.body)},
-          {"badge", orNull(content.badge)},
-          {"sound", orNull(content.sound)},
-          {"categoryIdentifier", content.categoryIdentifier},
-          {"threadIdentifier", content.threadIdentifier},
-          {"userInfo", content.userInfo},
-          {"attachments", Array()}};
-}
-
-std::string_view nameOf(Delivery::By by) {
-  return by == Delivery::By::expiry ? "expiry" : "pipeline";
-}
-
-Dictionary ledger(const HostReport& report, const std::vector<std::string>& log) {
-  Array reasons;
-  for (const std::string& reason : report.launch.unmet) reasons.append(reason);
-  Array deliveries;
-  for (const Delivery& delivery : report.deliveries) {
-    deliveries.append(Dictionary{
-        {"request", delivery.request},
-        {"time", delivery.time},
-        {"by", nameOf(delivery.by)},
-        {"ignored", delivery.ignored},
-        {"content", delivery.content ? Value(contentEntry(*delivery.content)) : Value::null()}});
-  }
-  Array shown;
-  for (const ShownNotification& notification : report.shown) {
-    Dictionary entry = contentEntry(notification.content);
-    const bool original = notification.from == ShownNotification::From::original;
-    entry.set("from", original ? "original" : "delivery");
-    entry.set("buttons", Array());
-    shown.append(entry);
-  }
-  Array entries;
-  for (const std::string& entry : log) entries.append(entry);
-  return {{"format", 1},
-          {"launch", Dictionary{{"starts", report.launch.starts()}, {"reasons", reasons}}},
-          {"deliveries", deliveries},
-          {"shown", shown},
-          {"categories", Value::null()},
-          {"donations", Array()},
-          {"log", entries}};
-}
-
-// ---- For a person ---------------------------------------------------------
-
-/// Prints labelled lines; what follows a line break lines up behind the label.
-class Sheet {
+/// A state folder: the one named, which stays, or a fresh one, which goes with this object.
+class StateFolder {
  public:
-  explicit Sheet(std::ostream& out) : out_(out) {}
+  explicit StateFolder(const std::string& named) : isTemporary_(named.empty()) {
+    if (isTemporary_) {
+      std::string name = (fs::temp_directory_path() / "orvanta-XXXXXX").string();
+      if (mkdtemp(name.data()) == nullptr) {
+        throw Failure(ExitCode::unreadable, name + ": no temporary folder can be made");
+      }
+      path_ = name;
+    } else {
+      std::error_code error;
+      fs::create_directories(named, error);
+      if (error) throw Failure(ExitCode::unreadable, named + ": " + error.message());
+      path_ = fs::canonical(named);
+    }
+  }
+  StateFolder(const StateFolder&) = delete;
+  StateFolder& operator=(const StateFolder&) = delete;
+  ~StateFolder() {
+    std::error_code ignored;
+    if (isTemporary_) fs::remove_all(path_, ignored);
+  }
 
-  void heading(std::string_view label, std::string_view text) { line("", 10, label, text); }
-  void row(std::string_view label, std::string_view text) { line("  ", 10, label, text); }
-  void step(double seconds, std::string_view text) {
-    char label[32];
-    std::snprintf(label, sizeof label, "%.3f s", seconds);
-    row(label, text);
+  const fs::path& path() const { return path_; }
+  /// A text in which the folder's paths and URLs read as "state/…".
+  std::string neutral(std::string_view text) const {
+    std::string result(text);
+    const std::string url(Url::fileURLWithPath(path_.string() + "/").absoluteString());
+    for (const std::string& from : {url, path_.string() + "/"}) {
+      for (auto at = result.find(from); at != std::string::npos; at = result.find(from, at + 6)) {
+        result.replace(at, from.size(), "state/");
+      }
+    }
+    return result;
   }
 
  private:
-  void line(std::string_view indent, std::size_t width, std::string_view label,
-            std::string_view text) {
-    out_ << indent << label;
-    if (!text.empty()) {
-      const std::size_t gap = label.size() < width ? width - label.size() : 1;
-      out_ << std::string(gap, ' ') << printable(text, indent.size() + width);
-    }
-    out_ << '\n';
-  }
-
-  std::ostream& out_;
+  bool isTemporary_;
+  fs::path path_;
 };
 
-std::string counted(std::size_t count, const std::string& noun) {
-  return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+UrlMapping mappingFrom(const std::string& argument) {
+  const auto equals = argument.find('=');
+  if (equals == std::string::npos || equals == 0 || equals + 1 == argument.size()) {
+    throw Failure(ExitCode::usage,
+                  "--map-url \"" + printable(argument) + "\": PREFIX=TARGET is needed");
+  }
+  UrlMapping mapping{argument.substr(0, equals), argument.substr(equals + 1)};
+  if (mapping.isFolder() && !fs::is_directory(mapping.target)) {
+    throw Failure(ExitCode::unreadable, mapping.target + ": no such folder (--map-url)");
+  }
+  return mapping;
 }
 
-/// What the payload asks for, as the extension reads it.
-void printWishes(const Dictionary& payload, Sheet& sheet) {
-  Platform silent;  // the extension's own reading has logged what there is to log
-  const PlatformOverride override(silent);
-  RefusalRecorder recorder;
-  Ref<OrvantaPushObject> push;
+/// Bytes with an optional k, M or G (powers of 1000).
+std::uint64_t bytesFrom(const std::string& argument) {
+  std::uint64_t bytes = 0;
+  const char* end = argument.data() + argument.size();
+  const auto result = std::from_chars(argument.data(), end, bytes);
+  constexpr std::string_view kUnits = "kMG";
+  std::uint64_t factor = 1;
+  if (result.ec == std::errc() && result.ptr + 1 == end) {
+    const auto unit = kUnits.find(*result.ptr);
+    for (std::size_t i = 0; unit != std::string_view::npos && i <= unit; ++i) factor *= 1000;
+  }
+  const bool isWhole = result.ec == std::errc() && (result.ptr == end || factor != 1);
+  if (!isWhole || bytes == 0 || bytes > 1'000'000'000'000U / factor) {
+    throw Failure(ExitCode::usage, "--max-download \"" + printable(argument) +
+                                       "\": a number of bytes is needed, such as 5M");
+  }
+  return bytes * factor;
+}
+
+Scenario scenarioFrom(const std::string& file, const Streams& streams) {
+  if (file.empty()) return {};
+  const Input input = readInput(file, streams);
   try {
-    push = make<OrvantaPushObject>(payload);
-  } catch (const Exception&) {
-    push = nullptr;
-  }
-  if (!push) {
-    sheet.row("", "no push object: " + (recorder.refusal() ? recorder.refusal()->description()
-                                                           : std::string("refused")));
-    sheet.row("", "so the content goes on unchanged");
-    return;
-  }
-  if (const auto category = interactiveCategory(*push)) {
-    sheet.row("asks for", counted(category->actions().get()->size(), "button") +
-                              " under the category \"" +
-                              std::string(*category->identifier().get()) + "\"");
-  }
-  if (const Url* media = push->mediaAttachmentURL().get()) {
-    sheet.row("asks for", "media from " + std::string(media->absoluteString()));
-  }
-  if (const auto icon = pushIcon(*push)) {
-    sheet.row("asks for", "the sender icon \"" + std::string(*icon) + "\"");
+    return Scenario::fromDictionary(input.object);
+  } catch (const ScenarioError& error) {
+    throw Failure(ExitCode::unreadable, input.name + ": " + printable(error.what()));
   }
 }
 
-void printContent(const UNNotificationContent& content, Sheet& sheet) {
-  const auto text = [](const std::optional<std::string>& part) { return part.value_or("none"); };
-  const auto name = [](const std::string& identifier) {
-    return identifier.empty() ? std::string("none") : identifier;
-  };
-  sheet.row("title", text(content.title));
-  sheet.row("subtitle", text(content.subtitle));
-  sheet.row("body", text(content.body));
-  sheet.row("badge", content.badge.isNil() ? "unchanged" : describe(content.badge));
-  sheet.row("sound", content.sound.isNil() ? "none" : describe(content.sound));
-  sheet.row("category", name(content.categoryIdentifier));
-  sheet.row("thread", name(content.threadIdentifier));
-  sheet.row("media", "none");
-  sheet.row("buttons", "none");
-}
-
-void print(const Input& input, const HostReport& report, std::ostream& out) {
-  Sheet sheet(out);
-  sheet.heading("Payload", input.name + ", " + counted(input.text.size(), "byte"));
-  if (report.launch.starts()) {
-    sheet.heading("Start", "yes, the system starts the extension");
-  } else {
-    std::string reasons = "no, the system would not start the extension:";
-    for (const std::string& reason : report.launch.unmet) reasons.append("\n").append(reason);
-    sheet.heading("Start", reasons + "\nwhat follows is what the extension would do");
+/// Draws a progress bar on the terminal's last line.
+void drawProgress(std::uint64_t received, std::uint64_t expected) {
+  constexpr std::uint64_t kWidth = 30;
+  std::cerr << "\r  " << received / 1000 << " kB";
+  if (expected >= received && expected != 0) {
+    const std::uint64_t filled = received * kWidth / expected;
+    std::cerr << " of " << expected / 1000 << " kB [" << std::string(filled, '#')
+              << std::string(kWidth - filled, ' ') << "]";
   }
-  sheet.heading("Steps", "");
-  sheet.step(0.0, "the extension gets the request");
-  printWishes(input.object, sheet);
-  for (const Delivery& delivery : report.deliveries) {
-    std::string text =
-        delivery.content ? "content delivered by the " : "no content delivered by the ";
-    text.append(nameOf(delivery.by));
-    sheet.step(delivery.time, text + (delivery.ignored ? ", which the system ignores" : ""));
-  }
-  if (report.deliveries.empty()) sheet.row("", "nothing was delivered");
-  for (const ShownNotification& notification : report.shown) {
-    const bool original = notification.from == ShownNotification::From::original;
-    sheet.heading("Shown", !report.launch.starts() ? "had the system started the extension"
-                           : original              ? "the original content"
-                                                   : "the delivered content");
-    printContent(notification.content, sheet);
-  }
+  std::cerr << std::flush;
 }
 
 }  // namespace
 
-ExitCode notify(const NotifyOptions& options, const LinuxPlatform& platform,
-                const Streams& streams) {
+ExitCode notify(const NotifyOptions& options, const Streams& streams) {
+  if (options.payload == "-" && options.scenario == "-") {
+    throw Failure(ExitCode::usage, "standard input can be read only once");
+  }
+  HostOptions host;
+  host.scenario = scenarioFrom(options.scenario, streams);
+  if (!options.osVersion.empty()) {
+    const auto version = parseVersion(options.osVersion);
+    if (!version) {
+      throw Failure(ExitCode::usage, "--os-version \"" + printable(options.osVersion) +
+                                         "\": a version such as 17.0 is needed");
+    }
+    host.scenario.os = *version;
+  }
+  if (!options.resources.empty() && !fs::is_directory(options.resources)) {
+    throw Failure(ExitCode::unreadable, options.resources + ": no such folder (--resources)");
+  }
+  host.resources = options.resources;
+  for (const std::string& mapping : options.mapUrls) {
+    host.urlMappings.push_back(mappingFrom(mapping));
+  }
+  host.timeBudget = options.timeBudget;
+  host.realTime = options.realTime;
+  host.limits.bytes = bytesFrom(options.maxDownload);
+
   const Input input = readInput(options.payload, streams);
-  NotificationHost host([] { return std::make_shared<OrvantaNotificationServiceExtension>(); });
-  const HostReport report = host.run(input.object);
+  const StateFolder state(options.state);
+  const auto neutral = [&](std::string_view text) { return state.neutral(text); };
+  host.stateFolder = state.path();
+  RecordingLog log(streams.err);
+  log.setFilter(neutral);
+  host.log = &log;
+  bool isDrawn = false;
+  if (&streams.err == &std::cerr && isatty(STDERR_FILENO) != 0) {
+    host.progress = [&](std::uint64_t received, std::uint64_t expected) {
+      isDrawn = true;
+      drawProgress(received, expected);
+    };
+  }
+
+  const OperatingSystemVersion os = host.scenario.os.value_or(host.os);
+  NotificationHost runner([] { return std::make_shared<OrvantaNotificationServiceExtension>(); },
+                          std::move(host));
+  HostReport report;
+  try {
+    report = runner.run(input.object);
+  } catch (const std::runtime_error& error) {
+    throw Failure(ExitCode::unreadable, error.what());
+  }
+  if (isDrawn) streams.err << "\r\033[K";
   if (options.json) {
-    printJSON(ledger(report, platform.log().entries()), streams.out, /*pretty=*/true);
+    printJSON(ledger(report, log.entries(), neutral), streams.out, /*pretty=*/true);
   } else {
-    print(input, report, streams.out);
+    printSheet(input, report, os, neutral, streams.out);
   }
   return ExitCode::done;
 }

@@ -5,6 +5,8 @@
 
 #include "Commands.h"
 #include "Mapping/OrvantaLogger.h"
+#include "Platform/Interface/Platform.h"
+#include "Platform/Linux/ClockAndLog.h"
 
 namespace orvanta::tool {
 
@@ -26,6 +28,18 @@ constexpr const char* kFooter =
     "  orvanta notify payload.json --json | less\n"
     "  echo '{\"aps\":{\"alert\":\"Hi\"}}' | orvanta model OrvantaPushObject\n"
     "  orvanta schema OrvantaPushObject";
+
+/// The platform of a command that needs the clock and the log only.
+class LoggingPlatform final : public Platform {
+ public:
+  explicit LoggingPlatform(std::ostream& logStream) : log_(logStream) {}
+  SystemLog* systemLog() override { return &log_; }
+  Clock* clock() override { return &clock_; }
+
+ private:
+  RecordingLog log_;
+  SystemClock clock_;
+};
 
 ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
   CLI::App app(
@@ -49,6 +63,38 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
       "notification as the user sees it.");
   notifyCommand->add_option("PAYLOAD", notifyOptions.payload, "JSON file")->capture_default_str();
   notifyCommand->add_flag("--json", notifyOptions.json, "Print a ledger for programs instead");
+  notifyCommand
+      ->add_option("--os-version", notifyOptions.osVersion, "iOS version to simulate (17.0)")
+      ->option_text("V");
+  notifyCommand
+      ->add_option("--resources", notifyOptions.resources,
+                   "The bundle's resources: pictures and Localizable.strings")
+      ->option_text("DIR");
+  notifyCommand
+      ->add_option("--state", notifyOptions.state,
+                   "Caches, registered categories and donations (a fresh folder, removed at the end)")
+      ->option_text("DIR");
+  notifyCommand
+      ->add_option("--map-url", notifyOptions.mapUrls,
+                   "Fetch URLs that begin with PREFIX from TARGET, a folder or another URL; "
+                   "repeatable, the longest prefix counts")
+      ->option_text("PREFIX=TARGET")
+      ->allow_extra_args(false);
+  notifyCommand
+      ->add_option("--scenario", notifyOptions.scenario,
+                   "What the device does: replaced texts, answers, delays, faults, a second request")
+      ->option_text("FILE");
+  notifyCommand
+      ->add_option("--time-budget", notifyOptions.timeBudget,
+                   "Seconds from the request to the expiry (30)")
+      ->option_text("S")
+      ->check(CLI::Range(0.0, 1e9));
+  notifyCommand->add_flag("--real-time", notifyOptions.realTime,
+                          "Wait as long as the simulated device would");
+  notifyCommand
+      ->add_option("--max-download", notifyOptions.maxDownload,
+                   "End a download beyond this size (256M)")
+      ->option_text("BYTES");
 
   ModelOptions modelOptions;
   CLI::App* modelCommand = app.add_subcommand(
@@ -87,9 +133,9 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
     return code == 0 ? ExitCode::done : ExitCode::usage;
   }
   OrvantaLogger::setLogLevel(logLevel);
-  LinuxPlatform platform(streams.err);
+  if (*notifyCommand) return notify(notifyOptions, streams);
+  LoggingPlatform platform(streams.err);
   const PlatformOverride override(platform);
-  if (*notifyCommand) return notify(notifyOptions, platform, streams);
   if (*modelCommand) return model(modelOptions, streams);
   return schema(schemaOptions, streams);
 }

@@ -2,7 +2,7 @@
 # The Debian packages the project needs, and the function that installs those still missing.
 
 # shellcheck disable=SC2034  # read by the scripts that source this file
-run_packages=(g++ cmake ninja-build libcli11-dev)
+run_packages=(g++ cmake ninja-build libcli11-dev libgd-dev)
 # shellcheck disable=SC2034
 test_packages=(libgtest-dev libbenchmark-dev)
 # shellcheck disable=SC2034

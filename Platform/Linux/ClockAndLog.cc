@@ -1,4 +1,4 @@
-#include "Platform/Linux/LinuxPlatform.h"
+#include "Platform/Linux/ClockAndLog.h"
 
 #include <chrono>
 
@@ -19,8 +19,8 @@ std::int64_t SystemClock::monotonicNanoseconds() {
 void RecordingLog::write(std::string_view entry) noexcept {
   const std::lock_guard guard(lock_);
   try {
-    entries_.emplace_back(entry);
-    out_ << entry << std::flush;
+    entries_.push_back(filter_ ? filter_(entry) : std::string(entry));
+    out_ << entries_.back() << std::flush;
   } catch (const std::exception&) {
     // A log that cannot be written is no reason to fail; the entry is lost.
     return;

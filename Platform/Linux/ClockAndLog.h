@@ -1,11 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <mutex>
 #include <ostream>
 #include <string>
 #include <vector>
 
-#include "Platform/Interface/Platform.h"
+#include "Platform/Interface/Clock.h"
+#include "Platform/Interface/SystemLog.h"
 
 namespace orvanta {
 
@@ -19,29 +21,19 @@ class SystemClock final : public Clock {
 /// A system log that goes to a stream and is kept.
 class RecordingLog final : public SystemLog {
  public:
+  /// Entries pass through the filter on their way.
+  using Filter = std::function<std::string(std::string_view)>;
+
   explicit RecordingLog(std::ostream& out) : out_(out) {}
+  void setFilter(Filter filter) { filter_ = std::move(filter); }
   void write(std::string_view entry) noexcept override;
   std::vector<std::string> entries() const;
 
  private:
   std::ostream& out_;
+  Filter filter_;
   mutable std::mutex lock_;
   std::vector<std::string> entries_;
-};
-
-/// The platform of this host.
-class LinuxPlatform final : public Platform {
- public:
-  explicit LinuxPlatform(std::ostream& logStream) : log_(logStream) {}
-
-  SystemLog* systemLog() override { return &log_; }
-  Clock* clock() override { return &clock_; }
-
-  const RecordingLog& log() const { return log_; }
-
- private:
-  RecordingLog log_;
-  SystemClock clock_;
 };
 
 }  // namespace orvanta

@@ -1,0 +1,259 @@
+#include "Platform/Linux/HostImages.h"
+
+#include <fcntl.h>
+#include <gd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdarg>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <utility>
+
+namespace orvanta {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kMaxNameBytes = 255;
+constexpr std::size_t kMaxFileBytes = std::size_t{32} << 20U;
+constexpr std::uint32_t kMaxSide = 8192;
+constexpr int kWhite = 0xFFFFFF;
+
+struct PictureDeleter {
+  void operator()(gdImage* picture) const { gdImageDestroy(picture); }
+};
+using Picture = std::unique_ptr<gdImage, PictureDeleter>;
+
+class HostImage final : public UIImage {
+ public:
+  explicit HostImage(Picture picture) : picture_(std::move(picture)) {}
+  gdImage* picture() const { return picture_.get(); }
+
+ private:
+  Picture picture_;
+};
+
+// ---- Sizes, from the headers -------------------------------------------------
+
+struct Size {
+  std::uint32_t width = 0;
+  std::uint32_t height = 0;
+  bool isAllowed() const {
+    return width > 0 && height > 0 && width <= kMaxSide && height <= kMaxSide;
+  }
+};
+
+/// Bytes behind which there are zeros.
+class Bytes {
+ public:
+  explicit Bytes(std::string_view bytes) : bytes_(bytes) {}
+  std::size_t size() const { return bytes_.size(); }
+  bool have(std::size_t at, std::string_view text) const {
+    return at <= bytes_.size() && bytes_.substr(at).starts_with(text);
+  }
+  std::uint32_t byte(std::size_t at) const {
+    return at < bytes_.size() ? static_cast<unsigned char>(bytes_[at]) : 0;
+  }
+  std::uint32_t big16(std::size_t at) const { return byte(at) << 8U | byte(at + 1); }
+  std::uint32_t big32(std::size_t at) const { return big16(at) << 16U | big16(at + 2); }
+  std::uint32_t little16(std::size_t at) const { return byte(at) | byte(at + 1) << 8U; }
+  std::uint32_t little24(std::size_t at) const { return little16(at) | byte(at + 2) << 16U; }
+  std::uint32_t little32(std::size_t at) const { return little16(at) | little16(at + 2) << 16U; }
+
+ private:
+  std::string_view bytes_;
+};
+
+Size sizeOfPNG(const Bytes& file) {
+  if (!file.have(12, "IHDR")) return {};
+  return {file.big32(16), file.big32(20)};
+}
+
+/// Of the frame header, which must stand behind whole segments with nothing between them.
+Size sizeOfJPEG(const Bytes& file) {
+  for (std::size_t at = 2; file.byte(at) == 0xFF;) {
+    while (file.byte(at) == 0xFF) ++at;
+    const std::uint32_t marker = file.byte(at++);
+    const bool isBare = marker == 0x01 || (marker >= 0xD0 && marker <= 0xD7);
+    const bool isFrame =
+        marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+    const bool isEnd = marker == 0 || marker == 0xD9 || marker == 0xDA;
+    if (isFrame) return {file.big16(at + 5), file.big16(at + 3)};
+    if (isEnd) break;
+    if (!isBare) at += std::max<std::size_t>(file.big16(at), 2);
+  }
+  return {};
+}
+
+/// Of the screen; none when the first frame is not there to its end, which decoding would pass.
+Size sizeOfGIF(const Bytes& file) {
+  const auto colorTableBytes = [&](std::size_t at) -> std::size_t {
+    const std::uint32_t flags = file.byte(at);
+    return (flags & 0x80U) != 0 ? std::size_t{3} << ((flags & 7U) + 1) : 0;
+  };
+  std::size_t at = 13 + colorTableBytes(10);
+  while (at < file.size()) {
+    const bool isFrame = file.byte(at) == ',';
+    if (isFrame) {
+      at += 11 + colorTableBytes(at + 9);
+    } else if (file.byte(at) == '!') {
+      at += 2;
+    } else {
+      return {};
+    }
+    while (file.byte(at) != 0) at += 1 + file.byte(at);
+    if (isFrame) return at < file.size() ? Size{file.little16(6), file.little16(8)} : Size();
+    ++at;
+  }
+  return {};
+}
+
+Size sizeOfWebP(const Bytes& file) {
+  if (file.have(12, "VP8X")) return {file.little24(24) + 1, file.little24(27) + 1};
+  if (file.have(12, "VP8L")) {
+    const std::uint32_t bits = file.little32(21);
+    return {(bits & 0x3FFFU) + 1, (bits >> 14U & 0x3FFFU) + 1};
+  }
+  if (file.have(12, "VP8 ")) return {file.little16(26) & 0x3FFFU, file.little16(28) & 0x3FFFU};
+  return {};
+}
+
+// ---- Decoding ----------------------------------------------------------------
+
+struct Format {
+  std::string_view magic;
+  std::size_t magicAt;
+  Size (*size)(const Bytes&);
+  gdImage* (*decode)(int size, void* bytes);
+};
+constexpr Format kFormats[] = {
+    {"\x89PNG\r\n\x1A\n", 0, sizeOfPNG, gdImageCreateFromPngPtr},
+    {"\xFF\xD8\xFF", 0, sizeOfJPEG,
+     [](int size, void* bytes) { return gdImageCreateFromJpegPtrEx(size, bytes, 0); }},
+    {"GIF87a", 0, sizeOfGIF, gdImageCreateFromGifPtr},
+    {"GIF89a", 0, sizeOfGIF, gdImageCreateFromGifPtr},
+    {"WEBP", 8, sizeOfWebP, gdImageCreateFromWebpPtr},
+};
+
+/// The color as it looks on white; alpha runs from 0, opaque, to 127.
+int onWhite(int color) {
+  const int alpha = gdTrueColorGetAlpha(color);
+  if (alpha == gdAlphaOpaque) return color;
+  const auto blended = [&](int channel) {
+    return (channel * (gdAlphaMax - alpha) + 255 * alpha + gdAlphaMax / 2) / gdAlphaMax;
+  };
+  return gdTrueColor(blended(gdTrueColorGetRed(color)), blended(gdTrueColorGetGreen(color)),
+                     blended(gdTrueColorGetBlue(color)));
+}
+
+Picture decoded(std::string file) {
+  const Bytes bytes(file);
+  const auto* const format =
+      std::find_if(std::begin(kFormats), std::end(kFormats),
+                   [&](const Format& f) { return bytes.have(f.magicAt, f.magic); });
+  if (format == std::end(kFormats) || !format->size(bytes).isAllowed()) return nullptr;
+
+  Picture picture(format->decode(static_cast<int>(file.size()), file.data()));
+  if (!picture || gdImagePaletteToTrueColor(picture.get()) == 0) return nullptr;
+  for (int y = 0; y < gdImageSY(picture); ++y) {
+    for (int x = 0; x < gdImageSX(picture); ++x) {
+      int& pixel = gdImageTrueColorPixel(picture, x, y);
+      pixel = pixel == gdImageGetTransparent(picture) ? kWhite : onWhite(pixel);
+    }
+  }
+  return picture;
+}
+
+Picture plainPicture() {
+  constexpr int kSide = 32;
+  constexpr int kGray = 0x808080;
+  Picture picture(gdImageCreateTrueColor(kSide, kSide));
+  if (picture) gdImageFilledRectangle(picture.get(), 0, 0, kSide - 1, kSide - 1, kGray);
+  return picture;
+}
+
+// ---- Files -------------------------------------------------------------------
+
+bool isPlainName(std::string_view name) {
+  return !name.empty() && name.size() <= kMaxNameBytes && name != "." && name != ".." &&
+         name.find_first_of(std::string_view("/\\\0", 3)) == std::string_view::npos;
+}
+
+/// The content of a regular file that is inside the folder, links resolved; empty for none.
+std::string content(const fs::path& folder, const std::string& name) {
+  std::error_code error;
+  const fs::path root = fs::canonical(folder, error);
+  if (error) return {};
+  const fs::path path = fs::canonical(root / name, error);
+  if (error) return {};
+  const fs::path below = path.lexically_relative(root);
+  if (below.empty() || *below.begin() == "..") return {};
+
+  const int file = ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+  if (file < 0) return {};
+  std::string bytes;
+  struct stat status {};
+  if (::fstat(file, &status) == 0 && S_ISREG(status.st_mode) &&
+      std::cmp_less_equal(status.st_size, kMaxFileBytes)) {
+    bytes.resize(static_cast<std::size_t>(status.st_size));
+    std::size_t filled = 0;
+    while (filled < bytes.size()) {
+      const ssize_t count = ::read(file, bytes.data() + filled, bytes.size() - filled);
+      if (count == 0 || (count < 0 && errno != EINTR)) break;
+      if (count > 0) filled += static_cast<std::size_t>(count);
+    }
+    bytes.resize(filled);
+  }
+  ::close(file);
+  return bytes;
+}
+
+void ignoreMessage(int, const char*, std::va_list) {}
+
+}  // namespace
+
+HostImages::HostImages(fs::path resources, std::set<std::string> simulated)
+    : resources_(std::move(resources)), simulated_(std::move(simulated)) {
+  static const bool silenced = (gdSetErrorMethod(ignoreMessage), true);
+  (void)silenced;
+}
+
+Ref<UIImage> HostImages::imageNamed(std::string_view name) {
+  if (!isPlainName(name)) return nullptr;
+  const auto asImage = [](Picture picture) -> Ref<UIImage> {
+    if (!picture) return nullptr;
+    return Ref<HostImage>::adopt(new HostImage(std::move(picture)));
+  };
+  if (simulated_.contains(std::string(name))) return asImage(plainPicture());
+  if (resources_.empty()) return nullptr;
+
+  const auto dot = name.rfind('.');
+  const bool hasExtension = dot != std::string_view::npos && dot != 0 && dot + 1 != name.size();
+  const std::string stem(hasExtension ? name.substr(0, dot) : name);
+  const std::string extension(hasExtension ? name.substr(dot) : ".png");
+  for (const char* const scale : {"@3x", "@2x", ""}) {
+    if (Picture picture = decoded(content(resources_, stem + scale + extension))) {
+      return asImage(std::move(picture));
+    }
+  }
+  return nullptr;
+}
+
+std::optional<std::string> HostImages::JPEGRepresentation(const Ref<UIImage>& image,
+                                                          double compressionQuality) {
+  const auto* const hostImage = dynamic_cast<const HostImage*>(image.get());
+  if (hostImage == nullptr) return std::nullopt;
+  const double quality = compressionQuality >= 0 ? std::min(compressionQuality, 1.0) : 0;
+  int size = 0;
+  const std::unique_ptr<void, void (*)(void*)> bytes(
+      gdImageJpegPtr(hostImage->picture(), &size, static_cast<int>(quality * 100 + 0.5)), gdFree);
+  if (!bytes) return std::nullopt;
+  return std::string(static_cast<const char*>(bytes.get()), static_cast<std::size_t>(size));
+}
+
+}  // namespace orvanta

@@ -1,0 +1,198 @@
+#include "Platform/Linux/HostURLSession.h"
+
+#include <chrono>
+#include <cstdio>
+#include <fstream>
+#include <system_error>
+
+#include "Foundation/CharacterSet.h"
+#include "Platform/Linux/MediaTypes.h"
+
+namespace orvanta {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::int64_t kNoPermission = -1102;
+constexpr double kGraceAfterExpiry = 5.0;  // seconds
+
+/// Whether a path lies below a folder, links followed.
+bool liesBelow(const fs::path& path, const fs::path& folder) {
+  std::error_code error;
+  const fs::path real = fs::canonical(path, error);
+  if (error) return false;
+  const fs::path root = fs::canonical(folder, error);
+  if (error) return false;
+  const auto [end, ignored] = std::mismatch(root.begin(), root.end(), real.begin(), real.end());
+  return end == root.end();
+}
+
+/// Copies at most that many bytes; false when there are more.
+bool copyFile(const fs::path& from, const fs::path& to, std::uint64_t most) {
+  std::ifstream in(from, std::ios::binary);
+  std::ofstream out(to, std::ios::binary);
+  char buffer[65536];
+  std::uint64_t copied = 0;
+  while (in.read(buffer, sizeof buffer), in.gcount() > 0) {
+    copied += static_cast<std::uint64_t>(in.gcount());
+    if (copied > most) return false;
+    out.write(buffer, in.gcount());
+  }
+  return true;
+}
+
+std::string sizeText(const fs::path& file) {
+  std::error_code error;
+  const auto size = fs::file_size(file, error);
+  return error ? "no bytes" : std::to_string(size) + (size == 1 ? " byte" : " bytes");
+}
+
+}  // namespace
+
+bool UrlMapping::isFolder() const {
+  return target.find("://") == std::string::npos;
+}
+
+HostURLSession::HostURLSession(EventLoop& loop, Timeline& timeline, Options options)
+    : loop_(loop), timeline_(timeline), options_(std::move(options)) {}
+
+void HostURLSession::downloadTaskWithURL(const std::optional<Url>& url,
+                                         DownloadCompletion completionHandler) {
+  TransferResult result;
+  double duration = 0.0;
+  if (!url) {
+    result.error = urlError(kNSURLErrorUnsupportedURL, std::nullopt);
+  } else {
+    timeline_.add("the download of " + url->description() + " starts");
+    const auto start = std::chrono::steady_clock::now();
+    result = fetch(*url);
+    duration = options_.answer
+                   ? options_.answer->delay
+                   : std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  }
+  loop_.scheduleIn(duration, [this, result, completion = std::move(completionHandler)] {
+    report(result, completion);
+  });
+}
+
+void HostURLSession::report(const TransferResult& result, const DownloadCompletion& completion) {
+  if (result.error) {
+    timeline_.add("the download fails: " +
+                  std::string(result.error->userInfo()[NSError::kLocalizedDescription].string().value_or(
+                      "error " + std::to_string(result.error->code()))));
+    completion(std::nullopt, result.response, result.error);
+    return;
+  }
+  const auto& response = *result.response;
+  timeline_.add(
+      "the download is there: " +
+      (response.statusCode() ? "status " + std::to_string(*response.statusCode()) + ", " : "") +
+      sizeText(*result.file) + ", " + response.MIMEType().value_or("no MIME type"));
+  completion(Url::fileURLWithPath(result.file->string()), result.response, nullptr);
+  std::error_code ignored;
+  fs::remove(*result.file, ignored);  // what was not moved away is gone
+}
+
+TransferResult HostURLSession::fetch(const Url& url) {
+  if (options_.answer) return answer(*options_.answer, url);
+  const UrlMapping* longest = nullptr;
+  for (const UrlMapping& mapping : options_.mappings) {
+    const bool matches = url.absoluteString().starts_with(mapping.prefix);
+    if (matches && (longest == nullptr || mapping.prefix.size() > longest->prefix.size())) {
+      longest = &mapping;
+    }
+  }
+  if (longest != nullptr) return fetchMapped(*longest, url);
+  if (url.isFileURL()) {
+    for (const UrlMapping& mapping : options_.mappings) {
+      if (mapping.isFolder() && liesBelow(url.path(), mapping.target)) {
+        return fetchFile("/", url.path(), url, /*overHTTP=*/false);
+      }
+    }
+    return {std::nullopt, nullptr, urlError(kNoPermission, url)};
+  }
+  TransferLimits limits = options_.limits;
+  const double left = std::max(0.0, expiry_ - loop_.now()) + kGraceAfterExpiry;
+  limits.total = std::min(limits.total, std::chrono::milliseconds(static_cast<std::int64_t>(
+                                            std::min(left, 1e9) * 1000.0)));
+  TransferResult result = transfer(url, options_.temporaryFolder, limits, options_.progress);
+  if (result.file) {
+    const fs::path renamed = newTemporaryFile();
+    fs::rename(*result.file, renamed);
+    result.file = renamed;
+  }
+  return result;
+}
+
+TransferResult HostURLSession::fetchMapped(const UrlMapping& mapping, const Url& url) {
+  const std::string rest(url.absoluteString().substr(mapping.prefix.size()));
+  if (mapping.isFolder()) {
+    return fetchFile(mapping.target, percentDecoded(rest.substr(0, rest.find_first_of("?#"))), url,
+                     /*overHTTP=*/true);
+  }
+  const auto mapped = Url::parse(mapping.target + rest);
+  if (!mapped || mapped->isFileURL()) {
+    return {std::nullopt, nullptr, urlError(kNSURLErrorUnsupportedURL, url)};
+  }
+  HostURLSession direct(loop_, timeline_, options_);
+  direct.options_.mappings.clear();
+  direct.expiry_ = expiry_;
+  return direct.fetch(*mapped);
+}
+
+TransferResult HostURLSession::fetchFile(const fs::path& folder, const std::string& below,
+                                         const Url& url, bool overHTTP) {
+  const fs::path file = folder / fs::path(below).relative_path();
+  std::error_code error;
+  const bool isThere = below.find('\0') == std::string::npos && liesBelow(file, folder) &&
+                       fs::is_regular_file(file, error);
+  if (!isThere && !overHTTP) return {std::nullopt, nullptr, urlError(-1100, url)};
+  const fs::path temporary = newTemporaryFile();
+  if (isThere) {
+    if (!copyFile(file, temporary, options_.limits.bytes)) {
+      fs::remove(temporary, error);
+      return {std::nullopt, nullptr, urlError(kNSURLErrorDataLengthExceedsMaximum, url)};
+    }
+  } else {
+    std::ofstream(temporary, std::ios::binary).flush();
+  }
+  const auto extension = file.extension().string();
+  const auto mime = isThere && !extension.empty() ? mimeTypeForExtension(extension.substr(1))
+                                                  : std::nullopt;
+  NSURLResponse::Parts parts{url, mime, std::nullopt, {}};
+  if (overHTTP) {
+    parts.statusCode = isThere ? 200 : 404;
+    if (mime) parts.headers.emplace_back("Content-Type", *mime);
+    parts.headers.emplace_back("Content-Length", std::to_string(fs::file_size(temporary)));
+  }
+  return {temporary, NSURLResponse::responseWithParts(std::move(parts)), nullptr};
+}
+
+TransferResult HostURLSession::answer(const Scenario::Media& media, const Url& url) {
+  if (media.fails) return {std::nullopt, nullptr, urlError(media.errorCode, url)};
+  const fs::path temporary =
+      media.tempName ? options_.temporaryFolder / *media.tempName : newTemporaryFile();
+  std::ofstream(temporary, std::ios::binary).flush();
+  fs::resize_file(temporary, media.bytes);
+  if (media.destinationExists) {
+    std::ofstream(options_.cachesFolder / temporary.filename(), std::ios::binary | std::ios::app)
+        .flush();
+  }
+  NSURLResponse::Parts parts{url, media.mime, media.status, {}};
+  if (media.mime) parts.headers.emplace_back("Content-Type", *media.mime);
+  parts.headers.emplace_back("Content-Length", std::to_string(media.bytes));
+  return {temporary, NSURLResponse::responseWithParts(std::move(parts)), nullptr};
+}
+
+fs::path HostURLSession::newTemporaryFile() {
+  for (int number = 1;; ++number) {
+    char name[64];
+    std::snprintf(name, sizeof name, "CFNetworkDownload_%06d.tmp", number);
+    const bool isTaken = fs::exists(options_.temporaryFolder / name) ||
+                         fs::exists(options_.cachesFolder / name);
+    if (!isTaken) return options_.temporaryFolder / name;
+  }
+}
+
+}  // namespace orvanta

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Platform/Interface/NSURLSession.h"
+#include "Platform/Linux/EventLoop.h"
+#include "Platform/Linux/Scenario.h"
+#include "Platform/Linux/Transfer.h"
+
+namespace orvanta {
+
+/// Where URLs that begin with a prefix are fetched from: a folder, or another URL's beginning.
+struct UrlMapping {
+  std::string prefix;
+  std::string target;
+
+  bool isFolder() const;
+};
+
+/// Downloads on the host's loop. A scenario's answer comes first, then the longest mapped prefix,
+/// then the network; file URLs are read only below mapped folders. A transfer takes place when it
+/// is asked for and is reported when the time that it took has passed on the loop's clock.
+class HostURLSession final : public NSURLSession {
+ public:
+  struct Options {
+    std::vector<UrlMapping> mappings;
+    std::optional<Scenario::Media> answer;
+    TransferLimits limits;
+    TransferProgress progress;
+    std::filesystem::path temporaryFolder;
+    std::filesystem::path cachesFolder;
+  };
+  HostURLSession(EventLoop& loop, Timeline& timeline, Options options);
+
+  void downloadTaskWithURL(const std::optional<Url>& url,
+                           DownloadCompletion completionHandler) override;
+
+  /// When the request at hand expires, on the loop's clock; a transfer may go on for 5 seconds
+  /// more.
+  void setExpiry(double seconds) { expiry_ = seconds; }
+
+ private:
+  TransferResult fetch(const Url& url);
+  TransferResult fetchFile(const std::filesystem::path& folder, const std::string& below,
+                           const Url& url, bool overHTTP);
+  TransferResult fetchMapped(const UrlMapping& mapping, const Url& url);
+  TransferResult answer(const Scenario::Media& media, const Url& url);
+  /// A name in the platform's form that neither folder has: the same ones in every run.
+  std::filesystem::path newTemporaryFile();
+  void report(const TransferResult& result, const DownloadCompletion& completion);
+
+  EventLoop& loop_;
+  Timeline& timeline_;
+  Options options_;
+  double expiry_ = 0.0;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,559 @@
+#include "Platform/Linux/Transfer.h"
+
+#include <curl/curl.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <memory>
+#include <random>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "Foundation/CharacterSet.h"
+
+namespace orvanta {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+using namespace std::chrono_literals;
+
+constexpr std::int64_t kUnknown = -1;
+constexpr std::int64_t kCannotDecodeRawData = -1015;
+constexpr std::int64_t kCannotDecodeContentData = -1016;
+constexpr std::int64_t kCannotCloseFile = -3002;
+constexpr std::int64_t kCannotWriteToFile = -3003;
+
+constexpr std::pair<std::int64_t, std::string_view> kTexts[] = {
+    {kNSURLErrorTimedOut, "The request timed out."},
+    {kNSURLErrorUnsupportedURL, "unsupported URL"},
+    {kNSURLErrorCannotFindHost, "A server with the specified hostname could not be found."},
+    {kNSURLErrorCannotConnectToHost, "Could not connect to the server."},
+    {kNSURLErrorNetworkConnectionLost, "The network connection was lost."},
+    {kNSURLErrorHTTPTooManyRedirects, "too many HTTP redirects"},
+    {kNSURLErrorNotConnectedToInternet, "The Internet connection appears to be offline."},
+    {kNSURLErrorBadServerResponse, "There was a bad response from the server."},
+    {kCannotDecodeRawData, "cannot decode raw data"},
+    {kCannotDecodeContentData, "cannot decode content data"},
+    {kNSURLErrorDataLengthExceedsMaximum, "resource exceeds maximum size"},
+    {kNSURLErrorSecureConnectionFailed,
+     "An SSL error has occurred and a secure connection to the server cannot be made."},
+    {kNSURLErrorServerCertificateUntrusted, "The certificate for this server is invalid."},
+};
+
+constexpr CharacterSet kTokenCharacters = CharacterSet::alphanumerics().with("!#$%&'*+-.^_`|~");
+constexpr CharacterSet kSchemeCharacters = CharacterSet::alphanumerics().with("+-.");
+constexpr CharacterSet kUrlCharacters =
+    CharacterSet::alphanumerics().with("-._~:/?#[]@!$&'()*+,;=%");
+
+constexpr std::size_t kMaximumMIMEName = 127;  // RFC 6838
+constexpr std::size_t kHeaderLines = 256;      // of a response and the interim ones before it
+constexpr std::size_t kHeaderBytes = 65'536;
+constexpr std::uint64_t kRedirectBody = 65'536;  // read to keep the connection, then hung up on
+constexpr long kReceiveBuffer = 65'536;
+constexpr milliseconds kLongestWait = 1h;  // of one poll
+
+milliseconds since(Clock::time_point earlier) {
+  return std::chrono::floor<milliseconds>(Clock::now() - earlier);
+}
+
+char lowered(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+std::string lowered(std::string_view text) {
+  std::string lower(text);
+  std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) { return lowered(c); });
+  return lower;
+}
+
+std::string_view trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(" \t\r\n");
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
+}
+
+/// The length of the UTF-8 character that a text begins with; 0 when there is none, or when it is a
+/// control character.
+std::size_t printableLength(std::string_view text) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const unsigned lead = byte(0);
+  if (lead < 0x80) return lead < ' ' || lead == 0x7F ? 0 : 1;
+  const std::size_t length = lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+  if (length == 0 || lead > 0xF4 || text.size() < length) return 0;
+  for (std::size_t i = 1; i < length; ++i) {
+    if ((byte(i) & 0xC0) != 0x80) return 0;
+  }
+  const unsigned next = byte(1);
+  const bool refused = (lead == 0xC2 && next < 0xA0) ||  // controls
+                       (lead == 0xE0 && next < 0xA0) || (lead == 0xED && next > 0x9F) ||
+                       (lead == 0xF0 && next < 0x90) || (lead == 0xF4 && next > 0x8F);
+  return refused ? 0 : length;
+}
+
+/// The text with a question mark for each byte that is no UTF-8 or belongs to a control character.
+std::string printable(std::string_view text) {
+  std::string harmless;
+  harmless.reserve(text.size());
+  while (!text.empty()) {
+    const std::size_t length = printableLength(text);
+    length == 0 ? harmless += '?' : harmless += text.substr(0, length);
+    text.remove_prefix(std::max<std::size_t>(length, 1));
+  }
+  return harmless;
+}
+
+/// The scheme in lower case; empty for a relative reference.
+std::string schemeOf(std::string_view url) {
+  const auto colon = url.find(':');
+  if (colon == std::string_view::npos) return {};
+  const std::string_view scheme = url.substr(0, colon);
+  const bool valid = std::all_of(scheme.begin(), scheme.end(),
+                                 [](char c) { return kSchemeCharacters.contains(c); });
+  return valid ? lowered(scheme) : std::string();
+}
+
+bool isFetchable(std::string_view scheme) { return scheme == "http" || scheme == "https"; }
+
+struct Freed {
+  void operator()(CURLM* multi) const { curl_multi_cleanup(multi); }
+  void operator()(CURLU* url) const { curl_url_cleanup(url); }
+  void operator()(char* text) const { curl_free(text); }
+};
+struct EasyFreed {
+  void operator()(CURL* easy) const { curl_easy_cleanup(easy); }
+};
+using Multi = std::unique_ptr<CURLM, Freed>;
+using Easy = std::unique_ptr<CURL, EasyFreed>;
+using ParsedUrl = std::unique_ptr<CURLU, Freed>;
+
+/// A temporary file, gone with this object unless it was finished.
+class DownloadFile {
+ public:
+  explicit DownloadFile(std::filesystem::path folder) : folder_(std::move(folder)) {}
+  DownloadFile(const DownloadFile&) = delete;
+  DownloadFile& operator=(const DownloadFile&) = delete;
+  ~DownloadFile() {
+    if (descriptor_ >= 0) ::close(descriptor_);
+    if (!path_.empty()) ::unlink(path_.c_str());
+  }
+
+  bool create() {
+    for (int attempt = 0; attempt < 100; ++attempt) {
+      std::filesystem::path path = temporaryDownload(folder_);
+      descriptor_ = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+                           S_IRUSR | S_IWUSR);
+      if (descriptor_ >= 0) {
+        path_ = std::move(path);
+        return true;
+      }
+      if (errno != EEXIST && errno != EINTR) return false;
+    }
+    return false;
+  }
+  bool write(std::string_view bytes) const {
+    while (!bytes.empty()) {
+      const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
+      if (written < 0 && errno == EINTR) continue;
+      if (written <= 0) return false;
+      bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+  }
+  bool close() { return ::close(std::exchange(descriptor_, -1)) == 0; }
+  std::filesystem::path finish() { return std::exchange(path_, {}); }
+
+ private:
+  std::filesystem::path folder_;
+  std::filesystem::path path_;
+  int descriptor_ = -1;
+};
+
+/// A transfer with its redirects. The requests share a handle, so connections are kept.
+class Transfer {
+ public:
+  Transfer(const Url& url, const std::filesystem::path& folder, const TransferLimits& limits,
+           const TransferProgress& progress)
+      : url_(url), file_(folder), limits_(limits), progress_(progress) {}
+  Transfer(const Transfer&) = delete;
+  Transfer& operator=(const Transfer&) = delete;
+  ~Transfer() {
+    if (multi_ && easy_) curl_multi_remove_handle(multi_.get(), easy_.get());
+  }
+
+  TransferResult run() {
+    std::int64_t code = prepare() ? 0 : kUnknown;
+    for (int redirects = 0; code == 0; ++redirects) {
+      code = fetch();
+      if (code != 0 || !redirected_) break;
+      code = redirects < limits_.redirects ? follow() : kNSURLErrorHTTPTooManyRedirects;
+    }
+    if (code == 0 && !file_.close()) code = kCannotCloseFile;
+
+    TransferResult result;
+    result.response = std::move(response_);
+    if (code == 0) {
+      result.file = file_.finish();
+    } else {
+      result.error = urlError(code, url_);
+    }
+    return result;
+  }
+
+ private:
+  enum class Next : std::uint8_t { proceed, stop };
+
+  bool prepare();
+  std::int64_t fetch();
+  std::int64_t follow();
+  std::int64_t codeOf(CURLcode outcome) const;
+  std::optional<CURLcode> outcome();
+  Next takeHeaderLine(std::string_view line);
+  Next takeHeaders();
+  Next takeBody(std::string_view bytes);
+  bool isDecodable() const;
+  void report();
+  Next fail(std::int64_t code) {
+    failure_ = code;
+    return Next::stop;
+  }
+  template <class T>
+  T info(CURLINFO which) const {
+    T value{};
+    curl_easy_getinfo(easy_.get(), which, &value);
+    return value;
+  }
+  const char* header(const char* name) const {
+    curl_header* found = nullptr;
+    return curl_easy_header(easy_.get(), name, 0, CURLH_HEADER, -1, &found) == CURLHE_OK
+               ? found->value
+               : nullptr;
+  }
+
+  // libcurl is C: nothing may be thrown through it.
+  static std::size_t headerArrived(char* bytes, std::size_t, std::size_t size, void* self) noexcept;
+  static std::size_t bodyArrived(char* bytes, std::size_t, std::size_t size, void* self) noexcept;
+
+  Url url_;  // of the request under way
+  DownloadFile file_;
+  const TransferLimits& limits_;
+  const TransferProgress& progress_;
+  const Clock::time_point begin_ = Clock::now();
+  Easy easy_;
+  Multi multi_;
+  ParsedUrl target_;
+
+  // Of the request under way.
+  std::size_t headerLines_ = 0;
+  std::size_t headerBytes_ = 0;
+  bool headersEnded_ = false;
+  bool redirected_ = false;
+  bool encoded_ = false;
+  std::int64_t failure_ = 0;
+  std::uint64_t received_ = 0;
+  std::uint64_t reported_ = 0;
+  std::uint64_t expected_ = 0;
+  Ref<NSURLResponse> response_;
+};
+
+bool Transfer::prepare() {
+  static const bool kReady = curl_global_init(CURL_GLOBAL_DEFAULT) == CURLE_OK;
+  if (!kReady) return false;
+  easy_.reset(curl_easy_init());
+  multi_.reset(curl_multi_init());
+  if (!easy_ || !multi_) return false;
+
+  bool set = true;
+  const auto option = [&](CURLoption which, auto value) {
+    set = curl_easy_setopt(easy_.get(), which, value) == CURLE_OK && set;
+  };
+  option(CURLOPT_NOSIGNAL, 1L);
+  option(CURLOPT_QUICK_EXIT, 1L);  // a resolver that hangs is left behind
+  option(CURLOPT_PROTOCOLS_STR, "http,https");
+  option(CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
+  option(CURLOPT_FOLLOWLOCATION, 0L);
+  option(CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
+  option(CURLOPT_HTTP09_ALLOWED, 0L);
+  option(CURLOPT_SSL_VERIFYPEER, 1L);
+  option(CURLOPT_SSL_VERIFYHOST, 2L);
+  option(CURLOPT_SSLVERSION, static_cast<long>(CURL_SSLVERSION_TLSv1_2));
+  option(CURLOPT_PROXY, "");
+  option(CURLOPT_NETRC, static_cast<long>(CURL_NETRC_IGNORED));
+  option(CURLOPT_USERAGENT, "orvanta");
+  option(CURLOPT_ACCEPT_ENCODING, "gzip, deflate");
+  option(CURLOPT_BUFFERSIZE, kReceiveBuffer);
+  // The time limits are kept in fetch(); this one must only not come earlier.
+  option(CURLOPT_CONNECTTIMEOUT_MS, 0x7FFF'FFFFL);
+  option(CURLOPT_HEADERFUNCTION, &headerArrived);
+  option(CURLOPT_HEADERDATA, static_cast<void*>(this));
+  option(CURLOPT_WRITEFUNCTION, &bodyArrived);
+  option(CURLOPT_WRITEDATA, static_cast<void*>(this));
+  return set;
+}
+
+/// Runs one request; the error's code, 0 for none.
+std::int64_t Transfer::fetch() {
+  headerLines_ = headerBytes_ = 0;
+  headersEnded_ = redirected_ = encoded_ = false;
+  received_ = 0;
+
+  // Names and passwords in URLs are not sent.
+  const std::string text(url_.absoluteString());
+  target_.reset(curl_url());
+  if (!target_ || !isFetchable(schemeOf(text)) ||
+      curl_url_set(target_.get(), CURLUPART_URL, text.c_str(), 0) != CURLUE_OK) {
+    return kNSURLErrorUnsupportedURL;
+  }
+  curl_url_set(target_.get(), CURLUPART_USER, nullptr, 0);
+  curl_url_set(target_.get(), CURLUPART_PASSWORD, nullptr, 0);
+  if (curl_easy_setopt(easy_.get(), CURLOPT_CURLU, target_.get()) != CURLE_OK ||
+      curl_multi_add_handle(multi_.get(), easy_.get()) != CURLM_OK) {
+    return kUnknown;
+  }
+
+  Clock::time_point heard = Clock::now();
+  while (true) {
+    int running = 0;
+    if (curl_multi_perform(multi_.get(), &running) != CURLM_OK) return kUnknown;
+    report();
+    if (running == 0) break;
+
+    const auto left = limits_.total - since(begin_);
+    if (left.count() <= 0) return kNSURLErrorTimedOut;
+    const auto wait = std::clamp(std::min(left, limits_.idle - since(heard)), 0ms, kLongestWait);
+    int ready = 0;
+    if (curl_multi_poll(multi_.get(), nullptr, 0, static_cast<int>(wait.count()), &ready) !=
+        CURLM_OK) {
+      return kUnknown;
+    }
+    // A socket is waited for until it connects, takes the request or has bytes.
+    if (ready > 0) {
+      heard = Clock::now();
+    } else if (since(heard) >= limits_.idle) {
+      return kNSURLErrorTimedOut;
+    }
+  }
+
+  const std::optional<CURLcode> ended = outcome();
+  curl_multi_remove_handle(multi_.get(), easy_.get());
+  if (failure_ != 0) return failure_;
+  if (redirected_) return 0;  // whatever became of its body
+  if (!ended) return kUnknown;
+  if (*ended != CURLE_OK) return codeOf(*ended);
+  return response_ ? 0 : kNSURLErrorBadServerResponse;
+}
+
+std::optional<CURLcode> Transfer::outcome() {
+  int left = 0;
+  const CURLMsg* message = curl_multi_info_read(multi_.get(), &left);
+  if (message == nullptr || message->msg != CURLMSG_DONE) return std::nullopt;
+  return message->data.result;
+}
+
+/// Turns to where the answer points to.
+std::int64_t Transfer::follow() {
+  const std::string location = percentEncoded(trimmed(header("Location")), kUrlCharacters);
+  const std::string scheme = schemeOf(location);
+  if (!scheme.empty() && !isFetchable(scheme)) {
+    if (const auto url = Url::parse(location)) url_ = *url;
+    return kNSURLErrorUnsupportedURL;
+  }
+  char* text = nullptr;
+  if (curl_url_set(target_.get(), CURLUPART_URL, location.c_str(), 0) != CURLUE_OK ||
+      curl_url_get(target_.get(), CURLUPART_URL, &text, 0) != CURLUE_OK) {
+    return kNSURLErrorUnsupportedURL;
+  }
+  const std::unique_ptr<char, Freed> owned(text);
+  const auto url = Url::parse(text);
+  if (!url) return kNSURLErrorUnsupportedURL;
+  url_ = *url;
+  return 0;
+}
+
+std::int64_t Transfer::codeOf(CURLcode outcome) const {
+  switch (outcome) {
+    case CURLE_URL_MALFORMAT:
+      return kNSURLErrorUnsupportedURL;
+    case CURLE_COULDNT_RESOLVE_HOST:
+      return kNSURLErrorCannotFindHost;
+    case CURLE_COULDNT_CONNECT: {
+      const long error = info<long>(CURLINFO_OS_ERRNO);
+      return error == ENETUNREACH || error == ENETDOWN ? kNSURLErrorNotConnectedToInternet
+                                                       : kNSURLErrorCannotConnectToHost;
+    }
+    case CURLE_OPERATION_TIMEDOUT:
+      return kNSURLErrorTimedOut;
+    case CURLE_GOT_NOTHING:
+    case CURLE_PARTIAL_FILE:
+    case CURLE_RECV_ERROR:
+    case CURLE_SEND_ERROR:
+      return kNSURLErrorNetworkConnectionLost;
+    case CURLE_BAD_CONTENT_ENCODING:
+      return kCannotDecodeRawData;
+    case CURLE_UNSUPPORTED_PROTOCOL:  // of the answer; the URL's has been checked
+    case CURLE_WEIRD_SERVER_REPLY:
+    case CURLE_BAD_FUNCTION_ARGUMENT:  // a header line without a colon
+    case CURLE_OUT_OF_MEMORY:          // a header line beyond libcurl's own limit
+      return kNSURLErrorBadServerResponse;
+    case CURLE_PEER_FAILED_VERIFICATION:
+    case CURLE_SSL_ISSUER_ERROR:
+    case CURLE_SSL_INVALIDCERTSTATUS:
+      return kNSURLErrorServerCertificateUntrusted;
+    case CURLE_SSL_CONNECT_ERROR:
+    case CURLE_SSL_CIPHER:
+    case CURLE_SSL_CACERT_BADFILE:
+    case CURLE_SSL_ENGINE_INITFAILED:
+      return kNSURLErrorSecureConnectionFailed;
+    default:
+      return kUnknown;
+  }
+}
+
+std::size_t Transfer::headerArrived(char* bytes, std::size_t, std::size_t size,
+                                    void* self) noexcept {
+  return static_cast<Transfer*>(self)->takeHeaderLine({bytes, size}) == Next::proceed ? size : 0;
+}
+
+std::size_t Transfer::bodyArrived(char* bytes, std::size_t, std::size_t size, void* self) noexcept {
+  return static_cast<Transfer*>(self)->takeBody({bytes, size}) == Next::proceed ? size : 0;
+}
+
+Transfer::Next Transfer::takeHeaderLine(std::string_view line) {
+  headerBytes_ += line.size();
+  if (++headerLines_ > kHeaderLines || headerBytes_ > kHeaderBytes) {
+    return fail(kNSURLErrorBadServerResponse);
+  }
+  if (headersEnded_ || !trimmed(line).empty()) return Next::proceed;  // what follows are trailers
+  if (info<long>(CURLINFO_RESPONSE_CODE) < 200) return Next::proceed;
+  headersEnded_ = true;
+  return takeHeaders();
+}
+
+/// Looks at the headers of an answer that is not interim.
+Transfer::Next Transfer::takeHeaders() {
+  const auto status = static_cast<int>(info<long>(CURLINFO_RESPONSE_CODE));
+  constexpr std::array kRedirects{301, 302, 303, 307, 308};
+  if (std::find(kRedirects.begin(), kRedirects.end(), status) != kRedirects.end()) {
+    const char* location = header("Location");
+    redirected_ = location != nullptr && !trimmed(location).empty();
+    if (redirected_) return isDecodable() ? Next::proceed : Next::stop;
+  }
+
+  NSURLResponse::Parts parts{
+      .url = url_, .mimeType = std::nullopt, .statusCode = status, .headers = {}};
+  std::vector<std::string> lowerNames;
+  curl_header* each = nullptr;
+  while ((each = curl_easy_nextheader(easy_.get(), CURLH_HEADER, -1, each)) != nullptr) {
+    std::string lower = lowered(each->name);
+    const auto known = std::find(lowerNames.begin(), lowerNames.end(), lower);
+    if (known == lowerNames.end()) {
+      parts.headers.emplace_back(printable(each->name), printable(each->value));
+      lowerNames.push_back(std::move(lower));
+    } else {
+      const auto place = static_cast<std::size_t>(known - lowerNames.begin());
+      parts.headers[place].second.append(", ").append(printable(each->value));
+    }
+  }
+  if (const char* type = header("Content-Type")) parts.mimeType = mimeTypeOfHeader(type);
+  response_ = NSURLResponse::responseWithParts(std::move(parts));
+
+  if (!isDecodable()) return fail(kCannotDecodeContentData);
+  encoded_ = header("Content-Encoding") != nullptr;
+  return file_.create() ? Next::proceed : fail(kNSURLErrorCannotCreateFile);
+}
+
+/// Decoding anything else takes memory by the megabyte.
+bool Transfer::isDecodable() const {
+  curl_header* each = nullptr;
+  while ((each = curl_easy_nextheader(easy_.get(), CURLH_HEADER, -1, each)) != nullptr) {
+    const std::string name = lowered(each->name);
+    if (name != "content-encoding" && name != "transfer-encoding") continue;
+    std::string_view rest = each->value;
+    while (!rest.empty()) {
+      const auto comma = std::min(rest.find(','), rest.size());
+      const std::string coding = lowered(trimmed(rest.substr(0, comma)));
+      rest.remove_prefix(std::min(comma + 1, rest.size()));
+      constexpr std::array<std::string_view, 6> kKnown{"",       "identity", "gzip",
+                                                       "x-gzip", "deflate",  "chunked"};
+      if (std::find(kKnown.begin(), kKnown.end(), coding) == kKnown.end()) return false;
+    }
+  }
+  return true;
+}
+
+Transfer::Next Transfer::takeBody(std::string_view bytes) {
+  received_ += bytes.size();
+  if (redirected_) return received_ <= kRedirectBody ? Next::proceed : Next::stop;
+  if (!response_) return fail(kNSURLErrorBadServerResponse);
+  if (received_ == bytes.size() && !encoded_) {
+    const auto announced = info<curl_off_t>(CURLINFO_CONTENT_LENGTH_DOWNLOAD_T);
+    expected_ = announced > 0 ? static_cast<std::uint64_t>(announced) : 0;
+  }
+  if (std::max(received_, expected_) > limits_.bytes) {
+    return fail(kNSURLErrorDataLengthExceedsMaximum);
+  }
+  return file_.write(bytes) ? Next::proceed : fail(kCannotWriteToFile);
+}
+
+/// Outside libcurl's callbacks, so that the caller's may throw.
+void Transfer::report() {
+  if (!response_ || failure_ != 0 || received_ == reported_) return;
+  reported_ = received_;
+  if (progress_) progress_(received_, expected_);
+}
+
+}  // namespace
+
+TransferResult transfer(const Url& url, const std::filesystem::path& folder,
+                        const TransferLimits& limits, const TransferProgress& progress) {
+  return Transfer(url, folder, limits, progress).run();
+}
+
+std::filesystem::path temporaryDownload(const std::filesystem::path& folder) {
+  constexpr std::string_view kCharacters =
+      "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+  std::random_device random;
+  std::uniform_int_distribution<std::size_t> place(0, kCharacters.size() - 1);
+  while (true) {
+    std::string name = "CFNetworkDownload_";
+    for (int i = 0; i < 6; ++i) name += kCharacters[place(random)];
+    std::filesystem::path path = folder / (name + ".tmp");
+    std::error_code error;
+    if (!std::filesystem::exists(std::filesystem::symlink_status(path, error))) return path;
+  }
+}
+
+Ref<NSError> urlError(std::int64_t code, const std::optional<Url>& url) {
+  const auto* known = std::find_if(std::begin(kTexts), std::end(kTexts),
+                                   [&](const auto& row) { return row.first == code; });
+  const std::string text = known != std::end(kTexts)
+                               ? std::string(known->second)
+                               : "The operation couldn’t be completed. (NSURLErrorDomain error " +
+                                     std::to_string(code) + ".)";
+  Dictionary userInfo{{NSError::kLocalizedDescription, text}};
+  if (url) {
+    userInfo.set("NSErrorFailingURLStringKey", url->stringValue());
+    userInfo.set("NSErrorFailingURLKey", *url);
+  }
+  return NSError::errorWithDomain(kNSURLErrorDomain, code, std::move(userInfo));
+}
+
+std::optional<std::string> mimeTypeOfHeader(std::string_view contentType) {
+  const std::string_view type = trimmed(contentType.substr(0, contentType.find(';')));
+  const auto slash = type.find('/');
+  if (slash == std::string_view::npos) return std::nullopt;
+  for (const std::string_view name : {type.substr(0, slash), type.substr(slash + 1)}) {
+    if (name.empty() || name.size() > kMaximumMIMEName ||
+        !std::all_of(name.begin(), name.end(),
+                     [](char c) { return kTokenCharacters.contains(c); })) {
+      return std::nullopt;
+    }
+  }
+  return lowered(type);
+}
+
+}  // namespace orvanta

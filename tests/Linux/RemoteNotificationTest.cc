@@ -1,0 +1,150 @@
+#include <gtest/gtest.h>
+
+#include "Platform/Linux/RemoteNotification.h"
+#include "support/ModelZoo.h"
+
+namespace orvanta::testing {
+namespace {
+
+TEST(LaunchVerdict, NamesEveryConditionThatIsNotMet) {
+  const std::string noAps = "there is no \"aps\"";
+  const std::string noDictionary = "\"aps\" is no dictionary";
+  const std::string notMutable = "\"aps.mutable-content\" is not 1";
+  const std::string noText = "\"aps.alert\" has no text to show";
+  const struct {
+    std::string_view payload;
+    std::vector<std::string> unmet;
+  } rows[] = {
+      {R"({})", {noAps}},
+      {R"({"mutable-content": 1, "alert": "a"})", {noAps}},
+      {R"({"aps": null})", {noDictionary}},
+      {R"({"aps": "a"})", {noDictionary}},
+      {R"({"aps": [{"mutable-content": 1, "alert": "a"}]})", {noDictionary}},
+      {R"({"aps": {}})", {notMutable, noText}},
+      // the flag
+      {R"({"aps": {"mutable-content": 1, "alert": "a"}})", {}},
+      {R"({"aps": {"mutable-content": 1.0, "alert": "a"}})", {}},
+      {R"({"aps": {"mutable-content": true, "alert": "a"}})", {}},  // a boolean is a number
+      {R"({"aps": {"mutable-content": false, "alert": "a"}})", {notMutable}},
+      {R"({"aps": {"mutable-content": 0, "alert": "a"}})", {notMutable}},
+      {R"({"aps": {"mutable-content": 2, "alert": "a"}})", {notMutable}},
+      {R"({"aps": {"mutable-content": 1.5, "alert": "a"}})", {notMutable}},
+      {R"({"aps": {"mutable-content": "1", "alert": "a"}})", {notMutable}},
+      {R"({"aps": {"mutable-content": [1], "alert": "a"}})", {notMutable}},
+      {R"({"aps": {"mutable-content": null, "alert": "a"}})", {notMutable}},
+      // the alert
+      {R"({"aps": {"mutable-content": 1}})", {noText}},
+      {R"({"aps": {"mutable-content": 1, "alert": ""}})", {noText}},
+      {R"({"aps": {"mutable-content": 1, "alert": 5}})", {noText}},
+      {R"({"aps": {"mutable-content": 1, "alert": null}})", {noText}},
+      {R"({"aps": {"mutable-content": 1, "alert": ["a"]}})", {noText}},
+      {R"({"aps": {"mutable-content": 1, "alert": {}}})", {noText}},
+      {R"({"aps": {"mutable-content": 1, "alert": {"title": "", "body": 5}}})", {noText}},
+      {R"({"aps": {"mutable-content": 1, "alert": {"loc-args": ["a"]}}})", {noText}},
+      {R"({"aps": {"mutable-content": 1, "alert": {"title": "a"}}})", {}},
+      {R"({"aps": {"mutable-content": 1, "alert": {"subtitle": "a"}}})", {}},
+      {R"({"aps": {"mutable-content": 1, "alert": {"title": "", "body": "a"}}})", {}},
+      {R"({"aps": {"mutable-content": 1, "alert": {"title-loc-key": "a"}}})", {}},
+      {R"({"aps": {"mutable-content": 1, "alert": {"subtitle-loc-key": "a"}}})", {}},
+      {R"({"aps": {"mutable-content": 1, "alert": {"loc-key": "a"}}})", {}},
+  };
+  for (const auto& row : rows) {
+    const LaunchVerdict verdict = launchVerdict(dictionaryOf(row.payload));
+    EXPECT_EQ(verdict.unmet, row.unmet) << row.payload;
+    EXPECT_EQ(verdict.starts(), row.unmet.empty()) << row.payload;
+  }
+}
+
+/// "title|subtitle|body" of the content for an alert; "-" is none.
+std::string textsOf(std::string_view alert) {
+  const UNNotificationContent content =
+      contentForPayload(Dictionary{{"aps", Dictionary{{"alert", parsed(alert)}}}});
+  return content.title.value_or("-") + "|" + content.subtitle.value_or("-") + "|" +
+         content.body.value_or("-");
+}
+
+TEST(ContentForPayload, TakesTheTextsOfTheAlert) {
+  const struct {
+    std::string_view alert;
+    std::string_view texts;
+  } rows[] = {
+      {R"("b")", "-|-|b"},
+      {R"("")", "-|-|"},
+      {R"("100% %@")", "-|-|100% %@"},
+      {"5", "-|-|-"},
+      {"null", "-|-|-"},
+      {R"(["b"])", "-|-|-"},
+      {"{}", "-|-|-"},
+      {R"({"title": "t", "subtitle": "s", "body": "b"})", "t|s|b"},
+      {R"({"title": "", "subtitle": null, "body": 5})", "|-|-"},
+      {R"({"title": ["t"], "subtitle": {}, "body": true})", "-|-|-"},
+      {R"({"body": "%@ 5%%", "loc-args": ["a"]})", "-|-|%@ 5%%"},
+      // a localisation key wins, when it is a text
+      {R"({"title": "t", "title-loc-key": "T", "subtitle-loc-key": "S", "loc-key": "B"})", "T|S|B"},
+      {R"({"title": "t", "title-loc-key": "", "body": "b", "loc-key": 5})", "t|-|b"},
+      {R"({"title-loc-key": null, "subtitle-loc-key": ["S"]})", "-|-|-"},
+      // each with arguments of its own
+      {R"({"title-loc-key": "T %@", "title-loc-args": ["1"],
+           "subtitle-loc-key": "S %@", "subtitle-loc-args": ["2"],
+           "loc-key": "B %@", "loc-args": ["3"]})",
+       "T 1|S 2|B 3"},
+      {R"({"loc-key": "%@ and %@, %@.", "loc-args": ["a", "b"]})", "-|-|a and b, ."},
+      {R"({"loc-key": "%2$@%1$@%3$@!", "loc-args": ["a", "b"]})", "-|-|ba!"},
+      {R"({"loc-key": "%2$@ %@ %@", "loc-args": ["a", "b"]})", "-|-|b a b"},
+      {R"({"loc-key": "%@%@%@", "loc-args": ["%@", 5, 1.5]})", "-|-|%@51.5"},
+      {R"({"loc-key": "%@ %@", "loc-args": [true, null]})", "-|-|1 <null>"},
+      {R"({"loc-key": "100%% %%@ %", "loc-args": ["a"]})", "-|-|100% %@ %"},
+      {R"({"loc-key": "%d %0$@ %x", "loc-args": ["a"]})", "-|-|%d %0$@ %x"},
+      {R"({"loc-key": "<%@>"})", "-|-|<>"},
+      {R"({"loc-key": "<%@>", "loc-args": "a"})", "-|-|<>"},
+      {R"({"loc-key": "<%1$@>", "loc-args": {"1": "a"}})", "-|-|<>"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(textsOf(row.alert), row.texts) << row.alert;
+}
+
+TEST(ContentForPayload, TakesBadgeSoundCategoryAndThreadOfTheRightKind) {
+  const struct {
+    std::string_view aps;
+    Value badge;
+    Value sound;
+    std::string_view category;
+    std::string_view thread;
+  } rows[] = {
+      {"{}", {}, {}, "", ""},
+      {R"({"badge": 0, "sound": "default", "category": "c", "thread-id": "t"})", 0, "default", "c",
+       "t"},
+      {R"({"badge": 2.5, "sound": {"critical": 1, "name": "n"}, "category": "", "thread-id": ""})",
+       2.5, Dictionary{{"critical", 1}, {"name", "n"}}, "", ""},
+      {R"({"badge": true, "sound": ""})", true, "", "", ""},
+      {R"({"badge": "1", "sound": 1, "category": 1, "thread-id": 1})", {}, {}, "", ""},
+      {R"({"badge": null, "sound": null, "category": null, "thread-id": null})", {}, {}, "", ""},
+      {R"({"badge": [1], "sound": ["a"], "category": ["a"], "thread-id": {}})", {}, {}, "", ""},
+      {R"({"badge": {}, "sound": true, "category": {}, "thread-id": ["t"]})", {}, {}, "", ""},
+  };
+  for (const auto& row : rows) {
+    const UNNotificationContent content =
+        contentForPayload(Dictionary{{"aps", dictionaryOf(row.aps)}});
+    EXPECT_EQ(content.badge, row.badge) << row.aps;
+    EXPECT_EQ(content.badge.isNil(), row.badge.isNil()) << row.aps;
+    EXPECT_EQ(content.sound, row.sound) << row.aps;
+    EXPECT_EQ(content.categoryIdentifier, row.category) << row.aps;
+    EXPECT_EQ(content.threadIdentifier, row.thread) << row.aps;
+  }
+}
+
+TEST(ContentForPayload, KeepsTheWholePayloadWhateverItsApsIs) {
+  for (const std::string_view payload :
+       {R"({})", R"({"a": 1})", R"({"aps": null})", R"({"aps": "alert"})",
+        R"({"aps": [{}], "b": 2})",
+        R"({"aps": {"alert": "a", "unknown": {}}, "_ov": {"pid": "1"}})"}) {
+    const Dictionary dictionary = dictionaryOf(payload);
+    const UNNotificationContent content = contentForPayload(dictionary);
+    EXPECT_EQ(Value(content.userInfo), Value(dictionary)) << payload;
+    const bool hasText = payload.find("\"alert\": \"a\"") != std::string_view::npos;
+    EXPECT_EQ(content.body.has_value(), hasText) << payload;
+    EXPECT_TRUE(content.badge.isNil() && content.sound.isNil()) << payload;
+  }
+}
+
+}  // namespace
+}  // namespace orvanta::testing

@@ -1,0 +1,86 @@
+#include <gtest/gtest.h>
+
+#include "support/ToolRunner.h"
+#include "support/Values.h"
+
+namespace orvanta::testing {
+namespace {
+
+using tool::ExitCode;
+
+TEST(Input, SaysInOneLineWhatItCannotRead) {
+  const ScratchFolder folder;
+  const struct {
+    std::string file;
+    std::string reason;
+  } rows[] = {
+      {folder.path() + "/none.json", ": No such file or directory"},
+      {folder.path(), ": Is a directory"},
+      {folder.file("empty.json", ""), ":1:1: the text ends where a value should stand"},
+      {folder.file("blank.json", " \n\t"), ":2:2: the text ends where a value should stand"},
+      {folder.file("array.json", "[{}]"), ": the text is an array, not a JSON object"},
+      {folder.file("text.json", "\"a\""), ": the text is a string, not a JSON object"},
+      {folder.file("null.json", "null"), ": the text is null, not a JSON object"},
+      {folder.file("key.json", "{\"a\": 1,\n  }"), ":2:3: expected a key in quotes"},
+      {folder.file("colon.json", "{\"a\" 1}"), ":1:6: expected ':' after a key"},
+      {folder.file("open.json", "{\"a\": [1"), ":1:9: the text ends inside a container"},
+      {folder.file("more.json", "{}\r\n\r\n{}"), ":3:1: text after the value"},
+      // a column counts characters
+      {folder.file("latin.json", "{\"\u00e9\u20ac\":\"\xff\"}"), ":1:8: text that is not UTF-8"},
+  };
+  for (const auto& row : rows) {
+    for (const char* command : {"model", "notify"}) {
+      std::vector<std::string> arguments{command, row.file};
+      if (arguments[0] == "model") arguments.insert(arguments.begin() + 1, "OrvantaPushStyle");
+      const ToolRun run = runTool(arguments, R"({"ffm": "not this one"})");
+      EXPECT_EQ(run.exit, ExitCode::unreadable) << row.file;
+      EXPECT_EQ(run.out, "") << row.file;
+      EXPECT_EQ(run.err, "orvanta: " + row.file + row.reason + "\n");
+    }
+  }
+}
+
+TEST(Input, NamesStandardInput) {
+  EXPECT_EQ(runTool({"model", "OrvantaPushStyle"}, "{,}").err.substr(0, 28),
+            "orvanta: standard input:1:2:");
+  EXPECT_EQ(runTool({"model", "OrvantaPushStyle", "-"}, "1").err,
+            "orvanta: standard input: the text is an integer, not a JSON object\n");
+}
+
+TEST(Input, WarnsOfEveryKeyThatStandsTwiceAndTakesTheLast) {
+  const ScratchFolder folder;
+  const std::string file = folder.file(
+      "twice.json", "{\"ffm\": 1,\n \"x\": {\"ffm\": 0, \"y\": 1,\n\"y\": 2},\n  \"ffm\": 2}");
+  const ToolRun run = runTool({"model", "OrvantaPushStyle", file});
+  EXPECT_EQ(run.exit, ExitCode::done);
+  EXPECT_EQ(run.out, "{\"ffm\":2}\n");
+  EXPECT_EQ(run.err, "orvanta: " + file +
+                         ":3:1: warning: the key \"y\" stands here again (first at 2:18); "
+                         "its last value counts\n"
+                         "orvanta: " +
+                         file +
+                         ":4:3: warning: the key \"ffm\" stands here again (first at 1:2); "
+                         "its last value counts\n");
+}
+
+TEST(Input, SkipsAByteOrderMark) {
+  const ToolRun run = runTool({"model", "OrvantaPushStyle"}, "\xef\xbb\xbf{\"ffm\": \"f\"}");
+  EXPECT_EQ(run.exit, ExitCode::done);
+  EXPECT_EQ(run.out, "{\"ffm\":\"f\"}\n");
+  EXPECT_EQ(run.err, "");
+}
+
+TEST(Input, TakesAndPrints512NestedContainersAndRefusesOneMore) {
+  const std::string deepest = "{\"ffm\":" + nested(511, "[", "]") + "}";
+  const ToolRun taken = runTool({"model", "OrvantaPushStyle"}, deepest);
+  EXPECT_EQ(taken.exit, ExitCode::done);
+  EXPECT_EQ(taken.out, deepest + "\n");
+  const ToolRun refused =
+      runTool({"model", "OrvantaPushStyle"}, "{\"ffm\":" + nested(512, "[", "]") + "}");
+  EXPECT_EQ(refused.exit, ExitCode::unreadable);
+  EXPECT_EQ(refused.out, "");
+  EXPECT_EQ(refused.err, "orvanta: standard input:1:519: more than 512 nested containers\n");
+}
+
+}  // namespace
+}  // namespace orvanta::testing

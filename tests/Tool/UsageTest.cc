@@ -1,0 +1,104 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "support/ToolRunner.h"
+
+namespace orvanta::testing {
+namespace {
+
+using tool::ExitCode;
+
+TEST(Usage, WrongArgumentsPrintNothingOnStandardOutput) {
+  const struct {
+    std::vector<std::string> arguments;
+    std::string_view told;
+  } rows[] = {
+      {{}, "subcommand is required"},
+      {{"unknown"}, ""},
+      {{"--unknown"}, ""},
+      {{"schema", "--unknown"}, "--unknown"},
+      {{"notify", "a", "surplus"}, "surplus"},
+      {{"schema", "OrvantaPushStyle", "surplus"}, "surplus"},
+      {{"model"}, "CLASS is required"},
+      {{"model", "OrvantaPushStyle", "file", "--init"}, "--init"},
+      {{"model", "OrvantaPushStyle", "--init", "-"}, "--init"},
+      {{"model", "OrvantaPushStyle", "--update"}, "--update"},
+      {{"--log-level", "much", "schema"}, "much"},
+      {{"schema", "--log-level"}, "--log-level"},
+  };
+  for (const auto& row : rows) {
+    const ToolRun run = runTool(row.arguments, "{}");
+    const std::string last = row.arguments.empty() ? "nothing" : row.arguments.back();
+    EXPECT_EQ(run.exit, ExitCode::usage) << last;
+    EXPECT_EQ(run.out, "") << last;
+    EXPECT_NE(run.err, "") << last;
+    EXPECT_NE(run.err.find(row.told), std::string::npos) << run.err;
+  }
+}
+
+TEST(Usage, HelpAndVersionGoToStandardOutput) {
+  const ToolRun help = runTool({"--help"});
+  EXPECT_EQ(help.exit, ExitCode::done);
+  EXPECT_EQ(help.err, "");
+  for (const char* part : {"notify", "model", "schema", "--log-level", "Exit codes", "\n  0  ",
+                           "\n  1  ", "\n  2  ", "\n  3  ", "\n  4  "}) {
+    EXPECT_NE(help.out.find(part), std::string::npos) << part;
+  }
+  const ToolRun ofCommand = runTool({"model", "--help"});
+  EXPECT_EQ(ofCommand.exit, ExitCode::done);
+  EXPECT_NE(ofCommand.out.find("--class-info"), std::string::npos);
+  EXPECT_EQ(ofCommand.err, "");
+
+  const ToolRun version = runTool({"--version"});
+  EXPECT_EQ(version.exit, ExitCode::done);
+  EXPECT_EQ(version.out.rfind("orvanta ", 0), 0U) << version.out;
+  EXPECT_EQ(lineCount(version.out), 1U);
+}
+
+TEST(Usage, TheLogLevelDecidesOverTheLogLinesOnStandardError) {
+  const std::string_view refused = R"({"ttl": null})";
+  const std::string line =
+      "orvanta: OrvantaInAppMessageAction \"ttl\" (timeToLive): null, "
+      "but a number is read from numbers and text only\n";
+  const std::string head =
+      "\n\n❗ -[OrvantaBaseModel updateWithDictionary:] (OrvantaBaseModel:81) ❗\n";
+  const struct {
+    std::vector<std::string> level;
+    bool logs;
+  } rows[] = {
+      {{}, true},
+      {{"--log-level", "1"}, true},
+      {{"--log-level", "2"}, true},
+      {{"--log-level", "0"}, false},
+      {{"--log-level", "-5"}, false},
+      {{"--log-level=-9223372036854775808"}, false},
+  };
+  for (const auto& row : rows) {
+    std::vector<std::string> arguments{"model", "OrvantaInAppMessageAction"};
+    for (const auto place : {arguments.size(), std::size_t{0}}) {
+      std::vector<std::string> all = arguments;
+      all.insert(all.begin() + static_cast<std::ptrdiff_t>(place), row.level.begin(),
+                 row.level.end());
+      const ToolRun run = runTool(all, refused);
+      EXPECT_EQ(run.exit, ExitCode::notMade);
+      EXPECT_EQ(run.out, "");
+      EXPECT_TRUE(run.err.ends_with(line)) << run.err;
+      EXPECT_EQ(run.err.starts_with(head), row.logs) << run.err;
+      EXPECT_EQ(run.err.size() == line.size(), !row.logs) << run.err;
+    }
+  }
+}
+
+TEST(Usage, OutputThatCannotBeWrittenIsAnInternalError) {
+  const char* const argv[] = {"orvanta", "schema"};
+  std::istringstream in;
+  std::ostringstream out;
+  std::ostringstream err;
+  out.setstate(std::ios::badbit);
+  EXPECT_EQ(tool::run(2, argv, {.in = in, .out = out, .err = err}), ExitCode::internal);
+  EXPECT_EQ(err.str(), "orvanta: the output cannot be written\n");
+}
+
+}  // namespace
+}  // namespace orvanta::testing
