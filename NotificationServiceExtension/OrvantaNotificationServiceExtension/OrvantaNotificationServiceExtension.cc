@@ -84,7 +84,8 @@ void OrvantaNotificationServiceExtension::serviceExtensionTimeWillExpire() {
   constexpr LogSite kSite{"-[OrvantaNotificationServiceExtension serviceExtensionTimeWillExpire]",
                           "OrvantaNotificationServiceExtension", 222};
   logDebug(kSite, [] { return "Timeout!!"; });
-  if (contentHandler_) contentHandler_(bestAttemptContent_);
+  const UNContentHandler handler = contentHandler_;  // which may lead to another request
+  if (handler) handler(bestAttemptContent_);
 }
 
 }  // namespace orvanta

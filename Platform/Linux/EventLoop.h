@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <compare>
 #include <cstdint>
 #include <functional>
@@ -22,14 +23,14 @@ class EventLoop {
   explicit EventLoop(bool realTime = false) : realTime_(realTime) {}
 
   /// Seconds since the loop began.
-  double now() const { return now_; }
-  /// Runs an event at a time, at the earliest now.
+  double now() const { return static_cast<double>(now_) / kPerSecond; }
+  /// Runs an event at a time in seconds, at the earliest now.
   void schedule(double at, std::function<void()> event, bool urgent = false) {
-    events_.emplace(Order{std::max(at, now_), !urgent, next_++}, std::move(event));
+    enter(nanoseconds(at), std::move(event), urgent);
   }
   /// The same that many seconds from now.
   void scheduleIn(double seconds, std::function<void()> event) {
-    schedule(now_ + seconds, std::move(event));
+    enter(now_ + nanoseconds(seconds), std::move(event), /*urgent=*/false);
   }
   /// Runs until nothing is scheduled.
   void run() {
@@ -37,26 +38,31 @@ class EventLoop {
     while (!events_.empty()) {
       auto first = events_.extract(events_.begin());
       now_ = first.key().at;
-      if (realTime_) {
-        std::this_thread::sleep_until(
-            start + std::chrono::duration_cast<std::chrono::nanoseconds>(
-                        std::chrono::duration<double>(std::min(now_, kLongestWait))));
-      }
+      if (realTime_) std::this_thread::sleep_until(start + std::chrono::nanoseconds(now_));
       first.mapped()();
     }
   }
 
  private:
-  static constexpr double kLongestWait = 1e6;  // seconds
+  static constexpr double kPerSecond = 1e9;
   struct Order {
-    double at;
+    std::int64_t at;
     bool patient;
     std::uint64_t number;
     auto operator<=>(const Order&) const = default;
   };
 
+  /// Whole nanoseconds, so that sums come out even; times beyond 10^9 seconds count as that.
+  static std::int64_t nanoseconds(double seconds) {
+    constexpr double kLongest = 1e9;
+    return std::llround(std::clamp(seconds, 0.0, kLongest) * kPerSecond);
+  }
+  void enter(std::int64_t at, std::function<void()> event, bool urgent) {
+    events_.emplace(Order{std::max(at, now_), !urgent, next_++}, std::move(event));
+  }
+
   bool realTime_;
-  double now_ = 0.0;
+  std::int64_t now_ = 0;
   std::uint64_t next_ = 0;
   std::map<Order, std::function<void()>> events_;
 };

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <gd.h>
+#include <png.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -10,8 +11,10 @@
 #include <cstdarg>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace orvanta {
 
@@ -56,6 +59,9 @@ class Bytes {
   bool have(std::size_t at, std::string_view text) const {
     return at <= bytes_.size() && bytes_.substr(at).starts_with(text);
   }
+  bool contains(std::string_view text, std::size_t from) const {
+    return bytes_.find(text, from) != std::string_view::npos;
+  }
   std::uint32_t byte(std::size_t at) const {
     return at < bytes_.size() ? static_cast<unsigned char>(bytes_[at]) : 0;
   }
@@ -74,7 +80,8 @@ Size sizeOfPNG(const Bytes& file) {
   return {file.big32(16), file.big32(20)};
 }
 
-/// Of the frame header, which must stand behind whole segments with nothing between them.
+/// Of the frame header, which must stand behind whole segments with nothing between them; none
+/// when the end is missing, which decoding would pass.
 Size sizeOfJPEG(const Bytes& file) {
   for (std::size_t at = 2; file.byte(at) == 0xFF;) {
     while (file.byte(at) == 0xFF) ++at;
@@ -83,6 +90,7 @@ Size sizeOfJPEG(const Bytes& file) {
     const bool isFrame =
         marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
     const bool isEnd = marker == 0 || marker == 0xD9 || marker == 0xDA;
+    if (isFrame && !file.contains("\xFF\xD9", at)) return {};
     if (isFrame) return {file.big16(at + 5), file.big16(at + 3)};
     if (isEnd) break;
     if (!isBare) at += std::max<std::size_t>(file.big16(at), 2);
@@ -125,6 +133,35 @@ Size sizeOfWebP(const Bytes& file) {
 
 // ---- Decoding ----------------------------------------------------------------
 
+std::span<int> row(const gdImage& picture, int y) {
+  return {picture.tpixels[y], static_cast<std::size_t>(picture.sx)};
+}
+
+/// By the format's own library, which prints nothing when it is used like this.
+gdImage* decodePNG(int size, void* bytes) {
+  png_image file{};
+  file.version = PNG_IMAGE_VERSION;
+  if (png_image_begin_read_from_memory(&file, bytes, static_cast<std::size_t>(size)) == 0) {
+    return nullptr;
+  }
+  file.format = PNG_FORMAT_RGBA;
+  file.flags |= PNG_IMAGE_FLAG_16BIT_sRGB;
+  std::vector<png_byte> pixels(PNG_IMAGE_SIZE(file));
+  if (png_image_finish_read(&file, nullptr, pixels.data(), 0, nullptr) == 0) return nullptr;
+
+  Picture picture(
+      gdImageCreateTrueColor(static_cast<int>(file.width), static_cast<int>(file.height)));
+  if (!picture) return nullptr;
+  const png_byte* pixel = pixels.data();
+  for (int y = 0; y < gdImageSY(picture); ++y) {
+    for (int& color : row(*picture, y)) {
+      color = gdTrueColorAlpha(pixel[0], pixel[1], pixel[2], gdAlphaMax - pixel[3] / 2);
+      pixel += 4;
+    }
+  }
+  return picture.release();
+}
+
 struct Format {
   std::string_view magic;
   std::size_t magicAt;
@@ -132,7 +169,7 @@ struct Format {
   gdImage* (*decode)(int size, void* bytes);
 };
 constexpr Format kFormats[] = {
-    {"\x89PNG\r\n\x1A\n", 0, sizeOfPNG, gdImageCreateFromPngPtr},
+    {"\x89PNG\r\n\x1A\n", 0, sizeOfPNG, decodePNG},
     {"\xFF\xD8\xFF", 0, sizeOfJPEG,
      [](int size, void* bytes) { return gdImageCreateFromJpegPtrEx(size, bytes, 0); }},
     {"GIF87a", 0, sizeOfGIF, gdImageCreateFromGifPtr},
@@ -161,9 +198,8 @@ Picture decoded(std::string file) {
   Picture picture(format->decode(static_cast<int>(file.size()), file.data()));
   if (!picture || gdImagePaletteToTrueColor(picture.get()) == 0) return nullptr;
   for (int y = 0; y < gdImageSY(picture); ++y) {
-    for (int x = 0; x < gdImageSX(picture); ++x) {
-      int& pixel = gdImageTrueColorPixel(picture, x, y);
-      pixel = pixel == gdImageGetTransparent(picture) ? kWhite : onWhite(pixel);
+    for (int& color : row(*picture, y)) {
+      color = color == picture->transparent ? kWhite : onWhite(color);
     }
   }
   return picture;

@@ -59,19 +59,15 @@ HostURLSession::HostURLSession(EventLoop& loop, Timeline& timeline, Options opti
 
 void HostURLSession::downloadTaskWithURL(const std::optional<Url>& url,
                                          DownloadCompletion completionHandler) {
-  TransferResult result;
-  double duration = 0.0;
-  if (!url) {
-    result.error = urlError(kNSURLErrorUnsupportedURL, std::nullopt);
-  } else {
+  Fetched fetched;
+  if (url) {
     timeline_.add("the download of " + url->description() + " starts");
-    const auto start = std::chrono::steady_clock::now();
-    result = fetch(*url);
-    duration = options_.answer
-                   ? options_.answer->delay
-                   : std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    fetched = fetch(*url);
+  } else {
+    fetched.result.error = urlError(kNSURLErrorUnsupportedURL, std::nullopt);
   }
-  loop_.scheduleIn(duration, [this, result, completion = std::move(completionHandler)] {
+  loop_.scheduleIn(fetched.seconds, [this, result = std::move(fetched.result),
+                                     completion = std::move(completionHandler)] {
     report(result, completion);
   });
 }
@@ -94,8 +90,8 @@ void HostURLSession::report(const TransferResult& result, const DownloadCompleti
   fs::remove(*result.file, ignored);  // what was not moved away is gone
 }
 
-TransferResult HostURLSession::fetch(const Url& url) {
-  if (options_.answer) return answer(*options_.answer, url);
+HostURLSession::Fetched HostURLSession::fetch(const Url& url) {
+  if (options_.answer) return {answer(*options_.answer, url), options_.answer->delay};
   const UrlMapping* longest = nullptr;
   for (const UrlMapping& mapping : options_.mappings) {
     const bool matches = url.absoluteString().starts_with(mapping.prefix);
@@ -107,38 +103,39 @@ TransferResult HostURLSession::fetch(const Url& url) {
   if (url.isFileURL()) {
     for (const UrlMapping& mapping : options_.mappings) {
       if (mapping.isFolder() && liesBelow(url.path(), mapping.target)) {
-        return fetchFile("/", url.path(), url, /*overHTTP=*/false);
+        return {fetchFile("/", url.path(), url, /*overHTTP=*/false)};
       }
     }
-    return {std::nullopt, nullptr, urlError(kNoPermission, url)};
+    return {{std::nullopt, nullptr, urlError(kNoPermission, url)}};
   }
+  return fetchFromNetwork(url);
+}
+
+HostURLSession::Fetched HostURLSession::fetchFromNetwork(const Url& url) {
   TransferLimits limits = options_.limits;
   const double left = std::max(0.0, expiry_ - loop_.now()) + kGraceAfterExpiry;
   limits.total = std::min(limits.total, std::chrono::milliseconds(static_cast<std::int64_t>(
                                             std::min(left, 1e9) * 1000.0)));
+  const auto start = std::chrono::steady_clock::now();
   TransferResult result = transfer(url, options_.temporaryFolder, limits, options_.progress);
+  const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
   if (result.file) {
     const fs::path renamed = newTemporaryFile();
     fs::rename(*result.file, renamed);
     result.file = renamed;
   }
-  return result;
+  return {std::move(result), taken.count()};
 }
 
-TransferResult HostURLSession::fetchMapped(const UrlMapping& mapping, const Url& url) {
+HostURLSession::Fetched HostURLSession::fetchMapped(const UrlMapping& mapping, const Url& url) {
   const std::string rest(url.absoluteString().substr(mapping.prefix.size()));
   if (mapping.isFolder()) {
-    return fetchFile(mapping.target, percentDecoded(rest.substr(0, rest.find_first_of("?#"))), url,
-                     /*overHTTP=*/true);
+    return {fetchFile(mapping.target, percentDecoded(rest.substr(0, rest.find_first_of("?#"))), url,
+                      /*overHTTP=*/true)};
   }
   const auto mapped = Url::parse(mapping.target + rest);
-  if (!mapped || mapped->isFileURL()) {
-    return {std::nullopt, nullptr, urlError(kNSURLErrorUnsupportedURL, url)};
-  }
-  HostURLSession direct(loop_, timeline_, options_);
-  direct.options_.mappings.clear();
-  direct.expiry_ = expiry_;
-  return direct.fetch(*mapped);
+  if (!mapped) return {{std::nullopt, nullptr, urlError(kNSURLErrorUnsupportedURL, url)}};
+  return fetchFromNetwork(*mapped);
 }
 
 TransferResult HostURLSession::fetchFile(const fs::path& folder, const std::string& below,

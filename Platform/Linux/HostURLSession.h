@@ -22,7 +22,8 @@ struct UrlMapping {
 
 /// Downloads on the host's loop. A scenario's answer comes first, then the longest mapped prefix,
 /// then the network; file URLs are read only below mapped folders. A transfer takes place when it
-/// is asked for and is reported when the time that it took has passed on the loop's clock.
+/// is asked for and is reported when the time that it took has passed on the loop's clock; a file
+/// of a folder takes none.
 class HostURLSession final : public NSURLSession {
  public:
   struct Options {
@@ -43,10 +44,15 @@ class HostURLSession final : public NSURLSession {
   void setExpiry(double seconds) { expiry_ = seconds; }
 
  private:
-  TransferResult fetch(const Url& url);
+  struct Fetched {
+    TransferResult result;
+    double seconds = 0.0;  // that it took, on the loop's clock
+  };
+  Fetched fetch(const Url& url);
+  Fetched fetchFromNetwork(const Url& url);
+  Fetched fetchMapped(const UrlMapping& mapping, const Url& url);
   TransferResult fetchFile(const std::filesystem::path& folder, const std::string& below,
                            const Url& url, bool overHTTP);
-  TransferResult fetchMapped(const UrlMapping& mapping, const Url& url);
   TransferResult answer(const Scenario::Media& media, const Url& url);
   /// A name in the platform's form that neither folder has: the same ones in every run.
   std::filesystem::path newTemporaryFile();

@@ -1,10 +1,12 @@
 #include "Platform/Linux/RemoteNotification.h"
 
 #include <algorithm>
+#include <charconv>
 #include <string_view>
 
 #include "Foundation/Array.h"
 #include "Foundation/Description.h"
+#include "Foundation/Number.h"
 
 namespace orvanta {
 
@@ -35,9 +37,12 @@ std::string withArguments(std::string_view format, const Array* arguments) {
     format.remove_prefix(percent + 1);
     std::size_t index = next;
     std::string_view rest = format;
-    if (rest.size() >= 3 && rest[0] >= '1' && rest[0] <= '9' && rest[1] == '$') {
-      index = static_cast<std::size_t>(rest[0] - '1');
-      rest.remove_prefix(2);
+    std::size_t number = 0;
+    const auto digits = std::from_chars(rest.data(), rest.data() + rest.size(), number);
+    const auto length = static_cast<std::size_t>(digits.ptr - rest.data());
+    if (digits.ec == std::errc() && number > 0 && rest.substr(length).starts_with('$')) {
+      index = number - 1;
+      rest.remove_prefix(length + 1);
     }
     if (!rest.starts_with('@')) {
       text += '%';
@@ -66,16 +71,13 @@ std::optional<std::string> alertText(const Dictionary& alert, const AlertText& p
 
 LaunchVerdict launchVerdict(const Dictionary& payload) {
   LaunchVerdict verdict;
-  const Dictionary* aps = payload["aps"].dictionary();
-  if (aps == nullptr) {
-    verdict.unmet.emplace_back(payload.contains("aps") ? "\"aps\" is no dictionary"
-                                                       : "there is no \"aps\"");
-    return verdict;
-  }
-  if (!(*aps)["mutable-content"].isNumber() || (*aps)["mutable-content"] != Value(1)) {
+  static const Dictionary kNothing;
+  const Dictionary* held = payload["aps"].dictionary();
+  const Dictionary& aps = held != nullptr ? *held : kNothing;
+  if (aps["mutable-content"] != Value(1)) {
     verdict.unmet.emplace_back("\"aps.mutable-content\" is not 1");
   }
-  const Value& alert = (*aps)["alert"];
+  const Value& alert = aps["alert"];
   bool shows = isNonEmptyText(alert);
   if (const Dictionary* texts = alert.dictionary()) {
     shows = std::any_of(std::begin(kAlertTexts), std::end(kAlertTexts), [&](const auto& part) {
@@ -97,7 +99,9 @@ UNNotificationContent contentForPayload(const Dictionary& payload, NSBundle& bun
   if (const Dictionary* texts = alert.dictionary()) {
     for (const AlertText& part : kAlertTexts) content.*part.member = alertText(*texts, part, bundle);
   }
-  if (const Value& badge = (*aps)["badge"]; badge.isNumber()) content.badge = badge;
+  if (const auto badge = (*aps)["badge"].number()) {
+    content.badge = badge->isBoolean() ? Value(badge->intValue()) : (*aps)["badge"];
+  }
   const Value& sound = (*aps)["sound"];
   if (sound.isString() || sound.dictionary() != nullptr) content.sound = sound;
   content.categoryIdentifier = (*aps)["category"].string().value_or("");

@@ -117,7 +117,15 @@ std::string schemeOf(std::string_view url) {
   return valid ? lowered(scheme) : std::string();
 }
 
-bool isFetchable(std::string_view scheme) { return scheme == "http" || scheme == "https"; }
+/// Whether a URL or relative reference has a scheme to fetch, and a host where it can have one.
+/// libcurl would take a path's first name for a host that is missing.
+bool isFetchable(std::string_view url, bool relative) {
+  const std::string scheme = schemeOf(url);
+  if (scheme.empty() ? !relative : scheme != "http" && scheme != "https") return false;
+  if (!scheme.empty()) url.remove_prefix(scheme.size() + 1);
+  if (!url.starts_with("//")) return scheme.empty();
+  return url.size() > 2 && std::string_view("/?#").find(url[2]) == std::string_view::npos;
+}
 
 struct Freed {
   void operator()(CURLM* multi) const { curl_multi_cleanup(multi); }
@@ -176,9 +184,9 @@ class DownloadFile {
 /// A transfer with its redirects. The requests share a handle, so connections are kept.
 class Transfer {
  public:
-  Transfer(const Url& url, const std::filesystem::path& folder, const TransferLimits& limits,
+  Transfer(Url url, const std::filesystem::path& folder, const TransferLimits& limits,
            const TransferProgress& progress)
-      : url_(url), file_(folder), limits_(limits), progress_(progress) {}
+      : url_(std::move(url)), file_(folder), limits_(limits), progress_(progress) {}
   Transfer(const Transfer&) = delete;
   Transfer& operator=(const Transfer&) = delete;
   ~Transfer() {
@@ -304,7 +312,7 @@ std::int64_t Transfer::fetch() {
   // Names and passwords in URLs are not sent.
   const std::string text(url_.absoluteString());
   target_.reset(curl_url());
-  if (!target_ || !isFetchable(schemeOf(text)) ||
+  if (!target_ || !isFetchable(text, false) ||
       curl_url_set(target_.get(), CURLUPART_URL, text.c_str(), 0) != CURLUE_OK) {
     return kNSURLErrorUnsupportedURL;
   }
@@ -357,9 +365,9 @@ std::optional<CURLcode> Transfer::outcome() {
 /// Turns to where the answer points to.
 std::int64_t Transfer::follow() {
   const std::string location = percentEncoded(trimmed(header("Location")), kUrlCharacters);
-  const std::string scheme = schemeOf(location);
-  if (!scheme.empty() && !isFetchable(scheme)) {
-    if (const auto url = Url::parse(location)) url_ = *url;
+  if (!isFetchable(location, true)) {
+    const auto url = Url::parse(location);
+    if (url && !schemeOf(location).empty()) url_ = *url;  // the one that failed
     return kNSURLErrorUnsupportedURL;
   }
   char* text = nullptr;
@@ -451,11 +459,11 @@ Transfer::Next Transfer::takeHeaders() {
     std::string lower = lowered(each->name);
     const auto known = std::find(lowerNames.begin(), lowerNames.end(), lower);
     if (known == lowerNames.end()) {
-      parts.headers.emplace_back(printable(each->name), printable(each->value));
+      parts.headers.emplace_back(printable(each->name), printable(trimmed(each->value)));
       lowerNames.push_back(std::move(lower));
     } else {
       const auto place = static_cast<std::size_t>(known - lowerNames.begin());
-      parts.headers[place].second.append(", ").append(printable(each->value));
+      parts.headers[place].second.append(", ").append(printable(trimmed(each->value)));
     }
   }
   if (const char* type = header("Content-Type")) parts.mimeType = mimeTypeOfHeader(type);

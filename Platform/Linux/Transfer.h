@@ -12,10 +12,10 @@ namespace orvanta {
 
 /// How far a transfer may go.
 struct TransferLimits {
-  std::chrono::milliseconds idle{60'000};  // without a byte, at any stage: -1001
+  std::chrono::milliseconds idle{60'000};                   // without a byte, at any stage: -1001
   std::chrono::milliseconds total{7LL * 24 * 3600 * 1000};  // from start to end: -1001
-  std::uint64_t bytes = 256'000'000;  // of the body, after decoding: -1103
-  int redirects = 20;                 // one more: -1007
+  std::uint64_t bytes = 256'000'000;                        // of the body, after decoding: -1103
+  int redirects = 20;                                       // one more: -1007
 };
 
 /// What a transfer ended with, as NSURLSession reports it.
@@ -25,14 +25,22 @@ struct TransferResult {
   Ref<NSError> error;
 };
 
-/// Told the bytes so far and the size that was announced, 0 for none.
+/// Told the decoded bytes so far and the size that was announced, 0 for none or when the body is
+/// compressed; on the thread that transfers. What it throws ends the transfer and passes on.
 using TransferProgress = std::function<void(std::uint64_t received, std::uint64_t expected)>;
 
 /// Fetches a URL over http or https, and nothing else, into a new file of the folder, named
-/// "CFNetworkDownload_" + six letters or digits + ".tmp" as the platform names its own. Blocks. The
-/// body is streamed to the file; certificates are checked. Errors are those of NSURLErrorDomain,
-/// with NSLocalizedDescription, NSErrorFailingURLStringKey and NSErrorFailingURLKey. An HTTP error
+/// "CFNetworkDownload_" + six letters or digits + ".tmp" as the platform names its own. Blocks; may
+/// be called from any thread. The body is streamed to the file, gzip and deflate undone;
+/// certificates are checked. Neither names and passwords in URLs nor cookies are sent, and proxies
+/// of the environment are not used. Errors are those of NSURLErrorDomain, with
+/// NSLocalizedDescription, NSErrorFailingURLStringKey and NSErrorFailingURLKey. An HTTP error
 /// status is none. No file is left behind after an error.
+///
+/// The response is that of the final answer and is there as soon as its headers were complete,
+/// error or not. Its headers stand in the order of arrival, a repeated one at its first place, the
+/// values joined by ", "; a question mark replaces each byte that is no UTF-8 or belongs to a
+/// control character. More than 256 lines or 64 KiB of them are a bad answer, -1011.
 TransferResult transfer(const Url& url, const std::filesystem::path& folder,
                         const TransferLimits& limits, const TransferProgress& progress = {});
 
@@ -43,7 +51,7 @@ std::filesystem::path temporaryDownload(const std::filesystem::path& folder);
 Ref<NSError> urlError(std::int64_t code, const std::optional<Url>& url);
 
 /// The value of a Content-Type header as a response's MIME type: lower case, without parameters;
-/// none when it is empty or no "type/subtype" of RFC 9110 tokens.
+/// none when it is empty or no "type/subtype" of RFC 9110 tokens of up to 127 characters each.
 std::optional<std::string> mimeTypeOfHeader(std::string_view contentType);
 
 }  // namespace orvanta

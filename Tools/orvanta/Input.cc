@@ -2,20 +2,29 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 
 #include "Foundation/JSON.h"
+#include "Text.h"
 
 namespace orvanta::tool {
 
 namespace {
 
 std::string readAll(std::istream& in, const std::string& name) {
-  std::string text(std::istreambuf_iterator<char>(in), {});
+  std::string text;
+  char buffer[65536];
+  try {
+    while (in.read(buffer, sizeof buffer), in.gcount() > 0) {
+      text.append(buffer, static_cast<std::size_t>(in.gcount()));
+    }
+  } catch (const std::ios_base::failure&) {
+    in.setstate(std::ios_base::badbit);
+  }
   if (in.bad()) throw Failure(ExitCode::unreadable, name + ": reading failed");
   return text;
 }
@@ -43,10 +52,26 @@ std::string place(const std::string& name, std::size_t offset, const std::string
   return name + ":" + std::to_string(at.line) + ":" + std::to_string(at.column);
 }
 
+void warnOfDuplicates(const Input& input, std::ostream& err) {
+  constexpr std::size_t kMostNamed = 10;
+  const std::vector<DuplicateKey> duplicates = findDuplicateKeys(input.text);
+  for (std::size_t i = 0; i < std::min(kMostNamed, duplicates.size()); ++i) {
+    const TextPosition first = TextPosition::of(duplicates[i].firstOffset, input.text);
+    err << "orvanta: " << place(input.name, duplicates[i].offset, input.text)
+        << ": warning: the key \"" << printable(duplicates[i].key)
+        << "\" stands here again (first at " << first.line << ':' << first.column
+        << "); its last value counts\n";
+  }
+  if (duplicates.size() > kMostNamed) {
+    err << "orvanta: " << input.name << ": warning: " << duplicates.size() - kMostNamed
+        << " more keys stand twice\n";
+  }
+}
+
 }  // namespace
 
 Input readInput(const std::string& file, const Streams& streams) {
-  Input input{.name = file == "-" ? "standard input" : file, .text = {}, .object = {}};
+  Input input{.name = file == "-" ? "standard input" : printable(file), .text = {}, .object = {}};
   input.text = readText(file, input.name, streams.in);
   JSONError error;
   const Value value = parseJSON(input.text, &error);
@@ -58,12 +83,7 @@ Input readInput(const std::string& file, const Streams& streams) {
     throw Failure(ExitCode::unreadable, input.name + ": the text is " +
                                             std::string(value.kindName()) + ", not a JSON object");
   }
-  for (const DuplicateKey& duplicate : findDuplicateKeys(input.text)) {
-    streams.err << "orvanta: " << place(input.name, duplicate.offset, input.text)
-                << ": warning: the key \"" << duplicate.key << "\" stands here again (first at "
-                << place("line", duplicate.firstOffset, input.text).substr(5)
-                << "); its last value counts\n";
-  }
+  warnOfDuplicates(input, streams.err);
   input.object = *value.dictionary();
   return input;
 }

@@ -2,6 +2,8 @@
 #include <ostream>
 
 #include "Commands.h"
+#include "Foundation/Array.h"
+#include "Foundation/JSON.h"
 #include "Input.h"
 #include "Mapping/OrvantaBaseModel.h"
 #include "Mapping/RefusalRecorder.h"
@@ -69,7 +71,15 @@ ExitCode model(const ModelOptions& options, const Streams& streams) {
     tellRefusal(recorder, cls, streams);
     if (updated == Outcome::thrown) return ExitCode::notMade;
   }
-  printJSON(object->dictionaryValueWithPolicy(options.classInfo), streams.out, options.pretty);
+  const Dictionary result = object->dictionaryValueWithPolicy(options.classInfo);
+  for (const Dictionary::Entry& entry : result) {
+    if (!isValidJSONObject(Array{entry.value})) {
+      throw Failure(ExitCode::notMade, std::string(cls.name) + " \"" + printable(entry.key()) +
+                                           "\": " + std::string(entry.value.kindName()) +
+                                           " without a JSON text, such as an infinite number");
+    }
+  }
+  printJSON(result, streams.out, options.pretty);
   return ExitCode::done;
 }
 

@@ -16,7 +16,7 @@ std::string printable(std::string_view text, std::size_t indent) {
     const auto byte = static_cast<unsigned char>(text[i]);
     const bool isC1 =
         byte == 0xC2 && i + 1 < text.size() && static_cast<unsigned char>(text[i + 1]) < 0xA0;
-    if (byte == '\n') {
+    if (byte == '\n' && indent != 0) {
       result.append("\n").append(indent, ' ');
     } else if (byte < 0x20 || byte == 0x7F || isC1) {
       const auto code = isC1 ? static_cast<unsigned char>(text[++i]) : byte;
@@ -45,8 +45,12 @@ std::size_t editDistance(std::string_view a, std::string_view b) {
 
 void printJSON(const Value& value, std::ostream& out, bool pretty) {
   std::string text;
-  if (!writeJSON(value, text, {.pretty = pretty, .escapeSlashes = false})) {
-    throw Failure(ExitCode::internal, "the result cannot be written as JSON");
+  // What was read may stand some levels deeper in a result.
+  const JSONStyle style{
+      .pretty = pretty, .escapeSlashes = false, .depthLimit = kJSONDepthLimit + 8};
+  if (!writeJSON(value, text, style)) {
+    throw Failure(ExitCode::notMade,
+                  "the result has no JSON text: it holds an infinite number or the like");
   }
   out << text << '\n';
 }

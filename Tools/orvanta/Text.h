@@ -9,8 +9,8 @@
 
 namespace orvanta::tool {
 
-/// A text for a terminal: control characters are written as \u00xx, and a line break is followed by
-/// that many spaces.
+/// A text for a terminal: control characters are written as \u00xx; with an indent a line break
+/// stays one, followed by that many spaces.
 std::string printable(std::string_view text, std::size_t indent = 0);
 
 /// How many characters must be inserted, left out or replaced to turn one text into the other.

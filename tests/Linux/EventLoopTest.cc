@@ -69,11 +69,5 @@ TEST(EventLoop, NeverGoesIntoThePast) {
   EXPECT_EQ(loop.ran, "a0 b0 c7 d7 e7 ");
 }
 
-TEST(EventLoop, AnEmptyOneStandsAtZero) {
-  EventLoop loop;
-  loop.run();
-  EXPECT_EQ(loop.now(), 0.0);
-}
-
 }  // namespace
 }  // namespace orvanta::testing

@@ -7,19 +7,17 @@ namespace orvanta::testing {
 namespace {
 
 TEST(LaunchVerdict, NamesEveryConditionThatIsNotMet) {
-  const std::string noAps = "there is no \"aps\"";
-  const std::string noDictionary = "\"aps\" is no dictionary";
   const std::string notMutable = "\"aps.mutable-content\" is not 1";
   const std::string noText = "\"aps.alert\" has no text to show";
   const struct {
     std::string_view payload;
     std::vector<std::string> unmet;
   } rows[] = {
-      {R"({})", {noAps}},
-      {R"({"mutable-content": 1, "alert": "a"})", {noAps}},
-      {R"({"aps": null})", {noDictionary}},
-      {R"({"aps": "a"})", {noDictionary}},
-      {R"({"aps": [{"mutable-content": 1, "alert": "a"}]})", {noDictionary}},
+      {R"({})", {notMutable, noText}},
+      {R"({"mutable-content": 1, "alert": "a"})", {notMutable, noText}},
+      {R"({"aps": null})", {notMutable, noText}},
+      {R"({"aps": "a"})", {notMutable, noText}},
+      {R"({"aps": [{"mutable-content": 1, "alert": "a"}]})", {notMutable, noText}},
       {R"({"aps": {}})", {notMutable, noText}},
       // the flag
       {R"({"aps": {"mutable-content": 1, "alert": "a"}})", {}},
@@ -33,12 +31,10 @@ TEST(LaunchVerdict, NamesEveryConditionThatIsNotMet) {
       {R"({"aps": {"mutable-content": [1], "alert": "a"}})", {notMutable}},
       {R"({"aps": {"mutable-content": null, "alert": "a"}})", {notMutable}},
       // the alert
-      {R"({"aps": {"mutable-content": 1}})", {noText}},
       {R"({"aps": {"mutable-content": 1, "alert": ""}})", {noText}},
       {R"({"aps": {"mutable-content": 1, "alert": 5}})", {noText}},
       {R"({"aps": {"mutable-content": 1, "alert": null}})", {noText}},
       {R"({"aps": {"mutable-content": 1, "alert": ["a"]}})", {noText}},
-      {R"({"aps": {"mutable-content": 1, "alert": {}}})", {noText}},
       {R"({"aps": {"mutable-content": 1, "alert": {"title": "", "body": 5}}})", {noText}},
       {R"({"aps": {"mutable-content": 1, "alert": {"loc-args": ["a"]}}})", {noText}},
       {R"({"aps": {"mutable-content": 1, "alert": {"title": "a"}}})", {}},
@@ -55,10 +51,23 @@ TEST(LaunchVerdict, NamesEveryConditionThatIsNotMet) {
   }
 }
 
+/// Has a text for "GREETING", and for no other key.
+class SmallBundle final : public NSBundle {
+ public:
+  std::string localizedStringForKey(std::string_view key) override {
+    return key == "GREETING" ? "Good day, %@!" : std::string(key);
+  }
+};
+
+UNNotificationContent contentOf(const Dictionary& payload) {
+  SmallBundle bundle;
+  return contentForPayload(payload, bundle);
+}
+
 /// "title|subtitle|body" of the content for an alert; "-" is none.
 std::string textsOf(std::string_view alert) {
   const UNNotificationContent content =
-      contentForPayload(Dictionary{{"aps", Dictionary{{"alert", parsed(alert)}}}});
+      contentOf(Dictionary{{"aps", Dictionary{{"alert", parsed(alert)}}}});
   return content.title.value_or("-") + "|" + content.subtitle.value_or("-") + "|" +
          content.body.value_or("-");
 }
@@ -91,6 +100,9 @@ TEST(ContentForPayload, TakesTheTextsOfTheAlert) {
       {R"({"loc-key": "%@ and %@, %@.", "loc-args": ["a", "b"]})", "-|-|a and b, ."},
       {R"({"loc-key": "%2$@%1$@%3$@!", "loc-args": ["a", "b"]})", "-|-|ba!"},
       {R"({"loc-key": "%2$@ %@ %@", "loc-args": ["a", "b"]})", "-|-|b a b"},
+      {R"({"title-loc-key": "GREETING", "title-loc-args": ["Ann"], "body": "GREETING"})",
+       "Good day, Ann!|-|GREETING"},
+      {R"({"loc-key": "%11$@%@", "loc-args": [1, 2, 3, 4, 5, 6, 7, 8, 9, 10, "k"]})", "-|-|k1"},
       {R"({"loc-key": "%@%@%@", "loc-args": ["%@", 5, 1.5]})", "-|-|%@51.5"},
       {R"({"loc-key": "%@ %@", "loc-args": [true, null]})", "-|-|1 <null>"},
       {R"({"loc-key": "100%% %%@ %", "loc-args": ["a"]})", "-|-|100% %@ %"},
@@ -115,17 +127,16 @@ TEST(ContentForPayload, TakesBadgeSoundCategoryAndThreadOfTheRightKind) {
        "t"},
       {R"({"badge": 2.5, "sound": {"critical": 1, "name": "n"}, "category": "", "thread-id": ""})",
        2.5, Dictionary{{"critical", 1}, {"name", "n"}}, "", ""},
-      {R"({"badge": true, "sound": ""})", true, "", "", ""},
+      {R"({"badge": true, "sound": ""})", 1, "", "", ""},
       {R"({"badge": "1", "sound": 1, "category": 1, "thread-id": 1})", {}, {}, "", ""},
       {R"({"badge": null, "sound": null, "category": null, "thread-id": null})", {}, {}, "", ""},
       {R"({"badge": [1], "sound": ["a"], "category": ["a"], "thread-id": {}})", {}, {}, "", ""},
       {R"({"badge": {}, "sound": true, "category": {}, "thread-id": ["t"]})", {}, {}, "", ""},
   };
   for (const auto& row : rows) {
-    const UNNotificationContent content =
-        contentForPayload(Dictionary{{"aps", dictionaryOf(row.aps)}});
+    const UNNotificationContent content = contentOf(Dictionary{{"aps", dictionaryOf(row.aps)}});
     EXPECT_EQ(content.badge, row.badge) << row.aps;
-    EXPECT_EQ(content.badge.isNil(), row.badge.isNil()) << row.aps;
+    EXPECT_EQ(content.badge.kindName(), row.badge.kindName()) << row.aps;
     EXPECT_EQ(content.sound, row.sound) << row.aps;
     EXPECT_EQ(content.categoryIdentifier, row.category) << row.aps;
     EXPECT_EQ(content.threadIdentifier, row.thread) << row.aps;
@@ -138,9 +149,9 @@ TEST(ContentForPayload, KeepsTheWholePayloadWhateverItsApsIs) {
         R"({"aps": [{}], "b": 2})",
         R"({"aps": {"alert": "a", "unknown": {}}, "_ov": {"pid": "1"}})"}) {
     const Dictionary dictionary = dictionaryOf(payload);
-    const UNNotificationContent content = contentForPayload(dictionary);
+    const UNNotificationContent content = contentOf(dictionary);
     EXPECT_EQ(Value(content.userInfo), Value(dictionary)) << payload;
-    const bool hasText = payload.find("\"alert\": \"a\"") != std::string_view::npos;
+    const bool hasText = payload.find(R"("alert": "a")") != std::string_view::npos;
     EXPECT_EQ(content.body.has_value(), hasText) << payload;
     EXPECT_TRUE(content.badge.isNil() && content.sound.isNil()) << payload;
   }

@@ -42,7 +42,7 @@ TEST(ModelRegistry, EveryClassMakesObjectsOfItself) {
 }
 
 TEST(ModelRegistry, EveryTypeCodeIsWellFormed) {
-  const std::regex wellFormed("[BiqQfd@#]|@\\?|@\"[A-Z]\\w+\"");
+  const std::regex wellFormed(R"([BiqQfd@#]|@\?|@"[A-Z]\w+")");
   for (const Class* cls : modelClasses()) {
     std::set<std::string_view> names;
     for (const Property& property : cls->properties) {

@@ -25,7 +25,8 @@ TEST(Input, SaysInOneLineWhatItCannotRead) {
       {folder.file("colon.json", "{\"a\" 1}"), ":1:6: expected ':' after a key"},
       {folder.file("open.json", "{\"a\": [1"), ":1:9: the text ends inside a container"},
       {folder.file("more.json", "{}\r\n\r\n{}"), ":3:1: text after the value"},
-      // a column counts characters
+      // a column counts characters, a byte-order mark is none
+      {folder.file("mark.json", "\xef\xbb\xbf{,"), ":1:2: expected a key in quotes"},
       {folder.file("latin.json", "{\"\u00e9\u20ac\":\"\xff\"}"), ":1:8: text that is not UTF-8"},
   };
   for (const auto& row : rows) {
@@ -61,6 +62,14 @@ TEST(Input, WarnsOfEveryKeyThatStandsTwiceAndTakesTheLast) {
                          file +
                          ":4:3: warning: the key \"ffm\" stands here again (first at 1:2); "
                          "its last value counts\n");
+}
+
+TEST(Input, ShowsControlCharactersOfAKeyEscaped) {
+  const ToolRun run =
+      runTool({"model", "OrvantaPushStyle"}, R"({"a\u001b\nb": 1, "a\u001b\nb": 2})");
+  EXPECT_EQ(run.err,
+            "orvanta: standard input:1:19: warning: the key \"a\\u001b\\u000ab\" stands here "
+            "again (first at 1:2); its last value counts\n");
 }
 
 TEST(Input, SkipsAByteOrderMark) {

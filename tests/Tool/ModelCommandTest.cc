@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "support/ToolRunner.h"
-#include "support/Values.h"
 
 namespace orvanta::testing {
 namespace {
@@ -14,104 +13,79 @@ ToolRun runModel(std::vector<std::string> arguments, std::string_view standardIn
   return runTool(arguments, standardIn);
 }
 
+const std::string kPush = "OrvantaPushObject";
+const std::string kStyle = "OrvantaPushStyle";
+const std::string kNeedsUrl = ", but a URL is read from text only";
+const std::string kNeedsDate = ", but a date is read from a number of milliseconds only";
+const std::string kNeedsBoolean = ", but a boolean is read from numbers and text only";
+const std::string kNeedsNumber = ", but a number is read from numbers and text only";
+const std::string kNoAlert = ", which has no key \"alert\"";
+
 TEST(ModelCommand, TellsInOneLineWhyThereIsNoObject) {
   const struct {
     std::string className;
     std::string_view json;
-    std::string_view line;
+    std::string place;
+    std::string reason;
   } rows[] = {
-      // a value of a kind that a converter or a scalar refuses
-      {"OrvantaPushObject", R"({"_ov": {"mu": 5}})",
-       "OrvantaPushObject \"_ov.mu\" (mediaAttachmentURL): an integer, "
-       "but a URL is read from text only"},
-      {"OrvantaPushObject", R"({"_ov": {"mu": true}})",
-       "OrvantaPushObject \"_ov.mu\" (mediaAttachmentURL): a boolean, "
-       "but a URL is read from text only"},
-      {"OrvantaPushObject", R"({"_ov": {"mu": null}})",
-       "OrvantaPushObject \"_ov.mu\" (mediaAttachmentURL): null, "
-       "but a URL is read from text only"},
-      {"OrvantaPushObject", R"({"_ov": {"ets": "2024-01-01"}})",
-       "OrvantaPushObject \"_ov.ets\" (expirationDate): a string, "
-       "but a date is read from a number of milliseconds only"},
-      {"OrvantaPushObject", R"({"_ov": {"sts": {}}})",
-       "OrvantaPushObject \"_ov.sts\" (sendDate): a dictionary, "
-       "but a date is read from a number of milliseconds only"},
-      {"OrvantaPushObject", R"({"_ov": {"dr": null}})",
-       "OrvantaPushObject \"_ov.dr\" (shouldSendDeliveryReport): null, "
-       "but a boolean is read from numbers and text only"},
-      {"OrvantaPushObject", R"({"aps": {"badge": []}})",
-       "OrvantaPushObject \"aps.badge\" (badge): an array, "
-       "but a number is read from numbers and text only"},
-      {"OrvantaInAppMessageAction", R"({"ttl": null})",
-       "OrvantaInAppMessageAction \"ttl\" (timeToLive): null, "
-       "but a number is read from numbers and text only"},
+      {kPush, R"({"_ov": {"mu": 5}})", "\"_ov.mu\" (mediaAttachmentURL): an integer", kNeedsUrl},
+      {kPush, R"({"_ov": {"mu": null}})", "\"_ov.mu\" (mediaAttachmentURL): null", kNeedsUrl},
+      {kPush, R"({"_ov": {"ets": "1"}})", "\"_ov.ets\" (expirationDate): a string", kNeedsDate},
+      {kPush, R"({"_ov": {"sts": {}}})", "\"_ov.sts\" (sendDate): a dictionary", kNeedsDate},
+      {kPush, R"({"_ov": {"dr": null}})", "\"_ov.dr\" (shouldSendDeliveryReport): null",
+       kNeedsBoolean},
+      {kPush, R"({"aps": {"badge": []}})", "\"aps.badge\" (badge): an array", kNeedsNumber},
       // the first in the table's order, whatever the order of the text
-      {"OrvantaPushObject", R"({"_ov": {"ets": "x", "mu": 1}})",
-       "OrvantaPushObject \"_ov.mu\" (mediaAttachmentURL): an integer, "
-       "but a URL is read from text only"},
+      {kPush, R"({"_ov": {"ets": "x", "mu": true}})", "\"_ov.mu\" (mediaAttachmentURL): a boolean",
+       kNeedsUrl},
       // a nested model that cannot stand in an array
       {"OrvantaUserNotificationCategory", R"({"ia": [{}, {"actM": {}}]})",
-       "OrvantaUserNotificationCategory \"ia\" (actions) > "
-       "OrvantaUserNotificationAction \"actM\" (activationMode): a dictionary, "
-       "but a number is read from numbers and text only"},
+       R"("ia" (actions) > OrvantaUserNotificationAction "actM" (activationMode): a dictionary)",
+       kNeedsNumber},
       // an undefined key that is thrown out of the initialiser
-      {"OrvantaPushObject", R"({"aps": "x"})",
-       "OrvantaPushObject \"aps.alert\" (alert): a string, which has no key \"alert\""},
-      {"OrvantaPushObject", R"({"aps": [{"alert": "a"}, 3]})",
-       "OrvantaPushObject \"aps.alert\" (alert): an array, which has no key \"alert\""},
-      {"OrvantaPushObject", R"({"_ov": 1.5})",
-       "OrvantaPushObject \"_ov.act\" (action): a fraction, which has no key \"act\""},
+      {kPush, R"({"aps": "x"})", "\"aps.alert\" (alert): a string", kNoAlert},
+      {kPush, R"({"aps": [{"alert": "a"}, 3]})", "\"aps.alert\" (alert): an integer", kNoAlert},
+      {kPush, R"({"_ov": 1.5})", "\"_ov.act\" (action): a fraction", ", which has no key \"act\""},
   };
   for (const auto& row : rows) {
     const ToolRun run = runModel({row.className}, row.json);
     EXPECT_EQ(run.exit, ExitCode::notMade) << row.json;
     EXPECT_EQ(run.out, "") << row.json;
-    EXPECT_EQ(run.err, "orvanta: " + std::string(row.line) + "\n");
+    EXPECT_EQ(run.err, "orvanta: " + row.className + " " + row.place + row.reason + "\n");
   }
 }
 
-TEST(ModelCommand, PrintsTheObjectInOneLineAndNothingElse) {
+TEST(ModelCommand, PrintsTheObjectAndNothingElse) {
+  const std::string_view bare =
+      R"({"_ov.pt":0,"_ov.st":0,"_ov.dr":false,"_ov.stl":0,"_ov.thc":false})";
   const struct {
     std::vector<std::string> arguments;
     std::string_view json;
-    std::string_view line;
+    std::string_view text;
   } rows[] = {
-      {{"OrvantaPushStyle"},
-       R"({"iospi": "i", "other": 1, "ffm": "f"})",
-       R"({"ffm":"f","iospi":"i"})"},
-      {{"OrvantaPushStyle", "-"}, R"({"ffm": "f"})", R"({"ffm":"f"})"},
-      {{"OrvantaPushStyle"}, "{}", "{}"},
-      {{"OrvantaPushStyle"}, R"({"ffm": null})", R"({"ffm":null})"},
-      {{"OrvantaPushCarouselObject"},
-       R"({"bpp": "https:\/\/example.com/a"})",
-       R"({"bpp":"https://example.com/a"})"},
-      {{"OrvantaPushObject"},
+      {{kStyle}, R"({"iospi": null, "x": 1, "ffm": "f"})", R"({"ffm":"f","iospi":null})"},
+      {{kStyle, "-"}, R"({"ffm": "f"})", R"({"ffm":"f"})"},
+      {{kStyle}, R"({"ffm": "a\/b/c"})", R"({"ffm":"a/b/c"})"},
+      {{kPush}, R"({"aps": {"alert": 7}, "_ov": {"mu": "a b"}})", bare},  // neither alert nor URL
+      {{kPush}, R"({"_ov": {"iam": {"ttl": null}}})", bare},              // nor message
+      {{kPush, "--init"}, "not read", bare},
+      {{kPush},
        R"({"aps": {"alert": "b", "badge": 3}, "_ov": {"ets": 1500.9}})",
        R"({"body":"b","aps.badge":3,"_ov.pt":0,"_ov.st":0,"_ov.dr":false,"_ov.ets":1500,)"
        R"("_ov.stl":0,"_ov.thc":false})"},
-      {{"OrvantaPushObject"},
-       R"({"aps": {"alert": 7}, "_ov": {"mu": "a b"}})",  // no URL, no alert
-       R"({"_ov.pt":0,"_ov.st":0,"_ov.dr":false,"_ov.stl":0,"_ov.thc":false})"},
-      {{"OrvantaPushObject"},
-       R"({"_ov": {"iam": {"ttl": null}}})",  // goes on without the message
-       R"({"_ov.pt":0,"_ov.st":0,"_ov.dr":false,"_ov.stl":0,"_ov.thc":false})"},
-      {{"OrvantaPushObject", "--init"},
-       "not read",
-       R"({"_ov.pt":0,"_ov.st":0,"_ov.dr":false,"_ov.stl":0,"_ov.thc":false})"},
-      {{"OrvantaBaseModel"}, R"({"a": 1})", "{}"},
-      {{"OrvantaPushObject", "--class-info"},
+      {{kPush, "--class-info"},
        R"({"_ov": {"ps": {"ffm": "f"}, "crsl": [{"klazz": "OrvantaPushStyle"}, {"a": 1}]}})",
        R"({"_ov.pt":0,"_ov.st":0,"_ov.dr":false,"_ov.crsl":[{"klazz":"OrvantaPushStyle"},{"a":1}],)"
        R"("_ov.stl":0,"_ov.ps":{"ffm":"f","klazz":"OrvantaPushStyle"},"_ov.thc":false,)"
        R"("klazz":"OrvantaPushObject"})"},
-      {{"OrvantaPushStyle", "--pretty"},
+      {{kStyle, "--pretty"},
        R"({"ffm": "a/b", "iospi": ["c"]})",
        "{\n  \"ffm\" : \"a/b\",\n  \"iospi\" : [\n    \"c\"\n  ]\n}"},
   };
   for (const auto& row : rows) {
     const ToolRun run = runModel(row.arguments, row.json);
     EXPECT_EQ(run.exit, ExitCode::done) << row.json;
-    EXPECT_EQ(run.out, std::string(row.line) + "\n");
+    EXPECT_EQ(run.out, std::string(row.text) + "\n");
     EXPECT_EQ(run.err, "") << row.json;
   }
 }
@@ -120,16 +94,19 @@ TEST(ModelCommand, UpdatesInTheOrderOfTheArguments) {
   const ScratchFolder folder;
   const std::string first = folder.file("1.json", R"({"ffm": "1", "iospi": "1"})");
   const std::string second = folder.file("2.json", R"({"ffm": "2"})");
-  const ToolRun forwards =
-      runModel({"OrvantaPushStyle", "--update", first, "--update", second}, R"({"ffm": "0"})");
-  EXPECT_EQ(forwards.out, "{\"ffm\":\"2\",\"iospi\":\"1\"}\n");
-  const ToolRun backwards =
-      runModel({"OrvantaPushStyle", "--init", "--update", second, "--update", first});
-  EXPECT_EQ(backwards.out, "{\"ffm\":\"1\",\"iospi\":\"1\"}\n");
-  // an update may come from standard input, when nothing else does
-  const ToolRun piped = runModel({"OrvantaPushStyle", first, "--update", "-"}, R"({"ffm": "3"})");
-  EXPECT_EQ(piped.out, "{\"ffm\":\"3\",\"iospi\":\"1\"}\n");
-  EXPECT_EQ(forwards.err + backwards.err + piped.err, "");
+  const struct {
+    std::vector<std::string> arguments;
+    std::string_view text;
+  } rows[] = {
+      {{kStyle, "--update", first, "--update", second}, R"({"ffm":"2","iospi":"1"})"},
+      {{kStyle, "--init", "--update", second, "--update", first}, R"({"ffm":"1","iospi":"1"})"},
+      {{kStyle, first, "--update", "-"}, R"({"ffm":"0","iospi":"1"})"},
+  };
+  for (const auto& row : rows) {
+    const ToolRun run = runModel(row.arguments, R"({"ffm": "0"})");
+    EXPECT_EQ(run.out, std::string(row.text) + "\n");
+    EXPECT_EQ(run.err, "");
+  }
 }
 
 TEST(ModelCommand, AnUpdateThatIsRefusedIsToldAndTheObjectPrintedAsItStands) {
@@ -140,16 +117,10 @@ TEST(ModelCommand, AnUpdateThatIsRefusedIsToldAndTheObjectPrintedAsItStands) {
       {"OrvantaInAppMessageAction", "--update", refused, "--update", taken, "--update", refused},
       R"({"txt": "old", "ttl": 2, "drc": "ltr"})");
   const std::string line =
-      "orvanta: OrvantaInAppMessageAction \"ttl\" (timeToLive): a dictionary, "
-      "but a number is read from numbers and text only\n";
+      "orvanta: OrvantaInAppMessageAction \"ttl\" (timeToLive): a dictionary" + kNeedsNumber + "\n";
   EXPECT_EQ(run.exit, ExitCode::done);
   EXPECT_EQ(run.err, line + line);
-  const Value object = parsed(run.out);
-  ASSERT_NE(object.dictionary(), nullptr);
-  EXPECT_EQ((*object.dictionary())["txt"], Value("new"));  // stood before the refused one
-  EXPECT_EQ((*object.dictionary())["ttl"], Value(2));
-  EXPECT_EQ((*object.dictionary())["tt"], Value("later"));
-  EXPECT_EQ((*object.dictionary())["drc"], Value("ltr"));
+  EXPECT_TRUE(run.out.starts_with(R"({"txt":"new","tt":"later","ttl":2,"drc":"ltr",)")) << run.out;
 }
 
 TEST(ModelCommand, PrintsNoObjectWhenAnUpdateThrowsOrCannotBeRead) {
@@ -161,14 +132,11 @@ TEST(ModelCommand, PrintsNoObjectWhenAnUpdateThrowsOrCannotBeRead) {
     ExitCode exit;
     std::string line;
   } rows[] = {
-      {thrown, ExitCode::notMade,
-       "OrvantaPushObject \"aps.alert\" (alert): an integer, which has no key \"alert\""},
-      {broken, ExitCode::unreadable, broken + ":1:2: the text ends inside a container"},
-      {folder.path() + "/none", ExitCode::unreadable,
-       folder.path() + "/none: No such file or directory"},
+      {thrown, ExitCode::notMade, kPush + " \"aps.alert\" (alert): an integer" + kNoAlert},
+      {broken, ExitCode::unreadable, broken + ":1:2: expected a key in quotes"},
   };
   for (const auto& row : rows) {
-    const ToolRun run = runModel({"OrvantaPushObject", "--init", "--update", row.file});
+    const ToolRun run = runModel({kPush, "--init", "--update", row.file});
     EXPECT_EQ(run.exit, row.exit) << row.file;
     EXPECT_EQ(run.out, "") << row.file;
     EXPECT_EQ(run.err, "orvanta: " + row.line + "\n");
@@ -177,9 +145,9 @@ TEST(ModelCommand, PrintsNoObjectWhenAnUpdateThrowsOrCannotBeRead) {
 
 TEST(ModelCommand, ReadsStandardInputOnlyOnce) {
   const std::vector<std::string> rows[] = {
-      {"OrvantaPushStyle", "--update", "-"},
-      {"OrvantaPushStyle", "-", "--update", "-"},
-      {"OrvantaPushStyle", "--init", "--update", "-", "--update", "-"},
+      {kStyle, "--update", "-"},
+      {kStyle, "-", "--update", "-"},
+      {kStyle, "--init", "--update", "-", "--update", "-"},
   };
   for (const auto& arguments : rows) {
     const ToolRun run = runModel(arguments, "{}");
@@ -189,31 +157,13 @@ TEST(ModelCommand, ReadsStandardInputOnlyOnce) {
   }
 }
 
-TEST(ModelCommand, NamesTheNearestClassForOneThatItDoesNotKnow) {
-  const struct {
-    std::string name;
-    std::string_view nearest;
-  } rows[] = {
-      {"OrvantaPushObjct", "OrvantaPushObject"},
-      {"orvantapushstyle", "OrvantaPushStyle"},
-      {"OrvantaPushObjectActions", "OrvantaPushObjectAction"},
-      {"UserNotificationCategory", "OrvantaUserNotificationCategory"},
-  };
-  for (const auto& row : rows) {
-    const ToolRun run = runModel({row.name}, "{}");
-    EXPECT_EQ(run.exit, ExitCode::usage);
-    EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.err, "orvanta: there is no class \"" + row.name + "\"; the nearest is " +
-                           std::string(row.nearest) + "\n");
-  }
-  EXPECT_NE(runModel({"\x1b[31m"}).err.find(R"("\u001b[31m")"), std::string::npos);
-}
-
-TEST(ModelCommand, AnObjectThatHasNoJsonTextIsNoSuccess) {
-  const ToolRun run = runModel({"OrvantaInAppMessageAction"}, R"({"ttl": "1e999"})");
-  EXPECT_NE(run.exit, ExitCode::done);
+TEST(ModelCommand, NamesTheEntryThatHasNoJsonText) {
+  const ToolRun run = runModel({"OrvantaInAppMessageAction"}, R"({"txt": "a", "ttl": "1e999"})");
+  EXPECT_EQ(run.exit, ExitCode::notMade);
   EXPECT_EQ(run.out, "");
-  EXPECT_EQ(lineCount(run.err), 1U);
+  EXPECT_EQ(run.err,
+            "orvanta: OrvantaInAppMessageAction \"ttl\": a fraction without a JSON text, "
+            "such as an infinite number\n");
 }
 
 }  // namespace

@@ -53,11 +53,9 @@ TEST(Usage, HelpAndVersionGoToStandardOutput) {
   const ToolRun version = runTool({"--version"});
   EXPECT_EQ(version.exit, ExitCode::done);
   EXPECT_EQ(version.out.rfind("orvanta ", 0), 0U) << version.out;
-  EXPECT_EQ(lineCount(version.out), 1U);
 }
 
 TEST(Usage, TheLogLevelDecidesOverTheLogLinesOnStandardError) {
-  const std::string_view refused = R"({"ttl": null})";
   const std::string line =
       "orvanta: OrvantaInAppMessageAction \"ttl\" (timeToLive): null, "
       "but a number is read from numbers and text only\n";
@@ -75,17 +73,37 @@ TEST(Usage, TheLogLevelDecidesOverTheLogLinesOnStandardError) {
       {{"--log-level=-9223372036854775808"}, false},
   };
   for (const auto& row : rows) {
-    std::vector<std::string> arguments{"model", "OrvantaInAppMessageAction"};
-    for (const auto place : {arguments.size(), std::size_t{0}}) {
-      std::vector<std::string> all = arguments;
-      all.insert(all.begin() + static_cast<std::ptrdiff_t>(place), row.level.begin(),
-                 row.level.end());
-      const ToolRun run = runTool(all, refused);
+    for (const std::ptrdiff_t place : {0, 2}) {  // before and behind the command
+      std::vector<std::string> arguments{"model", "OrvantaInAppMessageAction"};
+      arguments.insert(arguments.begin() + place, row.level.begin(), row.level.end());
+      const ToolRun run = runTool(arguments, R"({"ttl": null})");
       EXPECT_EQ(run.exit, ExitCode::notMade);
       EXPECT_EQ(run.out, "");
       EXPECT_TRUE(run.err.ends_with(line)) << run.err;
       EXPECT_EQ(run.err.starts_with(head), row.logs) << run.err;
       EXPECT_EQ(run.err.size() == line.size(), !row.logs) << run.err;
+    }
+  }
+}
+
+TEST(Usage, NamesTheNearestClassForOneThatThereIsNot) {
+  const struct {
+    std::string name;
+    std::string shown;
+    std::string nearest;
+  } rows[] = {
+      {"OrvantaPushObjct", "OrvantaPushObjct", "OrvantaPushObject"},
+      {"orvantapushstyle", "orvantapushstyle", "OrvantaPushStyle"},
+      {"UserNotificationCategory", "UserNotificationCategory", "OrvantaUserNotificationCategory"},
+      {"OrvantaAction\x1b[0m", "OrvantaAction\\u001b[0m", "OrvantaAction"},
+  };
+  for (const auto& row : rows) {
+    for (const char* command : {"model", "schema"}) {
+      const ToolRun run = runTool({command, row.name}, "{}");
+      EXPECT_EQ(run.exit, ExitCode::usage);
+      EXPECT_EQ(run.out, "");
+      EXPECT_EQ(run.err, "orvanta: there is no class \"" + row.shown + "\"; the nearest is " +
+                             row.nearest + "\n");
     }
   }
 }

@@ -1,7 +1,6 @@
 #include "support/ToolRunner.h"
 
-#include <stdlib.h>
-
+#include <cstdlib>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>

@@ -16,7 +16,9 @@ namespace orvanta {
 
 TextPosition TextPosition::of(std::size_t offset, std::string_view text) {
   TextPosition position;
-  for (const char c : text.substr(0, offset)) {
+  text = text.substr(0, offset);
+  if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);  // no character of the text
+  for (const char c : text) {
     if (c == '\n') {
       ++position.line;
       position.column = 1;
@@ -251,7 +253,7 @@ class JSONWriter {
  private:
   template <class Container, class Open>
   bool writeContainer(char first, char last, const Container& container, Open&& open) {
-    if (++depth_ > kJSONDepthLimit) return false;
+    if (++depth_ > style_.depthLimit) return false;
     out_ += first;
     bool more = false;
     for (const auto& item : container) {

@@ -28,10 +28,12 @@ struct JSONStyle {
   bool pretty = false;
   /// "/" is written "\/".
   bool escapeSlashes = true;
+  std::size_t depthLimit = kJSONDepthLimit;
 };
 
 /// Appends the text of a value: only null, numbers, texts, arrays and dictionaries, finite numbers,
-/// at most 512 nested containers. Numbers get the shortest text that reads back as the same number;
+/// nested no deeper than the
+/// limit. Numbers get the shortest text that reads back as the same number;
 /// a float is widened first. False, with part of the text appended, for anything else.
 bool writeJSON(const Value& value, std::string& out, JSONStyle style = {});
 

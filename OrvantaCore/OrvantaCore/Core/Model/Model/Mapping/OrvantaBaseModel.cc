@@ -86,8 +86,8 @@ void OrvantaBaseModel::setKeyPathClassDictionary(Dictionary table) {
                                                          keyPathClassDictionary());
 }
 
-const MappingPlan& OrvantaBaseModel::mappingPlan() const {
-  return ownTables_ && ownTables_->plan ? *ownTables_->plan : isa().plan();
+std::shared_ptr<const MappingPlan> OrvantaBaseModel::ownPlan() const {
+  return ownTables_ ? ownTables_->plan : nullptr;
 }
 
 // ---- Updating -------------------------------------------------------------
@@ -120,6 +120,38 @@ class Lookup {
   Value collected_;
 };
 
+/// Counts the updates of one thread that run inside one another and all that an outermost one has
+/// led to, so that no payload, however its "klazz" entries nest, takes unbounded time or stack.
+class UpdateScope {
+ public:
+  UpdateScope() noexcept {
+    if (depth_ == 0) updates_ = 0;
+    ++depth_;
+    ++updates_;
+  }
+  UpdateScope(const UpdateScope&) = delete;
+  UpdateScope& operator=(const UpdateScope&) = delete;
+  ~UpdateScope() { --depth_; }
+
+  static void check() {
+    if (depth_ > OrvantaBaseModel::kMostNestedModels || updates_ > OrvantaBaseModel::kMostModels) {
+      throw Exception(Exception::kInvalidArgument, "too many models in one dictionary");
+    }
+  }
+
+ private:
+  inline static thread_local std::size_t depth_ = 0;
+  inline static thread_local std::size_t updates_ = 0;
+};
+
+/// A text for the log, which a hostile payload would otherwise fill: nested models that fail each
+/// write the whole of theirs.
+std::string shortened(std::string text) {
+  constexpr std::size_t kLongest = 65536;
+  if (text.size() > kLongest) text.replace(kLongest, std::string::npos, " …");
+  return text;
+}
+
 constexpr LogSite kUpdateFailed{"-[OrvantaBaseModel updateWithDictionary:]", "OrvantaBaseModel",
                                 81};
 
@@ -129,23 +161,30 @@ bool OrvantaBaseModel::updateWithDictionary(const Dictionary* dictionary) {
   if (dictionary == nullptr) return true;
   // Setters may replace what holds the dictionary or the table.
   const Dictionary payload = *dictionary;
-  const auto ownPlan = ownTables_ ? ownTables_->plan : nullptr;
+  const auto ownPlan = this->ownPlan();
+  const MappingPlan& plan = ownPlan != nullptr ? *ownPlan : isa().plan();
   const MappingEntry* current = nullptr;
   const auto refuse = [&](std::string_view error) {
-    if (RefusalRecorder::current() != nullptr && current != nullptr) {
-      recordRefusal(*current, payload);
+    if (RefusalRecorder* recorder = RefusalRecorder::current()) {
+      if (current != nullptr) {
+        recordRefusal(*current, payload);
+      } else {
+        recorder->record(isa(), "", "", "a dictionary", error);
+      }
     }
     if (error.data() != nullptr) {
       logError(kUpdateFailed, [&] {
         return formatted("*** Caught exception deserializing dictionary '%@' to class '%@' : %@",
-                         {describe(payload), isa().name, error});
+                         {shortened(describe(payload)), isa().name, error});
       });
     }
     return false;
   };
+  const UpdateScope scope;
   try {
+    UpdateScope::check();
     Lookup lookup(payload);
-    for (const MappingEntry& entry : mappingPlan().entries) {
+    for (const MappingEntry& entry : plan.entries) {
       current = &entry;
       const Value& found = lookup.find(entry);
       if (!found.isNil() && !apply(entry, found)) return refuse({});
@@ -170,10 +209,14 @@ bool OrvantaBaseModel::apply(const MappingEntry& entry, const Value& found) {
     made = component(*array, entry.model);
     value = &made;
   }
-  if (entry.converter != Converter::none) {
+  const bool isPath = entry.propertyPath.size() > 1;
+  if (entry.converter != Converter::none || isPath) {
     if (value == &found) made = found;
     value = &made;
-    if (!convert(made, entry.converter)) return false;
+    if (!(isPath ? validateValueForKeyPath(made, *entry.propertyName.string())
+                 : convert(made, entry.converter))) {
+      return false;
+    }
   }
   const bool isNil = value->isNil();
   if (entry.property == nullptr) {
@@ -315,17 +358,22 @@ void OrvantaBaseModel::setValueForKeyPath(const Value& value, std::string_view k
 namespace {
 
 /// What stands at a path, or the first value on the way that has no keys.
-Value reachedAt(const Dictionary& dictionary, std::span<const Value> path, std::string& keyless) {
-  Value at = dictionary;
-  for (const Value& name : path) {
-    try {
-      at = valueForKeyPath(at, std::span(&name, 1));
-    } catch (const Exception&) {
-      keyless = std::string("which has no key \"").append(*name.string()).append("\"");
-      return at;
+Value reachedAt(const Value& from, std::span<const Value> path, std::string& keyless) {
+  if (path.empty()) return from;
+  if (const Array* array = from.array()) {
+    for (const Value& element : *array) {
+      const Value reached = reachedAt(element, path, keyless);
+      if (!keyless.empty()) return reached;
     }
   }
-  return at;
+  try {
+    const Value next = valueForKeyPath(from, path.first(1));
+    return from.array() != nullptr ? valueForKeyPath(from, path)
+                                   : reachedAt(next, path.subspan(1), keyless);
+  } catch (const Exception&) {
+    keyless = std::string("which has no key \"").append(*path.front().string()).append("\"");
+    return from;
+  }
 }
 
 std::string_view refusalReason(const MappingEntry& entry) {
@@ -362,6 +410,7 @@ Value OrvantaBaseModel::readByHand(const Dictionary& dictionary, std::span<const
     if (RefusalRecorder* recorder = RefusalRecorder::current()) {
       std::string reason;
       const Value value = reachedAt(dictionary, keyPath, reason);
+      recorder->reset();  // whatever was refused before, this is what ends the update
       recorder->record(isa(), joinedKeyPath(keyPath), property, value.kindName(), reason);
     }
     throw;

@@ -44,11 +44,15 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
 
   // ---- Reading ----
 
+  static constexpr std::size_t kMostNestedModels = 128;
+  static constexpr std::size_t kMostModels = 100'000;
+
   /// For each entry of the merged key table, in its order: looks the key path up, makes models of
   /// nested dictionaries, converts, and assigns. A missing key leaves its property alone.
   ///
   /// Answers NO for a value that a converter refuses and for an undefined key, silently; for any
-  /// other error after an error line in the log. std::bad_alloc passes.
+  /// other error after an error line in the log. std::bad_alloc passes. Models nested deeper than
+  /// kMostNestedModels, or more than kMostModels in all, are such an error.
   bool updateWithDictionary(const Dictionary* dictionary) override;
 
   /// A nested dictionary as a model: of the class declared for the property, else of the one that
@@ -116,7 +120,8 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
   static Value component(const Dictionary& dictionary, const Class* declared);
   static Array component(const Array& array, const Class* declared);
   static bool convert(Value& value, Converter converter);
-  const MappingPlan& mappingPlan() const;
+  /// The plan of tables that were set on this object; empty when the class's own counts.
+  std::shared_ptr<const MappingPlan> ownPlan() const;
   bool apply(const MappingEntry& entry, const Value& found);
   void recordRefusal(const MappingEntry& entry, const Dictionary& dictionary) const;
   Value readForWriting(const MappingEntry& entry) const;

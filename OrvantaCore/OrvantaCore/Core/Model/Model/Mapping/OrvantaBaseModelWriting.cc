@@ -20,7 +20,8 @@ Value OrvantaBaseModel::readForWriting(const MappingEntry& entry) const {
 
 Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
   const std::lock_guard guard(writeLock_);
-  const MappingPlan& plan = mappingPlan();
+  const auto ownPlan = this->ownPlan();  // a getter may replace the tables
+  const MappingPlan& plan = ownPlan != nullptr ? *ownPlan : isa().plan();
   Dictionary result;
   result.reserve(plan.entries.size() + (classInfo ? 1 : 0));
   for (const MappingEntry& entry : plan.entries) {
@@ -32,7 +33,7 @@ Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
     } else if (isUnsetInteger(value)) {
       continue;
     }
-    if (value.isNil() || !convert(value, entry.converter)) continue;
+    if (value.isNil() || !convert(value, entry.converter) || value.isNil()) continue;
     result.append(entry.key, std::move(value));
   }
   if (classInfo) result.set("klazz", isa().name);

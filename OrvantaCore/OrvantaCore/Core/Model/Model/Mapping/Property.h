@@ -202,7 +202,6 @@ struct Reflect {
     Property property;
     std::string_view key;
     const Class* model;
-    bool declares;  // false: only a further key for a property that an ancestor declares
   };
 
   template <std::size_t kProperties, std::size_t kKeys, std::size_t kClasses>
@@ -212,53 +211,57 @@ struct Reflect {
     std::array<ClassEntry, kClasses> classes{};
   };
 
-  template <class M>
-  static consteval auto rows() {
-    constexpr auto isDeclared = []<int... L>(std::integer_sequence<int, L...>) {
-      return std::array<bool, kMostLines>{requires {M::declared(Line<L>{});
-    }
-    ...
+  template <class M, int kLine>
+  static constexpr bool kDeclares = requires {
+    M::declared(Line<kLine>{});
   };
-}(std::make_integer_sequence<int, kMostLines>{});
-constexpr auto lines = [](std::array<bool, kMostLines> declared) {
-  std::array<int, kMostLines + 1> found{};  // the count stands last
-  for (int line = 0; line < kMostLines; ++line) {
-    if (declared[static_cast<std::size_t>(line)]) {
-      found[static_cast<std::size_t>(found[kMostLines]++)] = line;
-    }
-  }
-  return found;
-}(isDeclared);
-return [&]<std::size_t... I>(std::index_sequence<I...>) {
-  return std::array<Row, sizeof...(I)>{M::declared(Line<lines[I]>{})...};
-}
-(std::make_index_sequence<static_cast<std::size_t>(lines[kMostLines])>{});
-}  // namespace orvanta
 
-template <class M>
-static consteval auto tables() {
-  constexpr auto declared = rows<M>();
-  constexpr auto count = [](auto&& wanted) {
-    std::size_t n = 0;
-    for (const Row& row : rows<M>()) n += wanted(row) ? 1 : 0;
-    return n;
-  };
-  Tables<count([](const Row& row) { return row.declares; }),
-         count([](const Row& row) { return !row.key.empty(); }),
-         count([](const Row& row) { return row.model != nullptr; })>
-      tables;
-  std::size_t property = 0;
-  std::size_t key = 0;
-  std::size_t model = 0;
-  for (const Row& row : declared) {
-    if (row.declares) tables.properties[property++] = row.property;
-    if (!row.key.empty()) tables.keys[key++] = {row.key, row.property.name};
-    if (row.model != nullptr) tables.classes[model++] = {row.property.name, row.model};
+  template <class M, int... kLine>
+  static consteval auto declaringLines(std::integer_sequence<int, kLine...> /*all*/) {
+    constexpr std::size_t kCount = (std::size_t{0} + ... + (kDeclares<M, kLine> ? 1 : 0));
+    std::array<int, kCount> lines{};
+    std::size_t found = 0;
+    for (const auto& [line, declares] : {std::pair{kLine, kDeclares<M, kLine>}...}) {
+      if (declares) lines[found++] = line;
+    }
+    return lines;
   }
-  return tables;
-}
-}
-;
+
+  template <class M>
+  static constexpr auto kLines = declaringLines<M>(std::make_integer_sequence<int, kMostLines>());
+
+  template <class M, std::size_t... kIndex>
+  static consteval auto rows(std::index_sequence<kIndex...> /*all*/) {
+    return std::array<Row, sizeof...(kIndex)>{M::declared(Line<kLines<M>[kIndex]> {})...};
+  }
+
+  template <class M>
+  static constexpr auto kRows = rows<M>(std::make_index_sequence<kLines<M>.size()>());
+
+  static constexpr bool hasKey(const Row& row) { return !row.key.empty(); }
+  static constexpr bool hasModel(const Row& row) { return row.model != nullptr; }
+
+  template <class M>
+  static consteval std::size_t count(bool (*wanted)(const Row&)) {
+    std::size_t number = 0;
+    for (const Row& row : kRows<M>) number += wanted(row) ? 1 : 0;
+    return number;
+  }
+
+  template <class M>
+  static consteval auto tables() {
+    Tables<kRows<M>.size(), count<M>(hasKey), count<M>(hasModel)> tables;
+    std::size_t property = 0;
+    std::size_t key = 0;
+    std::size_t model = 0;
+    for (const Row& row : kRows<M>) {
+      tables.properties[property++] = row.property;
+      if (hasKey(row)) tables.keys[key++] = {row.key, row.property.name};
+      if (hasModel(row)) tables.classes[model++] = {row.property.name, row.model};
+    }
+    return tables;
+  }
+};
 
 /// Opens the body of a model class.
 #define ORVANTA_MODEL(Self_, Super_)                                             \
@@ -294,7 +297,7 @@ static consteval auto tables() {
 #define ORVANTA_ROW_(key_, name_, model_, ...)                                         \
   static consteval Reflect::Row declared(Line<__LINE__ - kFirstLine>) {                \
     static_assert(__LINE__ - kFirstLine < Reflect::kMostLines, "class body too long"); \
-    return {__VA_ARGS__, key_, model_, true};                                          \
+    return {__VA_ARGS__, key_, model_};                                                \
   }
 
 #define ORVANTA_STORED_(key_, ownership_, type_, name_, readOnly_, get_, set_, ...)              \

@@ -8,8 +8,9 @@ std::string Refusal::description() const {
   std::string text;
   for (const Step& step : steps) {
     if (!text.empty()) text += " > ";
-    text.append(step.cls->name).append(" \"").append(step.keyPath).append("\"");
-    text.append(" (").append(step.property).append(")");
+    text.append(step.cls->name);
+    if (step.keyPath.empty()) continue;
+    text.append(" \"").append(step.keyPath).append("\" (").append(step.property).append(")");
   }
   return text.append(": ").append(kind).append(", ").append(reason);
 }

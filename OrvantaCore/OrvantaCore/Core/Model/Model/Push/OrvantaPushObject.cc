@@ -16,13 +16,12 @@ bool OrvantaPushObject::updateWithDictionary(const Dictionary* dictionary) {
   };
   alert_ = make<OrvantaPushObjectAlert>(&OrvantaPushObjectAlert::initWithValue,
                                         read(kAlertPath, "alert"));
-  action_ = make<OrvantaPushObjectAction>(&OrvantaPushObjectAction::initWithValue,
-                                          read(kActionPath, "action"));
-  if (auto* action = action_.get()) {
-    action->setDeeplinkURLAsURL();
-  } else if (alert_) {
-    RefusalRecorder::forget();  // the action's, which does not matter
+  const Value clickAction = read(kActionPath, "action");
+  {
+    const RefusalRecorder ignored;  // an action that cannot be made does not matter
+    action_ = make<OrvantaPushObjectAction>(&OrvantaPushObjectAction::initWithValue, clickAction);
   }
+  if (auto* action = action_.get()) action->setDeeplinkURLAsURL();
 
   bool updated = false;
   if (alert_) {

@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "Platform/Linux/HostBundle.h"
+#include "support/TemporaryFolder.h"
+
+namespace orvanta::testing {
+namespace {
+
+/// What the bundle says to a key; what it throws, without the folder's path.
+std::string localized(std::string_view strings, std::string_view key) {
+  const TemporaryFolder folder;
+  folder.write("Localizable.strings", strings);
+  try {
+    return HostBundle(folder.path()).localizedStringForKey(key);
+  } catch (const std::runtime_error& error) {
+    const std::string what = error.what();
+    const std::string path = folder.path().string() + "/";
+    return what.starts_with(path) ? what.substr(path.size()) : "no path: " + what;
+  }
+}
+
+TEST(HostBundle, FindsTextsAndAnswersWithTheKeyOtherwise) {
+  constexpr std::string_view kStrings =
+      "\xEF\xBB\xBF/* Actions; \"not\" = \"this\"; */\n"
+      "\"yes\" = \"Ja // nicht /* doch */\"; // \"yes\" = \"late\";\r\n"
+      "\"yes\"=\"zweites\";\n"
+      "bare_key.1 = bare-value;no=\"Nein\";\n"
+      "\"empty\" /* here */ = // and there\n \"\" ;\n"
+      "\"lines\" = \"one\ntwo\";\n"
+      "\"esc\" = \"\\\"\\\\\\n\\t\\r\\'\";\n"
+      "\"\\U0041\" = \"\\U00e4\\U20AC\\Ud83e\\UdD8B|\\Ud83E\\UDD8B\";\n"
+      "\"\xC3\xA4\" = \"\xF0\x9F\xA6\x8B\";";
+  const struct {
+    std::string_view key;
+    std::string_view text;
+  } cases[] = {
+      {"yes", "Ja // nicht /* doch */"},
+      {"bare_key.1", "bare-value"},
+      {"no", "Nein"},
+      {"empty", ""},
+      {"lines", "one\ntwo"},
+      {"\xC3\xA4", "\xF0\x9F\xA6\x8B"},
+      {"not", "not"},
+      {"", ""},
+      {"YES", "YES"},
+  };
+  for (const auto& [key, text] : cases) EXPECT_EQ(localized(kStrings, key), text);
+  EXPECT_EQ(localized(kStrings, "esc"), "\"\\\n\t\r'");
+  EXPECT_EQ(localized(kStrings, "A"), "ä€🦋|🦋");
+  EXPECT_EQ(localized("", "k"), "k");
+  EXPECT_EQ(localized(" // only", "k"), "k");
+}
+
+TEST(HostBundle, NamesFileAndLineOfWhatItCannotRead) {
+  const struct {
+    std::string_view strings;
+    std::string_view error;
+  } cases[] = {
+      {"\"a\" = \"b\"", "1: expected \";\""},
+      {"\"a\" = \"b\";\n\"c\" \"d\";", "2: expected \"=\""},
+      {"\n\n= \"b\";", "3: expected a key"},
+      {"a = ;", "1: expected a text"},
+      {"a = {};", "1: expected a text"},
+      {"a = b;;", "1: expected a key"},
+      {"a =\n\"b;\n\n", "2: a text without closing quote"},
+      {"a = \"\\\"", "1: a text without closing quote"},
+      {"a = \"\\", "1: an unknown escape"},
+      {"a = b;\n/* c", "2: a comment without end"},
+      {"/*/", "1: a comment without end"},
+      {"a = \"\n\\q\";", "2: an unknown escape"},
+      {"a = \"\\U12g4\";", "1: \\U without four hex digits"},
+      {"a = \"\\U12", "1: \\U without four hex digits"},
+      {"a = \"\\Ud83e\";", "1: half a surrogate pair"},
+      {"a = \"\\Udd8b\\Ud83e\";", "1: half a surrogate pair"},
+      {"a = \"\\Ud83e\\U0041\";", "1: half a surrogate pair"},
+      {"a = b;\nc = \"\xFF\";", "2: not UTF-8"},
+      {"\xFF\xFE", "1: not UTF-8"},
+      {"\xC3", "1: not UTF-8"},
+      {"\xC0\xAF", "1: not UTF-8"},
+      {"\xE0\x9F\xBF", "1: not UTF-8"},
+      {"\xED\xA0\x80", "1: not UTF-8"},
+      {"\xF4\x90\x80\x80", "1: not UTF-8"},
+  };
+  for (const auto& [strings, error] : cases) {
+    EXPECT_EQ(localized(strings, "a"), "Localizable.strings:" + std::string(error)) << strings;
+  }
+}
+
+TEST(HostBundle, AFolderWithoutStringsHasNoTexts) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(HostBundle(folder.path()).localizedStringForKey("key"), "key");
+  EXPECT_EQ(HostBundle(folder / "missing").localizedStringForKey("key"), "key");
+  EXPECT_EQ(HostBundle("").localizedStringForKey("key"), "key");
+  std::filesystem::create_directory(folder / "Localizable.strings");
+  EXPECT_THROW(HostBundle{folder.path()}, std::runtime_error);
+}
+
+}  // namespace
+}  // namespace orvanta::testing

@@ -1,0 +1,145 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "Platform/Interface/Images.h"
+#include "Platform/Interface/Intents.h"
+#include "Platform/Interface/NSBundle.h"
+#include "Platform/Interface/NSFileManager.h"
+#include "Platform/Interface/NSURLSession.h"
+#include "Platform/Interface/Platform.h"
+#include "Platform/Interface/TypeIdentifiers.h"
+
+namespace orvanta::testing {
+
+/// A platform in memory. Its services keep their callbacks waiting until the test runs them, in
+/// whatever order; the members say what there is, what goes wrong, and what was done. While it
+/// lives it is the platform of the thread that made it.
+class FakePlatform final : public Platform,
+                           private Clock,
+                           private SystemLog,
+                           private NSURLSession,
+                           private NSFileManager,
+                           private TypeIdentifiers,
+                           private UNNotificationAttachmentFactory,
+                           private Images,
+                           private Intents,
+                           private NSBundle {
+ public:
+  class Center final : public UNUserNotificationCenter {
+   public:
+    explicit Center(FakePlatform& platform) : platform_(platform) {}
+    void getNotificationCategories(CategoriesCompletion completion) override;
+    void setNotificationCategories(const UNNotificationCategorySet& categories) override;
+
+    UNNotificationCategorySet registered;
+    std::vector<UNNotificationCategorySet> written;
+
+   private:
+    FakePlatform& platform_;
+  };
+
+  /// What every download ends with: the error if there is one, else the file. The response has the
+  /// URL that was asked for.
+  struct Download {
+    std::string name = "CFNetworkDownload_abc123.tmp";
+    std::uint64_t bytes = 1000;
+    NSURLResponse::Parts response{Url::fileURLWithPath("/"), "image/jpeg", 200, {}};
+    bool hasResponse = true;
+    Ref<NSError> error;
+  };
+
+  // ---- What waits ----
+
+  /// The names of the callbacks in the order of their calls: "categories", "download", "donation".
+  std::vector<std::string> pending() const;
+  void run(std::size_t index);
+  void runNext() { run(0); }
+  /// Runs until nothing waits.
+  void runAll();
+
+  // ---- What there is, and what goes wrong ----
+
+  /// Services that the platform does without: "log", "clock", "center", "session", "files",
+  /// "types", "attachments", "images", "intents", "bundle".
+  std::set<std::string, std::less<>> absent;
+  OperatingSystemVersion version{17, 0, 0};
+  std::int64_t now = 0;
+  std::shared_ptr<Center> center = std::make_shared<Center>(*this);
+  std::map<std::string, std::uint64_t> files;  // sizes of the files by their paths
+  std::vector<std::string> cachesFolders{"/library/", "/caches/"};
+  std::string lockedFolder;  // of a path that begins with it nothing may be written
+  Download download;
+  std::set<std::string> pictures{"star.png"};
+  bool encodes = true;
+  std::map<std::string, std::string, std::less<>> texts;
+  Ref<NSError> attachmentError;
+  Ref<NSError> donationError;
+  Ref<NSError> updateError;
+
+  // ---- What was done ----
+
+  /// "read", "write", "download URL", "move NAME", "attach TYPE", "image NAME", "encode QUALITY",
+  /// "donate", "update", and what a test adds.
+  std::vector<std::string> calls;
+  std::vector<INInteraction> donated;
+  std::vector<std::string> log;
+
+  SystemLog* systemLog() override { return present<SystemLog>("log"); }
+  Clock* clock() override { return present<Clock>("clock"); }
+  std::shared_ptr<UNUserNotificationCenter> currentNotificationCenter() override {
+    return absent.contains("center") ? nullptr : center;
+  }
+  NSURLSession* sharedSession() override { return present<NSURLSession>("session"); }
+  NSFileManager* defaultManager() override { return present<NSFileManager>("files"); }
+  TypeIdentifiers* typeIdentifiers() override { return present<TypeIdentifiers>("types"); }
+  UNNotificationAttachmentFactory* attachments() override {
+    return present<UNNotificationAttachmentFactory>("attachments");
+  }
+  Images* images() override { return present<Images>("images"); }
+  Intents* intents() override { return present<Intents>("intents"); }
+  NSBundle* mainBundle() override { return present<NSBundle>("bundle"); }
+  OperatingSystemVersion operatingSystemVersion() override { return version; }
+
+ private:
+  template <class Service>
+  Service* present(std::string_view name) {
+    return absent.contains(name) ? nullptr : this;
+  }
+  void wait(std::string name, std::function<void()> callback) {
+    pending_.emplace_back(std::move(name), std::move(callback));
+  }
+
+  std::int64_t wallNanoseconds() override { return now; }
+  std::int64_t monotonicNanoseconds() override { return now; }
+  void write(std::string_view entry) noexcept override;
+  void downloadTaskWithURL(const std::optional<Url>& url,
+                           DownloadCompletion completionHandler) override;
+  std::vector<Url> URLsForCachesDirectory() override;
+  Ref<NSError> moveItemAtURL(const Url& source, const Url& destination) override;
+  std::optional<std::string> preferredIdentifierForMIMEType(
+      const std::optional<std::string>& type) override;
+  UNNotificationAttachmentFactory::Result attachmentWithIdentifier(
+      const std::string& identifier, const Url& url,
+      const std::optional<std::string>& typeHint) override;
+  Ref<UIImage> imageNamed(std::string_view name) override;
+  std::optional<std::string> JPEGRepresentation(const Ref<UIImage>& image,
+                                                double compressionQuality) override;
+  void donateInteraction(const INInteraction& interaction, ErrorCompletion completion) override;
+  Intents::Update contentByUpdating(const UNNotificationContent& content,
+                                    const INSendMessageIntent& provider) override;
+  std::string localizedStringForKey(std::string_view key) override;
+
+  std::vector<std::pair<std::string, std::function<void()>>> pending_;
+  std::mutex logLock_;
+  PlatformOverride override_{*this};
+};
+
+}  // namespace orvanta::testing
