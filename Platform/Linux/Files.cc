@@ -147,7 +147,7 @@ Ref<NSError> schemeError(int code, std::string_view verb, const Url& url) {
 
 }  // namespace
 
-HostFileManager::HostFileManager(fs::path cachesFolder)
+HostFileManager::HostFileManager(const fs::path& cachesFolder)
     : cachesFolder_(fs::absolute(cachesFolder).lexically_normal()) {
   fs::create_directories(cachesFolder_);
 }

@@ -12,7 +12,7 @@ namespace orvanta {
 class HostFileManager final : public NSFileManager {
  public:
   /// Makes the folder when it is missing; throws std::filesystem::filesystem_error.
-  explicit HostFileManager(std::filesystem::path cachesFolder);
+  explicit HostFileManager(const std::filesystem::path& cachesFolder);
 
   std::vector<Url> URLsForCachesDirectory() override;
   Ref<NSError> moveItemAtURL(const Url& source, const Url& destination) override;

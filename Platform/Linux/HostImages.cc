@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cmath>
 #include <cstdarg>
 #include <cstdint>
 #include <memory>
@@ -270,10 +271,11 @@ Ref<UIImage> HostImages::imageNamed(std::string_view name) {
 
   const auto dot = name.rfind('.');
   const bool hasExtension = dot != std::string_view::npos && dot != 0 && dot + 1 != name.size();
-  const std::string stem(hasExtension ? name.substr(0, dot) : name);
-  const std::string extension(hasExtension ? name.substr(dot) : ".png");
+  const std::string_view stem = hasExtension ? name.substr(0, dot) : name;
+  const std::string_view extension = hasExtension ? name.substr(dot) : ".png";
   for (const char* const scale : {"@3x", "@2x", ""}) {
-    if (Picture picture = decoded(content(resources_, stem + scale + extension))) {
+    if (Picture picture =
+            decoded(content(resources_, std::string(stem).append(scale).append(extension)))) {
       return asImage(std::move(picture));
     }
   }
@@ -287,7 +289,8 @@ std::optional<std::string> HostImages::JPEGRepresentation(const Ref<UIImage>& im
   const double quality = compressionQuality >= 0 ? std::min(compressionQuality, 1.0) : 0;
   int size = 0;
   const std::unique_ptr<void, void (*)(void*)> bytes(
-      gdImageJpegPtr(hostImage->picture(), &size, static_cast<int>(quality * 100 + 0.5)), gdFree);
+      gdImageJpegPtr(hostImage->picture(), &size, static_cast<int>(std::lround(quality * 100))),
+      gdFree);
   if (!bytes) return std::nullopt;
   return std::string(static_cast<const char*>(bytes.get()), static_cast<std::size_t>(size));
 }

@@ -47,7 +47,7 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
       "a dictionary.",
       "orvanta");
   app.footer(kFooter);
-  app.require_subcommand(1);
+  app.require_subcommand(0, 1);
   app.fallthrough();
   app.set_version_flag("--version", "orvanta 0.1.0");
   std::int64_t logLevel = OrvantaLogger::logLevel();
@@ -131,6 +131,9 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
   } catch (const CLI::ParseError& error) {
     const int code = app.exit(error, streams.out, streams.err);
     return code == 0 ? ExitCode::done : ExitCode::usage;
+  }
+  if (app.get_subcommands().empty()) {
+    throw Failure(ExitCode::usage, "a command is needed: notify, model or schema; see --help");
   }
   OrvantaLogger::setLogLevel(logLevel);
   if (*notifyCommand) return notify(notifyOptions, streams);

@@ -2,7 +2,7 @@
 # The Debian packages the project needs, and the function that installs those still missing.
 
 # shellcheck disable=SC2034  # read by the scripts that source this file
-run_packages=(g++ cmake ninja-build libcli11-dev libcurl4-openssl-dev libgd-dev libpng-dev)
+run_packages=(ca-certificates g++ cmake ninja-build libcli11-dev libcurl4-openssl-dev libgd-dev libpng-dev)
 # shellcheck disable=SC2034
 test_packages=(libgtest-dev libbenchmark-dev libcpp-httplib-dev)
 # shellcheck disable=SC2034

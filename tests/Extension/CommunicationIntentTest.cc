@@ -35,9 +35,17 @@ TEST_F(CommunicationIntent, CallsBackAsTheStepsEnd) {
       {[](FakePlatform&) {}, "image star, encode 1, donate, update, deliver sender"},
       {[](FakePlatform& p) { p.pictures.clear(); }, "image star, deliver"},
       {[](FakePlatform& p) { p.encodes = false; }, "image star, encode 1, deliver"},
-      {[](FakePlatform& p) { p.version = {10, 0, 0}; }, "image star, encode 1, deliver"},
-      {[](FakePlatform& p) { p.version = {14, 99, 9}; }, "image star, encode 1, deliver"},
-      {[](FakePlatform& p) { p.version = {15, 0, 0}; },
+      {[](FakePlatform& p) {
+         p.version = {10, 0, 0};
+       },
+       "image star, encode 1, deliver"},
+      {[](FakePlatform& p) {
+         p.version = {14, 99, 9};
+       },
+       "image star, encode 1, deliver"},
+      {[](FakePlatform& p) {
+         p.version = {15, 0, 0};
+       },
        "image star, encode 1, donate, update, deliver sender"},
       {[](FakePlatform& p) { p.donationError = error("D", 1900); },
        "image star, encode 1, donate, complete 1900"},
@@ -117,10 +125,10 @@ TEST_F(CommunicationIntent, UpdatesTheContentAsItIsAfterTheDonation) {
 }
 
 TEST_F(CommunicationIntent, LogsErrors) {
-  const std::string donation = logEntry(
-      "❗", kSelector, 149,
-      "Donate Interaction error: Error Domain=IntentsErrorDomain Code=1900 \"Not now.\" "
-      "UserInfo={NSLocalizedDescription=Not now.}");
+  const std::string donation =
+      logEntry("❗", kSelector, 149,
+               "Donate Interaction error: Error Domain=IntentsErrorDomain Code=1900 \"Not now.\" "
+               "UserInfo={NSLocalizedDescription=Not now.}");
   const std::string update =
       logEntry("❗", kSelector, 157,
                "Update Notification Error: Error Domain=UNErrorDomain Code=1501 \"(null)\"");

@@ -32,8 +32,10 @@ class ExtensionRun {
   FakePlatform platform;
   std::shared_ptr<OrvantaNotificationServiceExtension> extension =
       std::make_shared<OrvantaNotificationServiceExtension>();
-  UNNotificationContent original{.title = "Ana"};  // of requests, but for the payload
+  UNNotificationContent original;  // of requests, but for the payload
   std::vector<Content> delivered;
+
+  ExtensionRun() { original.title = "Ana"; }
 
   /// Hands a request over and returns its content.
   Content receive(std::string_view payload) { return receive(payload, handler()); }

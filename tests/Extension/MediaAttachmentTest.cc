@@ -23,7 +23,7 @@ class MediaAttachment : public ::testing::Test, protected ExtensionRun {
     extension->bestAttemptContent()->userInfo = dictionaryOf(kPayload);
     for (const char* const name : {"one", "two"}) {
       content_->attachments.push_back(UNNotificationAttachment::attachmentWithParts(
-          {.identifier = name, .url = Url::fileURLWithPath("/present"), .type = "", .family = ""}));
+          {name, Url::fileURLWithPath("/present"), std::nullopt, "public.png", "Image", 1}));
     }
   }
   void downloadAndSet() {
@@ -46,8 +46,8 @@ TEST_F(MediaAttachment, BecomesTheOnlyAttachment) {
   EXPECT_EQ(parts.identifier, "attachment");
   EXPECT_EQ(parts.url.absoluteString(), "file:///caches/CFNetworkDownload_abc123.tmp");
   EXPECT_EQ(parts.typeHint, "public.jpeg");
-  EXPECT_EQ(platform.files, (std::map<std::string, std::uint64_t>{
-                                {"/caches/CFNetworkDownload_abc123.tmp", 1000}}));
+  EXPECT_EQ(platform.files,
+            (std::map<std::string, std::uint64_t>{{"/caches/CFNetworkDownload_abc123.tmp", 1000}}));
   EXPECT_TRUE(extension->bestAttemptContent()->attachments.empty());
 }
 
@@ -64,7 +64,9 @@ TEST_F(MediaAttachment, AnyFailureCompletesWithItsErrorAndLeavesTheContent) {
        "complete 516"},
       {[](FakePlatform& p) { p.download.bytes = 10'000'001; }, "complete 102"},
       {[](FakePlatform& p) { p.download.response.mimeType = "text/plain"; }, "complete 101"},
-      {[](FakePlatform& p) { p.absent = {"session", "files", "types", "attachments"}; },
+      {[](FakePlatform& p) {
+         p.absent = {"session", "files", "types", "attachments"};
+       },
        "complete -1002"},
   };
   for (const auto& row : rows) {

@@ -164,12 +164,12 @@ TEST(NotificationHelper, ANewCategoryReplacesOneOfItsIdentifierAndTheOthersStay)
 }
 
 TEST(NotificationHelper, CompletesWithTrueAfterTheRegistration) {
-  for (const auto& operation : {&NotificationHelper::setNotificationCategories,
-                                &NotificationHelper::requestNotificationAuthorizationForCategories}) {
+  for (const auto& operation :
+       {&NotificationHelper::setNotificationCategories,
+        &NotificationHelper::requestNotificationAuthorizationForCategories}) {
     FakePlatform platform;
-    operation({}, platform.center, [&](bool flag) {
-      platform.calls.emplace_back(flag ? "complete" : "fail");
-    });
+    operation({}, platform.center,
+              [&](bool flag) { platform.calls.emplace_back(flag ? "complete" : "fail"); });
     EXPECT_EQ(platform.calls, std::vector<std::string>{"read"});
     platform.runAll();
     EXPECT_EQ(platform.calls, (std::vector<std::string>{"read", "write", "complete"}));

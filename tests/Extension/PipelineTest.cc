@@ -44,9 +44,7 @@ TEST(Pipeline, TakesEveryStepInOrderAndDeliversWhateverGoesWrong) {
       {{kButtons, kMedia}, asItIs, registered + attached + "deliver media"},
       {{kButtons, kIcon}, asItIs, registered + updated + "deliver sender"},
       {{kMedia, kIcon}, asItIs, attached + updated + "deliver media sender"},
-      {{kButtons, kMedia, kIcon},
-       asItIs,
-       registered + attached + updated + "deliver media sender"},
+      {{kButtons, kMedia, kIcon}, asItIs, registered + attached + updated + "deliver media sender"},
       {{kMedia}, noDownload, downloaded + "deliver"},
       {{kMedia}, noMove, moved + "deliver"},
       {{kMedia}, noAttachment, attached + "deliver"},
@@ -222,8 +220,7 @@ TEST(Pipeline, WhatIsDoneAtAllIsDecidedByThePayloadAsItCame) {
 // ---- Expiry ----------------------------------------------------------------
 
 TEST(Pipeline, ExpiryDeliversWhatThereIsAndPendingStepsDeliverOnceMore) {
-  const std::string steps[] = {"read",
-                               "write, download https://m.example/a",
+  const std::string steps[] = {"read", "write, download https://m.example/a",
                                "move CFNetworkDownload_abc123.tmp, attach public.jpeg, image star, "
                                "encode 1, donate",
                                "update, deliver media sender"};

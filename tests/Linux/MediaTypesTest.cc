@@ -90,7 +90,7 @@ class Attachments : public ::testing::Test {
     return attachment->parts().family + ", " + attachment->parts().type;
   }
   Url ofSize(std::string_view name, std::uintmax_t size) {
-    const Url url = folder_.write(name, "");
+    Url url = folder_.write(name, "");
     fs::resize_file(folder_ / name, size);  // sparse
     return url;
   }

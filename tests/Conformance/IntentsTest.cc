@@ -1,0 +1,71 @@
+#include "Conformance/Subjects.h"
+#include "Platform/Linux/HostServices.h"
+
+namespace orvanta::testing {
+namespace {
+
+struct HostIntentsSubject : HostSubject {
+  explicit HostIntentsSubject(bool fails)
+      : service(loop, timeline, folder.path(), {.donationFails = fails, .updateFails = fails}) {}
+  HostIntents service;
+};
+struct DoubleIntentsSubject : DoubleSubject {
+  explicit DoubleIntentsSubject(bool fails) : service(*platform.intents()) {
+    if (!fails) return;
+    platform.donationError = NSError::errorWithDomain("IntentsErrorDomain", 1900);
+    platform.updateError = NSError::errorWithDomain("UNErrorDomain", 1501);
+  }
+  Intents& service;
+};
+
+template <class Subject>
+class IntentsConformance : public ::testing::Test {};
+using IntentsSubjects = ::testing::Types<HostIntentsSubject, DoubleIntentsSubject>;
+TYPED_TEST_SUITE(IntentsConformance, IntentsSubjects, SubjectNames);
+
+TYPED_TEST(IntentsConformance, ADonationIsAnsweredOnceAndAfterTheCall) {
+  for (const bool fails : {false, true}) {
+    TypeParam subject(fails);
+    std::vector<Ref<NSError>> answers;
+    subject.service.donateInteraction({}, [&](const Ref<NSError>& e) { answers.push_back(e); });
+    EXPECT_TRUE(answers.empty());
+    subject.runAll();
+    subject.runAll();
+    ASSERT_EQ(answers.size(), 1U);
+    ASSERT_EQ(answers[0] != nullptr, fails);
+    if (fails) {
+      EXPECT_EQ(answers[0]->domain(), "IntentsErrorDomain");
+    }
+  }
+}
+
+TYPED_TEST(IntentsConformance, AnUpdateMakesANewContentAndChangesNothingElse) {
+  TypeParam subject(false);
+  UNNotificationContent content;
+  content.title = "Ana";
+  content.userInfo = {{"k", 1}};
+  content.categoryIdentifier = "c";
+  INSendMessageIntent intent;
+  intent.sender = {.personHandle = {.value = "Ana"}, .image = INImage{"jpeg"}};
+  intent.speakableGroupName = INSpeakableString{"Friends"};
+  const auto [updated, error] = subject.service.contentByUpdating(content, intent);
+  EXPECT_FALSE(error);
+  ASSERT_TRUE(updated);
+  EXPECT_NE(updated.get(), &content);
+  EXPECT_FALSE(content.communication);
+  EXPECT_EQ(updated->communication, (UNCommunication{"Ana", true, "Friends", false}));
+  EXPECT_EQ(updated->title, "Ana");
+  EXPECT_EQ(Value(updated->userInfo), Value(content.userInfo));
+  EXPECT_EQ(updated->categoryIdentifier, "c");
+}
+
+TYPED_TEST(IntentsConformance, AFailingUpdateHasAnErrorAndNoContent) {
+  TypeParam subject(true);
+  const auto [updated, error] = subject.service.contentByUpdating({}, {});
+  EXPECT_FALSE(updated);
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->domain(), "UNErrorDomain");
+}
+
+}  // namespace
+}  // namespace orvanta::testing

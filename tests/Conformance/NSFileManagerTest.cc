@@ -1,0 +1,96 @@
+#include <unistd.h>
+
+#include "Conformance/Subjects.h"
+#include "Platform/Linux/Files.h"
+
+namespace orvanta::testing {
+namespace {
+
+struct HostFiles : HostSubject {
+  void add(const std::string& name, const std::string& content) { folder.write(name, content); }
+  Url url(const std::string& name) const { return folder.url(name); }
+  std::string content(const std::string& name) const { return folder.read(name); }
+  /// As somebody who may not write there; false if there is no such user.
+  bool withoutPermission(const std::function<void()>& work) {
+    std::filesystem::permissions(folder.path(), std::filesystem::perms{0555});
+    constexpr uid_t kNobody = 65534;
+    const bool isRoot = ::geteuid() == 0;
+    if (isRoot && ::seteuid(kNobody) != 0) return false;
+    work();
+    return !isRoot || ::seteuid(0) == 0;
+  }
+  HostFileManager service{folder / "Caches"};
+};
+struct DoubleFiles : DoubleSubject {
+  void add(const std::string& name, const std::string& content) {
+    platform.files["/" + name] = content.size();
+  }
+  Url url(const std::string& name) const { return Url::fileURLWithPath("/" + name); }
+  std::string content(const std::string& name) const {
+    const auto found = platform.files.find("/" + name);
+    return std::string(found == platform.files.end() ? 0 : found->second, 'x');
+  }
+  bool withoutPermission(const std::function<void()>& work) {
+    platform.lockedFolder = "/";
+    work();
+    return true;
+  }
+  NSFileManager& service = *platform.defaultManager();
+};
+
+template <class Subject>
+class NSFileManagerConformance : public ::testing::Test {
+ protected:
+  /// "domain code, POSIX code" of a move, or "moved".
+  std::string move(const std::string& from, const std::string& to) {
+    const auto error = subject.service.moveItemAtURL(subject.url(from), subject.url(to));
+    if (!error) return "moved";
+    const auto* posix = error->userInfo()[NSError::kUnderlyingError].template as<NSError>();
+    EXPECT_TRUE(posix != nullptr && posix->domain() == "NSPOSIXErrorDomain");
+    return error->domain() + " " + std::to_string(error->code()) + ", " +
+           std::to_string(posix == nullptr ? 0 : posix->code());
+  }
+  Subject subject;
+};
+using FileManagers = ::testing::Types<HostFiles, DoubleFiles>;
+TYPED_TEST_SUITE(NSFileManagerConformance, FileManagers, SubjectNames);
+
+TYPED_TEST(NSFileManagerConformance, TheCachesFoldersAreFileURLsThatEndInASlash) {
+  const auto urls = this->subject.service.URLsForCachesDirectory();
+  EXPECT_FALSE(urls.empty());
+  for (const Url& url : urls) {
+    EXPECT_TRUE(url.isFileURL()) << url.absoluteString();
+    EXPECT_TRUE(url.absoluteString().ends_with("/")) << url.absoluteString();
+  }
+}
+
+TYPED_TEST(NSFileManagerConformance, MovesAFile) {
+  this->subject.add("a b", "xxx");
+  EXPECT_EQ(this->move("a b", "ä"), "moved");
+  EXPECT_EQ(this->subject.content("a b"), "");
+  EXPECT_EQ(this->subject.content("ä"), "xxx");
+}
+
+TYPED_TEST(NSFileManagerConformance, NeverOverwrites) {
+  this->subject.add("a", "xxx");
+  this->subject.add("b", "x");
+  EXPECT_EQ(this->move("a", "b"), "NSCocoaErrorDomain 516, 17");
+  EXPECT_EQ(this->subject.content("a"), "xxx");
+  EXPECT_EQ(this->subject.content("b"), "x");
+}
+
+TYPED_TEST(NSFileManagerConformance, AMissingSourceIsAnError) {
+  EXPECT_EQ(this->move("a", "b"), "NSCocoaErrorDomain 4, 2");
+}
+
+TYPED_TEST(NSFileManagerConformance, AFolderWithoutPermissionIsAnError) {
+  this->subject.add("a", "xxx");
+  std::string outcome;
+  const bool wasTried = this->subject.withoutPermission([&] { outcome = this->move("a", "b"); });
+  if (!wasTried) GTEST_SKIP() << "no user without permission";
+  EXPECT_EQ(outcome, "NSCocoaErrorDomain 513, 13");
+  EXPECT_EQ(this->subject.content("a"), "xxx");
+}
+
+}  // namespace
+}  // namespace orvanta::testing

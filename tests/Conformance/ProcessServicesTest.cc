@@ -1,0 +1,171 @@
+#include <chrono>
+#include <sstream>
+
+#include "Conformance/Subjects.h"
+#include "Platform/Linux/ClockAndLog.h"
+#include "Platform/Linux/HostBundle.h"
+#include "Platform/Linux/MediaTypes.h"
+#include "support/ModelZoo.h"
+
+// The services that answer at once, and from any thread.
+
+namespace orvanta::testing {
+namespace {
+
+// ---- Clock -------------------------------------------------------------------
+
+struct HostClock : HostSubject {
+  static std::int64_t expected() {
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(now).count();
+  }
+  SystemClock service;
+};
+struct DoubleClock : DoubleSubject {
+  DoubleClock() { platform.now = 1'700'000'000'000'000'000; }
+  std::int64_t expected() const { return platform.now; }
+  Clock& service = *platform.clock();
+};
+
+template <class Subject>
+class ClockConformance : public ::testing::Test {};
+using Clocks = ::testing::Types<HostClock, DoubleClock>;
+TYPED_TEST_SUITE(ClockConformance, Clocks, SubjectNames);
+
+TYPED_TEST(ClockConformance, CountsNanosecondsSince1970) {
+  TypeParam subject;
+  const std::int64_t before = subject.expected();
+  const std::int64_t now = subject.service.wallNanoseconds();
+  EXPECT_LE(before, now);
+  EXPECT_LE(now, subject.expected());
+}
+
+TYPED_TEST(ClockConformance, NeverGoesBackOnAnyThread) {
+  TypeParam subject;
+  const std::int64_t start = subject.service.monotonicNanoseconds();
+  runTogether([&] {
+    std::int64_t last = start;
+    for (int i = 0; i < 1000; ++i) {
+      const std::int64_t now = subject.service.monotonicNanoseconds();
+      EXPECT_LE(last, now);
+      last = now;
+      EXPECT_GT(subject.service.wallNanoseconds(), 0);
+    }
+  });
+  EXPECT_GE(subject.service.monotonicNanoseconds(), start);
+}
+
+// ---- System log ----------------------------------------------------------------
+
+struct HostLog : HostSubject {
+  std::vector<std::string> entries() const { return service.entries(); }
+  std::ostringstream out;
+  RecordingLog service{out};
+};
+struct DoubleLog : DoubleSubject {
+  std::vector<std::string> entries() const { return platform.log; }
+  SystemLog& service = *platform.systemLog();
+};
+
+template <class Subject>
+class SystemLogConformance : public ::testing::Test {};
+using Logs = ::testing::Types<HostLog, DoubleLog>;
+TYPED_TEST_SUITE(SystemLogConformance, Logs, SubjectNames);
+
+TYPED_TEST(SystemLogConformance, TakesEntriesAsTheyAre) {
+  TypeParam subject;
+  const std::vector<std::string> entries{"\n\n🦋 a (b:1) 🦋\nc\n\n", "", "%@ %s", "a\nb"};
+  for (const std::string& entry : entries) subject.service.write(entry);
+  EXPECT_EQ(subject.entries(), entries);
+}
+
+TYPED_TEST(SystemLogConformance, TakesWholeEntriesFromAnyThread) {
+  TypeParam subject;
+  const std::string entry(200, 'x');
+  runTogether([&] {
+    for (int i = 0; i < 100; ++i) subject.service.write(entry);
+  });
+  EXPECT_EQ(subject.entries(), std::vector<std::string>(400, entry));
+}
+
+// ---- Bundle ----------------------------------------------------------------------
+
+struct HostTexts : HostSubject {
+  HostTexts() {
+    folder.write("Localizable.strings", R"("►►" = "Weiter"; "empty" = ""; "two words" = "x\ny";)");
+  }
+  HostBundle& service() {
+    if (!bundle) bundle.emplace(folder.path());
+    return *bundle;
+  }
+  std::optional<HostBundle> bundle;
+};
+struct DoubleTexts : DoubleSubject {
+  DoubleTexts() { platform.texts = {{"►►", "Weiter"}, {"empty", ""}, {"two words", "x\ny"}}; }
+  NSBundle& service() { return *platform.mainBundle(); }
+};
+
+template <class Subject>
+class NSBundleConformance : public ::testing::Test {};
+using Bundles = ::testing::Types<HostTexts, DoubleTexts>;
+TYPED_TEST_SUITE(NSBundleConformance, Bundles, SubjectNames);
+
+TYPED_TEST(NSBundleConformance, AnswersWithTheTextOrTheKeyOnAnyThread) {
+  TypeParam subject;
+  NSBundle& bundle = subject.service();
+  runTogether([&bundle] {
+    EXPECT_EQ(bundle.localizedStringForKey("►►"), "Weiter");
+    EXPECT_EQ(bundle.localizedStringForKey("two words"), "x\ny");
+    EXPECT_EQ(bundle.localizedStringForKey("empty"), "");
+    for (const char* const key : {"missing", "Two Words", ""}) {
+      EXPECT_EQ(bundle.localizedStringForKey(key), key);
+    }
+  });
+}
+
+// ---- Type identifiers ----------------------------------------------------------
+
+struct HostTypes : HostSubject {
+  HostTypeIdentifiers service;
+};
+struct DoubleTypes : DoubleSubject {
+  TypeIdentifiers& service = *platform.typeIdentifiers();
+};
+
+template <class Subject>
+class TypeIdentifiersConformance : public ::testing::Test {};
+using Types = ::testing::Types<HostTypes, DoubleTypes>;
+TYPED_TEST_SUITE(TypeIdentifiersConformance, Types, SubjectNames);
+
+TYPED_TEST(TypeIdentifiersConformance, KnownTypesHaveTheirIdentifiersInAnyCase) {
+  TypeParam subject;
+  const auto identifierOf = [&](const char* type) {
+    return subject.service.preferredIdentifierForMIMEType(type);
+  };
+  EXPECT_EQ(identifierOf("image/jpeg"), "public.jpeg");
+  EXPECT_EQ(identifierOf("IMAGE/Jpeg"), "public.jpeg");
+  EXPECT_EQ(identifierOf("audio/mpeg"), "public.mp3");
+  EXPECT_EQ(identifierOf("video/mp4"), "public.mpeg-4");
+  EXPECT_EQ(identifierOf("text/plain"), "public.plain-text");
+}
+
+TYPED_TEST(TypeIdentifiersConformance, OtherTypesHaveDynamicOnesOfTheirOwn) {
+  TypeParam subject;
+  std::set<std::string> identifiers;
+  const std::vector<std::string> types{"image/x-odd", "image/x-odder", "image/jpeg; q=1",
+                                       " image/jpeg", "jpeg"};
+  for (const std::string& type : types) {
+    const auto identifier = subject.service.preferredIdentifierForMIMEType(type);
+    ASSERT_TRUE(identifier) << type;
+    EXPECT_TRUE(identifier->starts_with("dyn.a")) << *identifier;
+    EXPECT_EQ(identifier, subject.service.preferredIdentifierForMIMEType(type));
+    identifiers.insert(*identifier);
+  }
+  EXPECT_EQ(identifiers.size(), types.size());
+  EXPECT_EQ(subject.service.preferredIdentifierForMIMEType("Image/X-Odd"),
+            subject.service.preferredIdentifierForMIMEType("image/x-odd"));
+  EXPECT_EQ(subject.service.preferredIdentifierForMIMEType(std::nullopt), std::nullopt);
+}
+
+}  // namespace
+}  // namespace orvanta::testing
