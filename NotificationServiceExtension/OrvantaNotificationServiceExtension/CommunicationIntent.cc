@@ -12,9 +12,10 @@ namespace orvanta {
 namespace {
 
 constexpr LogSite site(int line) {
-  return {"-[OrvantaNotificationServiceExtension setNotificationIntentForNotificationContent:"
-          "withContentHandler:completionHandler:]",
-          "OrvantaNotificationServiceExtension", line};
+  return {
+      "-[OrvantaNotificationServiceExtension setNotificationIntentForNotificationContent:"
+      "withContentHandler:completionHandler:]",
+      "OrvantaNotificationServiceExtension", line};
 }
 
 constexpr OperatingSystemVersion kFirstWithCommunication{15, 0, 0};
@@ -61,22 +62,19 @@ void OrvantaNotificationServiceExtension::setNotificationIntentForNotificationCo
        contentHandler = std::move(contentHandler),
        completionHandler = std::move(completionHandler)](const Ref<NSError>& donationError) {
         if (donationError) {
-          logError(site(149), [&] {
-            return "Donate Interaction error: " + donationError->description();
-          });
+          logError(site(149),
+                   [&] { return "Donate Interaction error: " + donationError->description(); });
           completionHandler(donationError);
           return;
         }
         const auto [updated, updateError] = intents->contentByUpdating(*content, intent);
         if (updateError) {
           const Ref<NSError>& error = updateError;
-          logError(site(157),
-                   [&] { return "Update Notification Error: " + error->description(); });
+          logError(site(157), [&] { return "Update Notification Error: " + error->description(); });
           completionHandler(updateError);
         }
-        contentHandler(updated != nullptr
-                           ? std::make_shared<UNMutableNotificationContent>(*updated)
-                           : nullptr);
+        contentHandler(updated != nullptr ? std::make_shared<UNMutableNotificationContent>(*updated)
+                                          : nullptr);
       });
 }
 

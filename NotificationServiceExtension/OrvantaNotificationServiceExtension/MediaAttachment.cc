@@ -14,9 +14,10 @@ namespace orvanta {
 namespace {
 
 constexpr LogSite site(int line) {
-  return {"-[OrvantaNotificationServiceExtension downloadAndSetMediaImageForNotificationContent:"
-          "withCompletionHandler:]",
-          "OrvantaNotificationServiceExtension", line};
+  return {
+      "-[OrvantaNotificationServiceExtension downloadAndSetMediaImageForNotificationContent:"
+      "withCompletionHandler:]",
+      "OrvantaNotificationServiceExtension", line};
 }
 
 /// "label" and what "%@" prints of a value.

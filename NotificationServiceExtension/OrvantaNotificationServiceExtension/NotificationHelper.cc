@@ -40,26 +40,26 @@ void NotificationHelper::setNotificationCategories(
     const UNNotificationCategorySet& categories,
     const std::shared_ptr<UNUserNotificationCenter>& center, const Completion& completion) {
   if (center == nullptr) return;
-  center->getNotificationCategories([categories, center,
-                                     completion](const UNNotificationCategorySet& registered) {
-    std::vector<UNNotificationCategory> merged;
-    const auto enter = [&](const UNNotificationCategory& category) {
-      const auto same = std::find_if(merged.begin(), merged.end(), [&](const auto& present) {
-        return present.identifier == category.identifier;
+  center->getNotificationCategories(
+      [categories, center, completion](const UNNotificationCategorySet& registered) {
+        std::vector<UNNotificationCategory> merged;
+        const auto enter = [&](const UNNotificationCategory& category) {
+          const auto same = std::find_if(merged.begin(), merged.end(), [&](const auto& present) {
+            return present.identifier == category.identifier;
+          });
+          if (same == merged.end()) {
+            merged.push_back(category);
+          } else {
+            *same = category;
+          }
+        };
+        for (const UNNotificationCategory& category : registered) enter(category);
+        for (const UNNotificationCategory& category : categories) enter(category);
+        UNNotificationCategorySet set;
+        for (UNNotificationCategory& category : merged) set.insert(std::move(category));
+        center->setNotificationCategories(set);
+        if (completion) completion(true);
       });
-      if (same == merged.end()) {
-        merged.push_back(category);
-      } else {
-        *same = category;
-      }
-    };
-    for (const UNNotificationCategory& category : registered) enter(category);
-    for (const UNNotificationCategory& category : categories) enter(category);
-    UNNotificationCategorySet set;
-    for (UNNotificationCategory& category : merged) set.insert(std::move(category));
-    center->setNotificationCategories(set);
-    if (completion) completion(true);
-  });
 }
 
 }  // namespace orvanta

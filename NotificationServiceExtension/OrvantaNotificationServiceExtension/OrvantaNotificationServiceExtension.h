@@ -5,10 +5,10 @@
 #include <string_view>
 
 #include "Foundation/Url.h"
+#include "Notifications/OrvantaUserNotificationCategory.h"
 #include "Platform/Interface/NSError.h"
 #include "Platform/Interface/NSURLSession.h"
 #include "Platform/Interface/UserNotifications.h"
-#include "Notifications/OrvantaUserNotificationCategory.h"
 #include "Push/OrvantaPushObject.h"
 
 namespace orvanta {

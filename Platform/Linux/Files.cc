@@ -6,7 +6,7 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdio>
+#include <cstdio>  // renameat2
 #include <system_error>
 #include <utility>
 
@@ -162,7 +162,8 @@ Ref<NSError> HostFileManager::moveItemAtURL(const Url& source, const Url& destin
   const std::string from = source.path();
   const std::string to = destination.path();
   const int error = move(from, to);
-  return error == 0 ? Ref<NSError>() : moveError(error, from, to);
+  if (error == 0) return nullptr;
+  return moveError(error, from, to);
 }
 
 }  // namespace orvanta

@@ -40,10 +40,11 @@ Ref<UNNotificationAction> actionFrom(const Dictionary& action) {
 // ---- Categories -----------------------------------------------------------
 
 HostNotificationCenter::HostNotificationCenter(EventLoop& loop, Timeline& timeline,
-                                               std::filesystem::path stateFolder, double readDelay)
+                                               const std::filesystem::path& stateFolder,
+                                               double readDelay)
     : loop_(loop),
       timeline_(timeline),
-      file_(std::move(stateFolder) / "categories.json"),
+      file_(stateFolder / "categories.json"),
       readDelay_(readDelay) {
   std::ifstream in(file_, std::ios::binary);
   if (!in) return;
@@ -58,7 +59,8 @@ HostNotificationCenter::HostNotificationCenter(EventLoop& loop, Timeline& timeli
     UNNotificationCategory made{std::string((*category)["identifier"].string().value_or("")), {}};
     if (const Array* actions = (*category)["actions"].array()) {
       for (const Value& action : *actions) {
-        if (action.dictionary() != nullptr) made.actions.push_back(actionFrom(*action.dictionary()));
+        if (action.dictionary() != nullptr)
+          made.actions.push_back(actionFrom(*action.dictionary()));
       }
     }
     categories_.insert(std::move(made));
@@ -123,30 +125,30 @@ Dictionary donationAsJSON(const Donation& donation) {
           {"outcome", donation.failed ? "error" : "ok"}};
 }
 
-HostIntents::HostIntents(EventLoop& loop, Timeline& timeline, std::filesystem::path stateFolder,
-                         Behaviour behaviour)
+HostIntents::HostIntents(EventLoop& loop, Timeline& timeline,
+                         const std::filesystem::path& stateFolder, Behaviour behaviour)
     : loop_(loop),
       timeline_(timeline),
-      file_(std::move(stateFolder) / "donations.jsonl"),
+      file_(stateFolder / "donations.jsonl"),
       behaviour_(behaviour) {}
 
 void HostIntents::donateInteraction(const INInteraction& interaction, ErrorCompletion completion) {
   timeline_.add("an interaction with \"" + interaction.intent.sender.personHandle.value +
                 "\" is donated");
-  loop_.scheduleIn(behaviour_.donationDelay, [this, interaction,
-                                              completion = std::move(completion)] {
-    donations_.push_back({interaction, behaviour_.donationFails});
-    timeline_.add(behaviour_.donationFails ? "the donation fails" : "the donation is accepted");
-    if (behaviour_.donationFails) {
-      constexpr std::int64_t kDonationFailed = 1900;
-      completion(NSError::errorWithDomain("IntentsErrorDomain", kDonationFailed,
-                                          "The interaction could not be donated."));
-      return;
-    }
-    std::ofstream(file_, std::ios::binary | std::ios::app)
-        << jsonText(donationAsJSON(donations_.back()), false) << '\n';
-    completion(nullptr);
-  });
+  loop_.scheduleIn(
+      behaviour_.donationDelay, [this, interaction, completion = std::move(completion)] {
+        donations_.push_back({interaction, behaviour_.donationFails});
+        timeline_.add(behaviour_.donationFails ? "the donation fails" : "the donation is accepted");
+        if (behaviour_.donationFails) {
+          constexpr std::int64_t kDonationFailed = 1900;
+          completion(NSError::errorWithDomain("IntentsErrorDomain", kDonationFailed,
+                                              "The interaction could not be donated."));
+          return;
+        }
+        std::ofstream(file_, std::ios::binary | std::ios::app)
+            << jsonText(donationAsJSON(donations_.back()), false) << '\n';
+        completion(nullptr);
+      });
 }
 
 Intents::Update HostIntents::contentByUpdating(const UNNotificationContent& content,

@@ -17,8 +17,8 @@ namespace orvanta {
 class HostNotificationCenter final : public UNUserNotificationCenter {
  public:
   /// Reads the file, if there is one; throws std::runtime_error for one that is broken.
-  HostNotificationCenter(EventLoop& loop, Timeline& timeline, std::filesystem::path stateFolder,
-                         double readDelay);
+  HostNotificationCenter(EventLoop& loop, Timeline& timeline,
+                         const std::filesystem::path& stateFolder, double readDelay);
 
   /// Registers a category as the application would have done before.
   void addRegistered(UNNotificationCategory category) { categories_.insert(std::move(category)); }
@@ -61,7 +61,7 @@ class HostIntents final : public Intents {
     bool updateFails = false;
     double donationDelay = 0.0;
   };
-  HostIntents(EventLoop& loop, Timeline& timeline, std::filesystem::path stateFolder,
+  HostIntents(EventLoop& loop, Timeline& timeline, const std::filesystem::path& stateFolder,
               Behaviour behaviour);
 
   void donateInteraction(const INInteraction& interaction, ErrorCompletion completion) override;

@@ -50,9 +50,7 @@ std::string sizeText(const fs::path& file) {
 
 }  // namespace
 
-bool UrlMapping::isFolder() const {
-  return target.find("://") == std::string::npos;
-}
+bool UrlMapping::isFolder() const { return target.find("://") == std::string::npos; }
 
 HostURLSession::HostURLSession(EventLoop& loop, Timeline& timeline, Options options)
     : loop_(loop), timeline_(timeline), options_(std::move(options)) {}
@@ -66,17 +64,17 @@ void HostURLSession::downloadTaskWithURL(const std::optional<Url>& url,
   } else {
     fetched.result.error = urlError(kNSURLErrorUnsupportedURL, std::nullopt);
   }
-  loop_.scheduleIn(fetched.seconds, [this, result = std::move(fetched.result),
-                                     completion = std::move(completionHandler)] {
-    report(result, completion);
-  });
+  loop_.scheduleIn(fetched.seconds,
+                   [this, result = std::move(fetched.result),
+                    completion = std::move(completionHandler)] { report(result, completion); });
 }
 
 void HostURLSession::report(const TransferResult& result, const DownloadCompletion& completion) {
   if (result.error) {
-    timeline_.add("the download fails: " +
-                  std::string(result.error->userInfo()[NSError::kLocalizedDescription].string().value_or(
-                      "error " + std::to_string(result.error->code()))));
+    timeline_.add(
+        "the download fails: " +
+        std::string(result.error->userInfo()[NSError::kLocalizedDescription].string().value_or(
+            "error " + std::to_string(result.error->code()))));
     completion(std::nullopt, result.response, result.error);
     return;
   }
@@ -114,8 +112,9 @@ HostURLSession::Fetched HostURLSession::fetch(const Url& url) {
 HostURLSession::Fetched HostURLSession::fetchFromNetwork(const Url& url) {
   TransferLimits limits = options_.limits;
   const double left = std::max(0.0, expiry_ - loop_.now()) + kGraceAfterExpiry;
-  limits.total = std::min(limits.total, std::chrono::milliseconds(static_cast<std::int64_t>(
-                                            std::min(left, 1e9) * 1000.0)));
+  limits.total =
+      std::min(limits.total,
+               std::chrono::milliseconds(static_cast<std::int64_t>(std::min(left, 1e9) * 1000.0)));
   const auto start = std::chrono::steady_clock::now();
   TransferResult result = transfer(url, options_.temporaryFolder, limits, options_.progress);
   const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
@@ -155,8 +154,8 @@ TransferResult HostURLSession::fetchFile(const fs::path& folder, const std::stri
     std::ofstream(temporary, std::ios::binary).flush();
   }
   const auto extension = file.extension().string();
-  const auto mime = isThere && !extension.empty() ? mimeTypeForExtension(extension.substr(1))
-                                                  : std::nullopt;
+  const auto mime =
+      isThere && !extension.empty() ? mimeTypeForExtension(extension.substr(1)) : std::nullopt;
   NSURLResponse::Parts parts{url, mime, std::nullopt, {}};
   if (overHTTP) {
     parts.statusCode = isThere ? 200 : 404;
@@ -182,12 +181,12 @@ TransferResult HostURLSession::answer(const Scenario::Media& media, const Url& u
   return {temporary, NSURLResponse::responseWithParts(std::move(parts)), nullptr};
 }
 
-fs::path HostURLSession::newTemporaryFile() {
+fs::path HostURLSession::newTemporaryFile() const {
   for (int number = 1;; ++number) {
     char name[64];
     std::snprintf(name, sizeof name, "CFNetworkDownload_%06d.tmp", number);
-    const bool isTaken = fs::exists(options_.temporaryFolder / name) ||
-                         fs::exists(options_.cachesFolder / name);
+    const bool isTaken =
+        fs::exists(options_.temporaryFolder / name) || fs::exists(options_.cachesFolder / name);
     if (!isTaken) return options_.temporaryFolder / name;
   }
 }

@@ -55,7 +55,7 @@ class HostURLSession final : public NSURLSession {
                            const Url& url, bool overHTTP);
   TransferResult answer(const Scenario::Media& media, const Url& url);
   /// A name in the platform's form that neither folder has: the same ones in every run.
-  std::filesystem::path newTemporaryFile();
+  std::filesystem::path newTemporaryFile() const;
   void report(const TransferResult& result, const DownloadCompletion& completion);
 
   EventLoop& loop_;

@@ -7,6 +7,7 @@
 #include <atomic>
 #include <cstdint>
 #include <cstdio>
+#include <utility>
 
 #include "Foundation/CharacterSet.h"
 
@@ -122,7 +123,8 @@ std::optional<std::uint64_t> readableSize(const Url& url) {
 }
 
 UNNotificationAttachmentFactory::Result refused(int code, std::string_view text) {
-  return {nullptr, NSError::errorWithDomain("UNErrorDomain", code, text)};
+  Ref<NSError> error = NSError::errorWithDomain("UNErrorDomain", code, text);
+  return {nullptr, std::move(error)};
 }
 
 }  // namespace

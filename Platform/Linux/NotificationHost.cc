@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <fstream>
 
+#include "Platform/Linux/ClockAndLog.h"
 #include "Platform/Linux/Files.h"
 #include "Platform/Linux/HostBundle.h"
 #include "Platform/Linux/HostImages.h"
-#include "Platform/Linux/ClockAndLog.h"
 #include "Platform/Linux/MediaTypes.h"
 
 namespace orvanta {
@@ -202,14 +202,14 @@ HostReport NotificationHost::run(const Dictionary& payload) {
 
   const auto extension = makeExtension_();
   const auto start = [&](double at, const Dictionary& of) {
-    report.shown.push_back({ShownNotification::From::original,
-                            originalContent(of, options_.scenario, platform.bundle(),
-                                            options_.stateFolder),
-                            {}});
+    report.shown.push_back(
+        {ShownNotification::From::original,
+         originalContent(of, options_.scenario, platform.bundle(), options_.stateFolder),
+         {}});
     const int request = static_cast<int>(report.shown.size());
-    const double expiry = std::max(
-        at, std::min(options_.scenario.expireAt.value_or(at + options_.timeBudget),
-                     at + options_.timeBudget));
+    const double expiry =
+        std::max(at, std::min(options_.scenario.expireAt.value_or(at + options_.timeBudget),
+                              at + options_.timeBudget));
     loop.schedule(at, [&, request, expiry] {
       timeline.add(request == 1 ? "the extension gets the request"
                                 : "the extension gets a second request");

@@ -22,7 +22,7 @@ struct Delivery {
   int request;  // from 1
   double time;  // seconds since the first request came in
   By by;
-  bool ignored;  // the system takes a request's first delivery only
+  bool ignored;                                  // the system takes a request's first delivery only
   std::optional<UNNotificationContent> content;  // as it was at the call; none when it was null
 };
 

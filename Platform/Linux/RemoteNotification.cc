@@ -97,7 +97,8 @@ UNNotificationContent contentForPayload(const Dictionary& payload, NSBundle& bun
   const Value& alert = (*aps)["alert"];
   if (const auto text = alert.string()) content.body = *text;
   if (const Dictionary* texts = alert.dictionary()) {
-    for (const AlertText& part : kAlertTexts) content.*part.member = alertText(*texts, part, bundle);
+    for (const AlertText& part : kAlertTexts)
+      content.*part.member = alertText(*texts, part, bundle);
   }
   if (const auto badge = (*aps)["badge"].number()) {
     content.badge = badge->isBoolean() ? Value(badge->intValue()) : (*aps)["badge"];

@@ -103,17 +103,17 @@ std::string fileName(const Value& value) {
 
 Scenario::Media readMedia(const Value& value) {
   Scenario::Media media;
-  readAll(dictionary(value), "media.",
-          {{"result",
-            [&](const Value& v) { media.fails = v.string() != "ok" && word(v, "error"); }},
-           {"code", [&](const Value& v) { media.errorCode = wholeNumber<int>(v, -100000, -1); }},
-           {"status", [&](const Value& v) { media.status = wholeNumber<int>(v, 100, 599); }},
-           {"mime", [&](const Value& v) { media.mime = textOrNull(v); }},
-           {"tempName", [&](const Value& v) { media.tempName = fileName(v); }},
-           {"bytes",
-            [&](const Value& v) { media.bytes = wholeNumber<std::uint64_t>(v, 0, 1'000'000'000); }},
-           {"destinationExists", [&](const Value& v) { media.destinationExists = flag(v); }},
-           {"delay", [&](const Value& v) { media.delay = seconds(v); }}});
+  readAll(
+      dictionary(value), "media.",
+      {{"result", [&](const Value& v) { media.fails = v.string() != "ok" && word(v, "error"); }},
+       {"code", [&](const Value& v) { media.errorCode = wholeNumber<int>(v, -100000, -1); }},
+       {"status", [&](const Value& v) { media.status = wholeNumber<int>(v, 100, 599); }},
+       {"mime", [&](const Value& v) { media.mime = textOrNull(v); }},
+       {"tempName", [&](const Value& v) { media.tempName = fileName(v); }},
+       {"bytes",
+        [&](const Value& v) { media.bytes = wholeNumber<std::uint64_t>(v, 0, 1'000'000'000); }},
+       {"destinationExists", [&](const Value& v) { media.destinationExists = flag(v); }},
+       {"delay", [&](const Value& v) { media.delay = seconds(v); }}});
   return media;
 }
 
@@ -135,38 +135,38 @@ std::optional<OperatingSystemVersion> parseVersion(std::string_view text) {
 
 Scenario Scenario::fromDictionary(const Dictionary& given) {
   Scenario scenario;
-  readAll(
-      given, "",
-      {{"os",
-        [&](const Value& v) {
-          scenario.os = parseVersion(text(v));
-          if (!scenario.os) refuse("a version such as \"15.0\" is needed");
-        }},
-       {"title", [&](const Value& v) { scenario.title = textOrNull(v); }},
-       {"subtitle", [&](const Value& v) { scenario.subtitle = textOrNull(v); }},
-       {"body", [&](const Value& v) { scenario.body = textOrNull(v); }},
-       {"images", [&](const Value& v) { scenario.images = texts(v); }},
-       {"categories", [&](const Value& v) { scenario.categories = texts(v); }},
-       {"attachments",
-        [&](const Value& v) { scenario.attachments = wholeNumber<std::size_t>(v, 0, 100); }},
-       {"media", [&](const Value& v) { scenario.media = readMedia(v); }},
-       {"center", [&](const Value& v) { scenario.centerGone = word(v, "gone"); }},
-       {"donation", [&](const Value& v) { scenario.donationFails = word(v, "fail"); }},
-       {"update", [&](const Value& v) { scenario.updateFails = word(v, "fail"); }},
-       {"delays",
-        [&](const Value& v) {
-          readAll(dictionary(v), "delays.",
+  readAll(given, "",
+          {{"os",
+            [&](const Value& v) {
+              scenario.os = parseVersion(text(v));
+              if (!scenario.os) refuse("a version such as \"15.0\" is needed");
+            }},
+           {"title", [&](const Value& v) { scenario.title = textOrNull(v); }},
+           {"subtitle", [&](const Value& v) { scenario.subtitle = textOrNull(v); }},
+           {"body", [&](const Value& v) { scenario.body = textOrNull(v); }},
+           {"images", [&](const Value& v) { scenario.images = texts(v); }},
+           {"categories", [&](const Value& v) { scenario.categories = texts(v); }},
+           {"attachments",
+            [&](const Value& v) { scenario.attachments = wholeNumber<std::size_t>(v, 0, 100); }},
+           {"media", [&](const Value& v) { scenario.media = readMedia(v); }},
+           {"center", [&](const Value& v) { scenario.centerGone = word(v, "gone"); }},
+           {"donation", [&](const Value& v) { scenario.donationFails = word(v, "fail"); }},
+           {"update", [&](const Value& v) { scenario.updateFails = word(v, "fail"); }},
+           {"delays",
+            [&](const Value& v) {
+              readAll(
+                  dictionary(v), "delays.",
                   {{"categories", [&](const Value& d) { scenario.categoriesDelay = seconds(d); }},
                    {"donation", [&](const Value& d) { scenario.donationDelay = seconds(d); }}});
-        }},
-       {"expireAt", [&](const Value& v) { scenario.expireAt = seconds(v); }},
-       {"second", [&](const Value& v) {
-          Second second;
-          readAll(dictionary(v), "second.",
-                  {{"at", [&](const Value& a) { second.at = seconds(a); }},
-                   {"payload", [&](const Value& p) { second.payload = dictionary(p); }}});
-          scenario.second = second;
-        }}});
+            }},
+           {"expireAt", [&](const Value& v) { scenario.expireAt = seconds(v); }},
+           {"second", [&](const Value& v) {
+              Second second;
+              readAll(dictionary(v), "second.",
+                      {{"at", [&](const Value& a) { second.at = seconds(a); }},
+                       {"payload", [&](const Value& p) { second.payload = dictionary(p); }}});
+              scenario.second = second;
+            }}});
   return scenario;
 }
 

@@ -51,8 +51,8 @@ Dictionary deliveryEntry(const Delivery& delivery, const Neutral& neutral) {
           {"time", delivery.time},
           {"by", byExpiry ? "expiry" : "pipeline"},
           {"ignored", delivery.ignored},
-          {"content", delivery.content ? Value(contentEntry(*delivery.content, neutral))
-                                       : Value::null()}};
+          {"content",
+           delivery.content ? Value(contentEntry(*delivery.content, neutral)) : Value::null()}};
 }
 
 Dictionary shownEntry(const ShownNotification& shown, const Neutral& neutral) {
@@ -76,18 +76,17 @@ Array arrayOf(const Elements& elements, Make&& make) {
 Dictionary ledger(const HostReport& report, const std::vector<std::string>& log,
                   const Neutral& neutral) {
   const auto asItIs = [](const std::string& text) -> Value { return text; };
-  return {
-      {"format", 1},
-      {"launch", Dictionary{{"starts", report.launch.starts()},
-                            {"reasons", arrayOf(report.launch.unmet, asItIs)}}},
-      {"deliveries", arrayOf(report.deliveries,
-                             [&](const Delivery& d) { return deliveryEntry(d, neutral); })},
-      {"shown", arrayOf(report.shown,
-                        [&](const ShownNotification& s) { return shownEntry(s, neutral); })},
-      {"categories",
-       report.categories ? Value(categoriesAsJSON(*report.categories)) : Value::null()},
-      {"donations", arrayOf(report.donations, donationAsJSON)},
-      {"log", arrayOf(log, asItIs)}};
+  return {{"format", 1},
+          {"launch", Dictionary{{"starts", report.launch.starts()},
+                                {"reasons", arrayOf(report.launch.unmet, asItIs)}}},
+          {"deliveries", arrayOf(report.deliveries,
+                                 [&](const Delivery& d) { return deliveryEntry(d, neutral); })},
+          {"shown", arrayOf(report.shown,
+                            [&](const ShownNotification& s) { return shownEntry(s, neutral); })},
+          {"categories",
+           report.categories ? Value(categoriesAsJSON(*report.categories)) : Value::null()},
+          {"donations", arrayOf(report.donations, donationAsJSON)},
+          {"log", arrayOf(log, asItIs)}};
 }
 
 }  // namespace orvanta::tool

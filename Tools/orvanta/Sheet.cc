@@ -90,12 +90,14 @@ void printWishes(const Wishes& wishes, Lines& lines) {
 
 /// The last step that begins with one of these, and says why something is missing.
 std::string reasonAmong(const HostReport& report, std::initializer_list<std::string_view> begins) {
-  for (auto step = report.steps.rbegin(); step != report.steps.rend(); ++step) {
-    for (const std::string_view begin : begins) {
-      if (step->text.starts_with(begin)) return step->text;
-    }
-  }
-  return "it was not ready when the content was delivered";
+  const auto step = std::find_if(
+      report.steps.rbegin(), report.steps.rend(), [&](const Timeline::Step& candidate) {
+        return std::any_of(begins.begin(), begins.end(), [&](std::string_view begin) {
+          return candidate.text.starts_with(begin);
+        });
+      });
+  return step != report.steps.rend() ? step->text
+                                     : "it was not ready when the content was delivered";
 }
 
 std::string attachmentLine(const UNNotificationAttachment::Parts& parts) {
@@ -133,11 +135,11 @@ class ShownPrinter {
       lines_.row("sender", text);
     } else if (wishes_.icon) {
       const bool isOld = os_ < OperatingSystemVersion{15, 0, 0};
-      lines_.row("sender", "none: " + (isOld ? std::string("the system is older than iOS 15.0")
-                                             : reasonAmong(report_, {"there is no picture",
-                                                                     "the picture cannot",
-                                                                     "the donation fails",
-                                                                     "the content cannot"})));
+      lines_.row(
+          "sender",
+          "none: " + (isOld ? std::string("the system is older than iOS 15.0")
+                            : reasonAmong(report_, {"there is no picture", "the picture cannot",
+                                                    "the donation fails", "the content cannot"})));
     }
   }
 

@@ -71,8 +71,9 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
                    "The bundle's resources: pictures and Localizable.strings")
       ->option_text("DIR");
   notifyCommand
-      ->add_option("--state", notifyOptions.state,
-                   "Caches, registered categories and donations (a fresh folder, removed at the end)")
+      ->add_option(
+          "--state", notifyOptions.state,
+          "Caches, registered categories and donations (a fresh folder, removed at the end)")
       ->option_text("DIR");
   notifyCommand
       ->add_option("--map-url", notifyOptions.mapUrls,
@@ -81,8 +82,9 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
       ->option_text("PREFIX=TARGET")
       ->allow_extra_args(false);
   notifyCommand
-      ->add_option("--scenario", notifyOptions.scenario,
-                   "What the device does: replaced texts, answers, delays, faults, a second request")
+      ->add_option(
+          "--scenario", notifyOptions.scenario,
+          "What the device does: replaced texts, answers, delays, faults, a second request")
       ->option_text("FILE");
   notifyCommand
       ->add_option("--time-budget", notifyOptions.timeBudget,

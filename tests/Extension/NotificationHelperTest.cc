@@ -108,7 +108,8 @@ TEST(NotificationHelper, TheFixedCategoriesComeFirst) {
 TEST(NotificationHelper, FixedTitlesAreTheBundlesOrElseTheirKeys) {
   const auto titles = [] {
     std::string text;
-    for (const auto& action : NotificationHelper::setForCategories({}).begin()->actions) {
+    const UNNotificationCategorySet set = NotificationHelper::setForCategories({});
+    for (const auto& action : set.begin()->actions) {
       EXPECT_EQ(action->options(), 4U);
       EXPECT_FALSE(action->takesText());
       text += "[" + action->title() + "]";

@@ -130,7 +130,7 @@ TEST(JSONReading, TellsWhyAndWhereATextIsIllFormed) {
   } rows[] = {
       {"", kEnd, 1, 1},
       {"  \n", kEnd, 2, 1},
-      {"\xEF\xBB\xBF", kEnd, 1, 2},
+      {"\xEF\xBB\xBF", kEnd, 1, 1},
       {"\xEF\xBB", kValue, 1, 1},
       {"[", kEnd, 1, 2},
       {"[1", kOpen, 1, 3},

@@ -114,6 +114,35 @@ TEST(NestedModel, ARefusingModelCannotBeAScalarUrlOrDate) {
   }
 }
 
+TEST(NestedModel, NestingHasALimitAndThenOnlyTheInnermostModelsAreMissing) {
+  constexpr auto kMost = OrvantaBaseModel::kMostNestedModels;
+  for (const std::size_t models : {kMost, kMost + 1}) {
+    RecordingPlatform platform;
+    const auto outermost =
+        made<NestingModel>(nested(models - 1, R"({"deeper": )", "}", R"({"free": 1})"));
+    ASSERT_TRUE(outermost);
+    std::size_t found = 1;
+    for (const NestingModel* at = outermost.get(); at->deeper().get() != nullptr; ++found) {
+      at = at->deeper().get();
+    }
+    EXPECT_EQ(found, kMost);
+    EXPECT_EQ(platform.log.size(), models - kMost);
+  }
+}
+
+TEST(NestedModel, TheNumberOfModelsInOneDictionaryHasALimit) {
+  constexpr auto kMost = OrvantaBaseModel::kMostModels;
+  for (const std::size_t models : {kMost, kMost + 1}) {
+    RecordingPlatform platform;
+    Array leaves;
+    while (leaves.size() + 1 < models) leaves.append(Dictionary());
+    const auto owner = make<NestingModel>(Dictionary{{"leaves", leaves}});
+    EXPECT_EQ(!owner, models > kMost);
+    EXPECT_EQ(platform.log.size(), models > kMost ? 2U : 0U);
+    EXPECT_TRUE(made<NestingModel>(R"({"leaves": [{}]})"));  // each update counts anew
+  }
+}
+
 TEST(NestedModel, AnUndefinedKeyFromAnInitialiserRefusesTheOwnerSilently) {
   RecordingPlatform platform;
   const auto holder = make<PushHolderModel>();

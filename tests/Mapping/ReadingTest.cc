@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 #include <set>
 
@@ -170,6 +171,23 @@ TEST(Reading, DescendsKeyPaths) {
   EXPECT_EQ(model->title().get(), "x");
 }
 
+TEST(Reading, TheOrderOfTheKeysDoesNotMatter) {
+  std::vector<std::string> parts = {
+      R"("title": "x")", R"("aps": {"tags": ["t"], "other": 0, "badge": 4, "sound": "s"})",
+      R"("a": {"other": 0, "b": {"c": 1}})", R"("other": {"sound": "no"})"};
+  std::sort(parts.begin(), parts.end());
+  do {
+    std::string json;
+    for (const std::string& part : parts) json += (json.empty() ? "{" : ", ") + part;
+    const auto model = made<DottedModel>(json += "}");
+    ASSERT_TRUE(model) << json;
+    EXPECT_EQ(written(model->dictionaryValue()),
+              R"({"aps.sound":"s","aps.badge":4,"a.b.c":1,"a.b":{"c":1},"aps.tags":["t"],)"
+              R"("title":"x"})")
+        << json;
+  } while (std::next_permutation(parts.begin(), parts.end()));
+}
+
 TEST(Reading, AMissingStepLeavesThePropertyAlone) {
   for (const char* json : {R"({"aps.sound": "flat"})", R"({"aps": {}})", R"({"a": {}})",
                            R"({"a": {"b": {}}, "title": "x"})"}) {
@@ -251,6 +269,20 @@ TEST(Reading, ADottedPropertyPathAssignsInsideANestedObject) {
   EXPECT_FALSE(update(*model, R"({"n": 1})"));
   model->setKeyPathPropertyDictionary({{"n", "leaf.name.first"}});
   EXPECT_FALSE(update(*model, R"({"n": 1})"));  // a text has no keys to write to
+}
+
+TEST(Reading, ADottedPropertyPathConvertsByTheNestedObjectsType) {
+  RecordingPlatform platform;
+  const auto model = make<NestingModel>();
+  const auto inner = make<ObjectModel>();
+  model->setFree(Value(inner));
+  model->setKeyPathPropertyDictionary({{"u", "free.url"}, {"d", "free.date"}});
+  EXPECT_TRUE(update(*model, R"({"u": "a/b", "d": 1500})"));
+  EXPECT_EQ(inner->url().value(), Value(*Url::parse("a/b")));
+  EXPECT_EQ(inner->date().get(), Date{1.5});
+  EXPECT_FALSE(update(*model, R"({"u": 5})"));
+  EXPECT_FALSE(update(*model, R"({"d": "today"})"));
+  EXPECT_TRUE(platform.log.empty());
 }
 
 TEST(Reading, AnUpdateMayComeFromTheObjectItself) {

@@ -77,6 +77,16 @@ TEST(RefusedUpdate, APropertyThatTheClassLacksIsSilent) {
   EXPECT_TRUE(platform.log.empty());
 }
 
+TEST(RefusedUpdate, AHugeDictionaryIsLoggedInPart) {
+  RecordingPlatform platform;
+  EXPECT_FALSE(make<LeafModel>(Dictionary{{"name", std::string(200000, 'x')}, {"size", Array()}}));
+  ASSERT_EQ(platform.log.size(), 1U);
+  const std::string& entry = platform.log.front();
+  EXPECT_LT(entry.size(), 70000U);
+  EXPECT_NE(entry.find("xxx …' to class 'LeafModel' : -[NSArray longLongValue]"),
+            std::string::npos);
+}
+
 TEST(RefusedUpdate, NeedsNoSystemLog) {
   Platform none;
   const PlatformOverride scope(none);

@@ -54,6 +54,8 @@ TEST(Writing, LeavesOutNilAndWhatAConverterRefuses) {
   model->setValueForKey(Array(), "date");
   model->setText("t");
   EXPECT_EQ(keysOf(model->dictionaryValue()), Keys{"text"});
+  model->setValueForKey("no URL", "url");  // of which the converter makes nil
+  EXPECT_EQ(keysOf(model->dictionaryValue()), Keys{"text"});
 }
 
 TEST(Writing, KeepsOtherKindsAsTheyStand) {

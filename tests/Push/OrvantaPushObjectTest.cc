@@ -186,7 +186,7 @@ TEST(OrvantaPushObject, KlazzTouchesTheClickActionsDictionaryOnly) {
 }
 
 TEST(OrvantaPushObject, AClickActionOfAnotherKindGivesAnEmptyAction) {
-  for (const char* act : {"\"shop://a\"", "5", "null", "[{\"uri\": \"a\"}]"}) {
+  for (const char* act : {R"("shop://a")", "5", "null", R"([{"uri": "a"}])"}) {
     const auto push = made<OrvantaPushObject>(R"({"_ov": {"act": )" + std::string(act) + "}}");
     ASSERT_TRUE(push) << act;
     EXPECT_FALSE(push->action().get()->deeplinkURLString()) << act;
@@ -251,7 +251,7 @@ TEST(OrvantaPushObject, AnIdentifierSetByNameSelectsToo) {
 }
 
 TEST(OrvantaPushObject, WithoutButtonsAnIdentifierSelectsNothing) {
-  for (const char* buttons : {"null", "\"text\"", "{\"id\": \"a\", \"act\": {}}", "[]"}) {
+  for (const char* buttons : {"null", R"("text")", R"({"id": "a", "act": {}})", "[]"}) {
     const auto push = made<OrvantaPushObject>(R"({"_ov": {"act": {"uri": "default"}, "ia": )" +
                                               std::string(buttons) + "}}");
     ASSERT_TRUE(push) << buttons;

@@ -14,9 +14,9 @@ TEST(Usage, WrongArgumentsPrintNothingOnStandardOutput) {
     std::vector<std::string> arguments;
     std::string_view told;
   } rows[] = {
-      {{}, "subcommand is required"},
-      {{"unknown"}, ""},
-      {{"--unknown"}, ""},
+      {{}, "a command is needed"},
+      {{"unknown"}, "unknown"},
+      {{"--unknown"}, "--unknown"},
       {{"schema", "--unknown"}, "--unknown"},
       {{"notify", "a", "surplus"}, "surplus"},
       {{"schema", "OrvantaPushStyle", "surplus"}, "surplus"},

@@ -8,7 +8,7 @@ namespace {
 
 class FakeImage final : public UIImage {
  public:
-  explicit FakeImage(std::string file) : file(std::move(file)) {}
+  explicit FakeImage(std::string name) : file(std::move(name)) {}
   const std::string file;
 };
 
@@ -42,21 +42,11 @@ Ref<NSError> moveError(std::int64_t code, std::int64_t posixCode) {
 
 }  // namespace
 
-std::vector<std::string> FakePlatform::pending() const {
-  std::vector<std::string> names;
-  for (const auto& [name, callback] : pending_) names.push_back(name);
-  return names;
-}
-
 void FakePlatform::run(std::size_t index) {
   const auto position = pending_.begin() + static_cast<std::ptrdiff_t>(index);
   const std::function<void()> callback = std::move(position->second);
   pending_.erase(position);
   callback();
-}
-
-void FakePlatform::runAll() {
-  while (!pending_.empty()) runNext();
 }
 
 void FakePlatform::Center::getNotificationCategories(CategoriesCompletion completion) {
@@ -69,11 +59,6 @@ void FakePlatform::Center::setNotificationCategories(const UNNotificationCategor
   platform_.calls.emplace_back("write");
   registered = categories;
   written.push_back(categories);
-}
-
-void FakePlatform::write(std::string_view entry) noexcept {
-  const std::lock_guard guard(logLock_);
-  log.emplace_back(entry);
 }
 
 void FakePlatform::downloadTaskWithURL(const std::optional<Url>& url,
@@ -99,12 +84,6 @@ void FakePlatform::downloadTaskWithURL(const std::optional<Url>& url,
     completion(Url::fileURLWithPath(path), response, nullptr);
     files.erase(path);
   });
-}
-
-std::vector<Url> FakePlatform::URLsForCachesDirectory() {
-  std::vector<Url> urls;
-  for (const std::string& folder : cachesFolders) urls.push_back(Url::fileURLWithPath(folder));
-  return urls;
 }
 
 Ref<NSError> FakePlatform::moveItemAtURL(const Url& source, const Url& destination) {
@@ -192,11 +171,6 @@ Intents::Update FakePlatform::contentByUpdating(const UNNotificationContent& con
                                    : std::nullopt,
                       .groupHasImage = provider.speakableGroupNameImage.has_value()};
   return {updated, nullptr};
-}
-
-std::string FakePlatform::localizedStringForKey(std::string_view key) {
-  const auto found = texts.find(key);
-  return found == texts.end() ? std::string(key) : found->second;
 }
 
 }  // namespace orvanta::testing

@@ -59,11 +59,17 @@ class FakePlatform final : public Platform,
   // ---- What waits ----
 
   /// The names of the callbacks in the order of their calls: "categories", "download", "donation".
-  std::vector<std::string> pending() const;
+  std::vector<std::string> pending() const {
+    std::vector<std::string> names;
+    for (const auto& [name, callback] : pending_) names.push_back(name);
+    return names;
+  }
   void run(std::size_t index);
   void runNext() { run(0); }
   /// Runs until nothing waits.
-  void runAll();
+  void runAll() {
+    while (!pending_.empty()) runNext();
+  }
 
   // ---- What there is, and what goes wrong ----
 
@@ -119,10 +125,17 @@ class FakePlatform final : public Platform,
 
   std::int64_t wallNanoseconds() override { return now; }
   std::int64_t monotonicNanoseconds() override { return now; }
-  void write(std::string_view entry) noexcept override;
+  void write(std::string_view entry) noexcept override {
+    const std::lock_guard guard(logLock_);
+    log.emplace_back(entry);
+  }
   void downloadTaskWithURL(const std::optional<Url>& url,
                            DownloadCompletion completionHandler) override;
-  std::vector<Url> URLsForCachesDirectory() override;
+  std::vector<Url> URLsForCachesDirectory() override {
+    std::vector<Url> urls;
+    for (const std::string& folder : cachesFolders) urls.push_back(Url::fileURLWithPath(folder));
+    return urls;
+  }
   Ref<NSError> moveItemAtURL(const Url& source, const Url& destination) override;
   std::optional<std::string> preferredIdentifierForMIMEType(
       const std::optional<std::string>& type) override;
@@ -135,7 +148,10 @@ class FakePlatform final : public Platform,
   void donateInteraction(const INInteraction& interaction, ErrorCompletion completion) override;
   Intents::Update contentByUpdating(const UNNotificationContent& content,
                                     const INSendMessageIntent& provider) override;
-  std::string localizedStringForKey(std::string_view key) override;
+  std::string localizedStringForKey(std::string_view key) override {
+    const auto found = texts.find(key);
+    return found == texts.end() ? std::string(key) : found->second;
+  }
 
   std::vector<std::pair<std::string, std::function<void()>>> pending_;
   std::mutex logLock_;

@@ -109,7 +109,8 @@ class Describer {
       unit(0xDC00 + (c & 0x3FFU));
     } else if (c > 0x7F) {
       unit(c);
-    } else if (const auto named = kNamed.find(static_cast<char>(c)); named != kNamed.npos) {
+    } else if (const auto named = kNamed.find(static_cast<char>(c));
+               named != std::string_view::npos) {
       out_ += {'\\', "\"\\ntr"[named]};
     } else if (c < 0x20 || c == 0x7F) {
       out_ += {'\\', digit(c >> 6U), digit(c >> 3U & 7U), digit(c & 7U)};

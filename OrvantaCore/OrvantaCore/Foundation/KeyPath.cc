@@ -34,8 +34,8 @@ Value valueForKeyPath(const Value& receiver, std::span<const Value> path) {
     Array results;
     results.reserve(array->size());
     for (const Value& element : *array) {
-      Value result = valueForKeyPath(element, path);
-      results.append(result.isNil() ? Value::null() : std::move(result));
+      const Value result = valueForKeyPath(element, path);
+      results.append(result.isNil() ? Value::null() : result);
     }
     return results;
   }

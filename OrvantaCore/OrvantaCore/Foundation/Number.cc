@@ -177,7 +177,7 @@ std::string Number::description() const {
     if (std::isnan(doubleValue())) return "nan";  // without the sign that some have
     const auto end =
         std::to_chars(text, text + sizeof text, doubleValue(), std::chars_format::general, digits);
-    return std::string(text, end.ptr);
+    return {text, end.ptr};
   };
   switch (kind_) {
     case Kind::real:
@@ -235,7 +235,8 @@ bool booleanReading(std::string_view text) noexcept {
   text = withoutLeadingSpace(text);
   takeSign(text);
   while (!text.empty() && text.front() == '0') text.remove_prefix(1);
-  return !text.empty() && std::string_view("YyTt123456789").find(text.front()) != text.npos;
+  return !text.empty() &&
+         std::string_view("YyTt123456789").find(text.front()) != std::string_view::npos;
 }
 
 template <>

@@ -13,7 +13,7 @@ class Url {
   /// Parses a text: characters that RFC 3986 allows only, "%" followed by two hex digits, at most
   /// one "#". Relative references are allowed, and "" is the empty URL; nothing is encoded. None
   /// when the text is no URL, or the value no text.
-  static std::optional<Url> parse(const Value& text);
+  static std::optional<Url> parse(const Value& value);
 
   /// The file URL of an absolute path; what a URL cannot hold is percent-encoded.
   static Url fileURLWithPath(std::string_view path);

@@ -362,7 +362,7 @@ Value reachedAt(const Value& from, std::span<const Value> path, std::string& key
   if (path.empty()) return from;
   if (const Array* array = from.array()) {
     for (const Value& element : *array) {
-      const Value reached = reachedAt(element, path, keyless);
+      Value reached = reachedAt(element, path, keyless);
       if (!keyless.empty()) return reached;
     }
   }

@@ -117,6 +117,15 @@ struct Declared<ClassReference> {
   }
 };
 
+template <class T>
+class Held;
+
+/// What a Held<T> can be made of.
+template <class U, class T>
+concept BoxableAs = !std::same_as<std::remove_cvref_t<U>, Held<T>> && requires(U && typed) {
+  Declared<T>::box(std::forward<U>(typed));
+};
+
 /// The value of an object property that is declared as a T. What comes from a dictionary is kept
 /// whatever its kind, so there are three questions to ask.
 template <class T>
@@ -124,14 +133,13 @@ class Held {
  public:
   Held() noexcept = default;
   Held(std::nullptr_t) noexcept {}
-  template <class U>
-  requires(!std::same_as<std::remove_cvref_t<U>, Held> &&
-           requires(U && typed) { Declared<T>::box(std::forward<U>(typed)); }) Held(U&& typed)
-      : value_(Declared<T>::box(std::forward<U>(typed))) {}
+  template <BoxableAs<T> U>
+  // NOLINTNEXTLINE(bugprone-forwarding-reference-overload): the constraint leaves copies out
+  Held(U&& typed) : value_(Declared<T>::box(std::forward<U>(typed))) {}
   /// A value of any kind.
-  static Held any(Value value) noexcept {
+  static Held any(const Value& value) noexcept {
     Held held;
-    held.value_ = std::move(value);
+    held.value_ = value;
     return held;
   }
 
@@ -283,6 +291,8 @@ struct Reflect {
                                                                                  \
  public:
 
+// NOLINTBEGIN(bugprone-macro-parentheses): the arguments are names and types
+
 /// Defines the class object; stands once in the class's source file.
 #define ORVANTA_IMPLEMENTATION(Self_)                                                   \
   static constexpr auto k##Self_##Tables = Reflect::tables<Self_>();                    \
@@ -351,5 +361,7 @@ struct Reflect {
                {#name_, encoding_, Ownership::ownership_, (set_) == nullptr, nullptr, get_, set_}) \
                                                                                                    \
  public:
+
+// NOLINTEND(bugprone-macro-parentheses)
 
 }  // namespace orvanta

@@ -22,11 +22,12 @@ class OrvantaUserNotificationAction : public OrvantaBaseModel {
   ORVANTA_READONLY("bhv", assign, std::uint64_t, behaviour)
   /// The platform's action, made anew each time. An identifier or title that is no text is empty.
   Ref<UNNotificationAction> interactiveAction() const;
-  ORVANTA_COMPUTED(kUnmapped, strong, "@\"UNNotificationAction\"", interactiveAction,
-                   [](const OrvantaBaseModel& o) -> Value {
-                     return static_cast<const Self&>(o).interactiveAction();
-                   },
-                   nullptr)
+  ORVANTA_COMPUTED(
+      kUnmapped, strong, "@\"UNNotificationAction\"", interactiveAction,
+      [](const OrvantaBaseModel& o) -> Value {
+        return static_cast<const Self&>(o).interactiveAction();
+      },
+      nullptr)
 };
 
 }  // namespace orvanta
