@@ -2,7 +2,9 @@
 #include <benchmark/benchmark.h>
 
 #include <atomic>
+#include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <new>
 
 #include "PushOperations.h"
@@ -19,7 +21,7 @@ void* operator new(std::size_t bytes) {
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t /*bytes*/) noexcept { std::free(memory); }
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
   using orvanta::benchmarks::PushOperations;
   const PushOperations operations;
   for (const PushOperations::Row& row : PushOperations::kAll) {
@@ -35,4 +37,7 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
   benchmark::RunSpecifiedBenchmarks();
+} catch (const std::exception& error) {
+  std::fprintf(stderr, "%s\n", error.what());
+  return 1;
 }

@@ -2,11 +2,12 @@
 // scripts/count-instructions.
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <string_view>
 
 #include "PushOperations.h"
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
   using orvanta::benchmarks::PushOperations;
   if (argc != 3) {
     std::fputs("usage: push_repeat OPERATION COUNT\n", stderr);
@@ -21,4 +22,7 @@ int main(int argc, char** argv) {
   }
   std::fprintf(stderr, "no operation \"%s\"\n", argv[1]);
   return 2;
+} catch (const std::exception& error) {
+  std::fprintf(stderr, "%s\n", error.what());
+  return 1;
 }

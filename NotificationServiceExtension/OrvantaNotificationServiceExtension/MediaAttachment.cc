@@ -45,8 +45,10 @@ void OrvantaNotificationServiceExtension::downloadAndSetMediaImageForNotificatio
   const Url* media = object ? object->mediaAttachmentURL().get() : nullptr;
   const Value mediaValue = orNil(media);
   logDebug(site(175), labelled("Start request with URL : ", mediaValue));
-  NSURLSession* session = Platform::current().sharedSession();
-  if (session == nullptr) {
+  Platform& platform = Platform::current();
+  NSURLSession* session = platform.sharedSession();
+  if (session == nullptr || platform.defaultManager() == nullptr ||
+      platform.typeIdentifiers() == nullptr || platform.attachments() == nullptr) {
     completionHandler(
         NSError::errorWithDomain(kNSURLErrorDomain, kNSURLErrorUnsupportedURL, "unsupported URL"));
     return;

@@ -88,6 +88,8 @@ struct UNNotificationContent {
   std::vector<Ref<UNNotificationAttachment>> attachments;
   /// Set by the platform's own update; the component does not touch it.
   std::optional<UNCommunication> communication;
+  /// Whatever an adapter carries along, such as the system's own content object; copies share it.
+  std::shared_ptr<const void> platformObject;
 };
 
 /// A content of one's own, made as a copy, to be changed before it is handed over.
@@ -169,14 +171,19 @@ class UNTextInputNotificationAction final : public UNNotificationAction {
                                                &UNNotificationAction::classObject()};
 };
 
-/// Buttons under an identifier; without intent identifiers and options.
+/// Buttons under an identifier. The component makes them without intent identifiers and options;
+/// those of a category that was read travel in the platform's object.
 struct UNNotificationCategory {
   std::string identifier;
   std::vector<Ref<UNNotificationAction>> actions;  // none is nil
+  std::shared_ptr<const void> platformObject{};    // an adapter's own, for one that was read
 
   /// By value over all fields, as the platform compares.
   friend bool operator==(const UNNotificationCategory& a, const UNNotificationCategory& b) {
-    if (a.identifier != b.identifier || a.actions.size() != b.actions.size()) return false;
+    if (a.identifier != b.identifier || a.actions.size() != b.actions.size() ||
+        a.platformObject != b.platformObject) {
+      return false;
+    }
     for (std::size_t i = 0; i < a.actions.size(); ++i) {
       if (!a.actions[i]->isEqual(b.actions[i])) return false;
     }

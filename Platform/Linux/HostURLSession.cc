@@ -71,10 +71,7 @@ void HostURLSession::downloadTaskWithURL(const std::optional<Url>& url,
 
 void HostURLSession::report(const TransferResult& result, const DownloadCompletion& completion) {
   if (result.error) {
-    timeline_.add(
-        "the download fails: " +
-        std::string(result.error->userInfo()[NSError::kLocalizedDescription].string().value_or(
-            "error " + std::to_string(result.error->code()))));
+    timeline_.add("the download fails: " + describe(result.error->localizedDescription()));
     completion(std::nullopt, result.response, result.error);
     return;
   }

@@ -1,8 +1,9 @@
 #include "Platform/Linux/NotificationHost.h"
 
 #include <algorithm>
-#include <fstream>
+#include <string_view>
 
+#include "Foundation/Description.h"
 #include "Platform/Linux/ClockAndLog.h"
 #include "Platform/Linux/Files.h"
 #include "Platform/Linux/HostBundle.h"
@@ -22,7 +23,8 @@ class ToldImages final : public Images {
   Ref<UIImage> imageNamed(std::string_view name) override {
     Ref<UIImage> image = images_.imageNamed(name);
     timeline_.add(image ? "the picture \"" + std::string(name) + "\" is found"
-                        : "there is no picture \"" + std::string(name) + "\" in the resources");
+                        : "there is no picture \"" + std::string(name) +
+                              "\" in the resources that can be decoded");
     return image;
   }
   std::optional<std::string> JPEGRepresentation(const Ref<UIImage>& image,
@@ -45,7 +47,8 @@ class ToldFiles final : public NSFileManager, public UNNotificationAttachmentFac
   std::vector<Url> URLsForCachesDirectory() override { return files_.URLsForCachesDirectory(); }
   Ref<NSError> moveItemAtURL(const Url& source, const Url& destination) override {
     Ref<NSError> error = files_.moveItemAtURL(source, destination);
-    timeline_.add(error ? "it cannot be moved into the caches: " + textOf(*error)
+    timeline_.add(error ? "it cannot be moved into the caches: " +
+                              describe(error->localizedDescription())
                         : "it is moved into the caches");
     return error;
   }
@@ -53,16 +56,12 @@ class ToldFiles final : public NSFileManager, public UNNotificationAttachmentFac
                                   const std::optional<std::string>& typeHint) override {
     Result result = attachments_.attachmentWithIdentifier(identifier, url, typeHint);
     timeline_.add(result.error ? "it cannot be attached as " + typeHint.value_or("no type") + ": " +
-                                     textOf(*result.error)
+                                     describe(result.error->localizedDescription())
                                : "it is attached as " + result.attachment->parts().type);
     return result;
   }
 
  private:
-  static std::string textOf(const NSError& error) {
-    return std::string(error.userInfo()[NSError::kLocalizedDescription].string().value_or(
-        error.domain() + " " + std::to_string(error.code())));
-  }
   HostFileManager files_;
   HostAttachmentFactory attachments_;
   Timeline& timeline_;
@@ -210,7 +209,17 @@ HostReport NotificationHost::run(const Dictionary& payload) {
     const double expiry =
         std::max(at, std::min(options_.scenario.expireAt.value_or(at + options_.timeBudget),
                               at + options_.timeBudget));
-    loop.schedule(at, [&, request, expiry] {
+    const auto expire = [&, request] {
+      const bool isDelivered = std::any_of(report.deliveries.begin(), report.deliveries.end(),
+                                           [&](const Delivery& d) { return d.request == request; });
+      if (isDelivered) return;
+      timeline.add("the time is over");
+      expiring = true;
+      extension->serviceExtensionTimeWillExpire();
+      expiring = false;
+    };
+    loop.schedule(at, [&, request, expiry, expire] {
+      loop.schedule(expiry, expire, /*urgent=*/true);
       timeline.add(request == 1 ? "the extension gets the request"
                                 : "the extension gets a second request");
       platform.session().setExpiry(expiry);
@@ -222,19 +231,6 @@ HostReport NotificationHost::run(const Dictionary& payload) {
             deliver(request, delivered);
           });
     });
-    loop.schedule(
-        expiry,
-        [&, request] {
-          const bool isDelivered =
-              std::any_of(report.deliveries.begin(), report.deliveries.end(),
-                          [&](const Delivery& d) { return d.request == request; });
-          if (isDelivered) return;
-          timeline.add("the time is over");
-          expiring = true;
-          extension->serviceExtensionTimeWillExpire();
-          expiring = false;
-        },
-        /*urgent=*/true);
   };
   start(0.0, payload);
   if (const auto& second = options_.scenario.second) start(second->at, second->payload);

@@ -6,6 +6,7 @@
 #include <map>
 
 #include "Foundation/Array.h"
+#include "Foundation/JSON.h"
 #include "Foundation/Number.h"
 
 namespace orvanta {
@@ -16,6 +17,14 @@ namespace {
 using Readers = std::map<std::string_view, std::function<void(const Value&)>>;
 
 [[noreturn]] void refuse(const std::string& what) { throw ScenarioError(what); }
+
+/// A value as its JSON text, or its kind when that is long.
+std::string shown(const Value& value) {
+  constexpr std::size_t kLongest = 60;
+  std::string text;
+  const bool isWhole = writeJSON(value, text, {.escapeSlashes = false});
+  return isWhole && text.size() <= kLongest ? text : std::string(value.kindName());
+}
 
 void readAll(const Dictionary& dictionary, const std::string& prefix, const Readers& readers) {
   for (const Dictionary::Entry& entry : dictionary) {
@@ -29,8 +38,8 @@ void readAll(const Dictionary& dictionary, const std::string& prefix, const Read
       // Errors of nested dictionaries name their key already.
       if (std::string_view(wanted.what()).starts_with("unknown key")) throw;
       if (std::string_view(wanted.what()).starts_with("\"")) throw;
-      refuse("\"" + prefix + std::string(entry.key()) + "\" is " +
-             std::string(entry.value.kindName()) + ", but " + wanted.what());
+      refuse("\"" + prefix + std::string(entry.key()) + "\" is " + shown(entry.value) + ", but " +
+             wanted.what());
     }
   }
 }
@@ -103,17 +112,22 @@ std::string fileName(const Value& value) {
 
 Scenario::Media readMedia(const Value& value) {
   Scenario::Media media;
-  readAll(
-      dictionary(value), "media.",
-      {{"result", [&](const Value& v) { media.fails = v.string() != "ok" && word(v, "error"); }},
-       {"code", [&](const Value& v) { media.errorCode = wholeNumber<int>(v, -100000, -1); }},
-       {"status", [&](const Value& v) { media.status = wholeNumber<int>(v, 100, 599); }},
-       {"mime", [&](const Value& v) { media.mime = textOrNull(v); }},
-       {"tempName", [&](const Value& v) { media.tempName = fileName(v); }},
-       {"bytes",
-        [&](const Value& v) { media.bytes = wholeNumber<std::uint64_t>(v, 0, 1'000'000'000); }},
-       {"destinationExists", [&](const Value& v) { media.destinationExists = flag(v); }},
-       {"delay", [&](const Value& v) { media.delay = seconds(v); }}});
+  readAll(dictionary(value), "media.",
+          {{"result",
+            [&](const Value& v) {
+              if (v.string() != "ok" && v.string() != "error") {
+                refuse("\"ok\" or \"error\" is needed");
+              }
+              media.fails = v.string() == "error";
+            }},
+           {"code", [&](const Value& v) { media.errorCode = wholeNumber<int>(v, -100000, -1); }},
+           {"status", [&](const Value& v) { media.status = wholeNumber<int>(v, 100, 599); }},
+           {"mime", [&](const Value& v) { media.mime = textOrNull(v); }},
+           {"tempName", [&](const Value& v) { media.tempName = fileName(v); }},
+           {"bytes",
+            [&](const Value& v) { media.bytes = wholeNumber<std::uint64_t>(v, 0, 1'000'000'000); }},
+           {"destinationExists", [&](const Value& v) { media.destinationExists = flag(v); }},
+           {"delay", [&](const Value& v) { media.delay = seconds(v); }}});
   return media;
 }
 
@@ -134,40 +148,39 @@ std::optional<OperatingSystemVersion> parseVersion(std::string_view text) {
 }
 
 Scenario Scenario::fromDictionary(const Dictionary& given) {
-  Scenario scenario;
+  Scenario made;
   readAll(given, "",
           {{"os",
             [&](const Value& v) {
-              scenario.os = parseVersion(text(v));
-              if (!scenario.os) refuse("a version such as \"15.0\" is needed");
+              made.os = parseVersion(text(v));
+              if (!made.os) refuse("a version such as \"15.0\" is needed");
             }},
-           {"title", [&](const Value& v) { scenario.title = textOrNull(v); }},
-           {"subtitle", [&](const Value& v) { scenario.subtitle = textOrNull(v); }},
-           {"body", [&](const Value& v) { scenario.body = textOrNull(v); }},
-           {"images", [&](const Value& v) { scenario.images = texts(v); }},
-           {"categories", [&](const Value& v) { scenario.categories = texts(v); }},
+           {"title", [&](const Value& v) { made.title = textOrNull(v); }},
+           {"subtitle", [&](const Value& v) { made.subtitle = textOrNull(v); }},
+           {"body", [&](const Value& v) { made.body = textOrNull(v); }},
+           {"images", [&](const Value& v) { made.images = texts(v); }},
+           {"categories", [&](const Value& v) { made.categories = texts(v); }},
            {"attachments",
-            [&](const Value& v) { scenario.attachments = wholeNumber<std::size_t>(v, 0, 100); }},
-           {"media", [&](const Value& v) { scenario.media = readMedia(v); }},
-           {"center", [&](const Value& v) { scenario.centerGone = word(v, "gone"); }},
-           {"donation", [&](const Value& v) { scenario.donationFails = word(v, "fail"); }},
-           {"update", [&](const Value& v) { scenario.updateFails = word(v, "fail"); }},
+            [&](const Value& v) { made.attachments = wholeNumber<std::size_t>(v, 0, 100); }},
+           {"media", [&](const Value& v) { made.media = readMedia(v); }},
+           {"center", [&](const Value& v) { made.centerGone = word(v, "gone"); }},
+           {"donation", [&](const Value& v) { made.donationFails = word(v, "fail"); }},
+           {"update", [&](const Value& v) { made.updateFails = word(v, "fail"); }},
            {"delays",
             [&](const Value& v) {
-              readAll(
-                  dictionary(v), "delays.",
-                  {{"categories", [&](const Value& d) { scenario.categoriesDelay = seconds(d); }},
-                   {"donation", [&](const Value& d) { scenario.donationDelay = seconds(d); }}});
+              readAll(dictionary(v), "delays.",
+                      {{"categories", [&](const Value& d) { made.categoriesDelay = seconds(d); }},
+                       {"donation", [&](const Value& d) { made.donationDelay = seconds(d); }}});
             }},
-           {"expireAt", [&](const Value& v) { scenario.expireAt = seconds(v); }},
+           {"expireAt", [&](const Value& v) { made.expireAt = seconds(v); }},
            {"second", [&](const Value& v) {
-              Second second;
+              Second again;
               readAll(dictionary(v), "second.",
-                      {{"at", [&](const Value& a) { second.at = seconds(a); }},
-                       {"payload", [&](const Value& p) { second.payload = dictionary(p); }}});
-              scenario.second = second;
+                      {{"at", [&](const Value& a) { again.at = seconds(a); }},
+                       {"payload", [&](const Value& p) { again.payload = dictionary(p); }}});
+              made.second = again;
             }}});
-  return scenario;
+  return made;
 }
 
 }  // namespace orvanta

@@ -48,7 +48,7 @@ struct Scenario {
   std::optional<Second> second;
 
   /// Throws ScenarioError that names the key.
-  static Scenario fromDictionary(const Dictionary& dictionary);
+  static Scenario fromDictionary(const Dictionary& given);
 };
 
 class ScenarioError : public std::runtime_error {

@@ -108,9 +108,9 @@ std::string attachmentLine(const UNNotificationAttachment::Parts& parts) {
 /// The notification as the user sees it.
 class ShownPrinter {
  public:
-  ShownPrinter(const HostReport& report, const Wishes& wishes, OperatingSystemVersion os,
+  ShownPrinter(const HostReport& report, Wishes wishes, OperatingSystemVersion os,
                const std::function<std::string(std::string_view)>& neutral, Lines& lines)
-      : report_(report), wishes_(wishes), os_(os), neutral_(neutral), lines_(lines) {}
+      : report_(report), wishes_(std::move(wishes)), os_(os), neutral_(neutral), lines_(lines) {}
 
   void print(const ShownNotification& shown) {
     const UNNotificationContent& content = shown.content;
@@ -185,7 +185,7 @@ class ShownPrinter {
   }
 
   const HostReport& report_;
-  const Wishes& wishes_;
+  Wishes wishes_;
   OperatingSystemVersion os_;
   const std::function<std::string(std::string_view)>& neutral_;
   Lines& lines_;
@@ -215,10 +215,14 @@ void printSheet(const Input& payload, const HostReport& report, OperatingSystemV
   if (report.deliveries.empty()) lines.row("", "nothing was delivered");
   for (const ShownNotification& shown : report.shown) {
     const bool isOriginal = shown.from == ShownNotification::From::original;
-    lines.heading("Shown", !report.launch.starts() ? "had the system started the extension"
-                           : isOriginal            ? "the original content"
-                                                   : "the delivered content");
-    ShownPrinter(report, wishes, os, neutral, lines).print(shown);
+    std::string heading = !report.launch.starts() ? "had the system started the extension"
+                          : isOriginal            ? "the original content"
+                                                  : "the delivered content";
+    if (report.shown.size() > 1) {
+      heading += " of request " + std::to_string(&shown - report.shown.data() + 1);
+    }
+    lines.heading("Shown", heading);
+    ShownPrinter(report, wishesOf(shown.content.userInfo), os, neutral, lines).print(shown);
   }
 }
 

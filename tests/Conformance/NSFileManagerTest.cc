@@ -27,8 +27,10 @@ struct DoubleFiles : DoubleSubject {
   }
   Url url(const std::string& name) const { return Url::fileURLWithPath("/" + name); }
   std::string content(const std::string& name) const {
+    std::string text;
     const auto found = platform.files.find("/" + name);
-    return std::string(found == platform.files.end() ? 0 : found->second, 'x');
+    if (found != platform.files.end()) text.assign(found->second, 'x');
+    return text;
   }
   bool withoutPermission(const std::function<void()>& work) {
     platform.lockedFolder = "/";

@@ -78,7 +78,7 @@ TYPED_TEST(UNUserNotificationCenterConformance, AnswersReadsInTheirOrder) {
 
 struct HostAttachments : HostSubject {
   Url addFile(const std::string& name, std::uint64_t bytes) {
-    const Url url = folder.write(name, "");
+    Url url = folder.write(name, "");
     std::filesystem::resize_file(folder / name, bytes);
     return url;
   }

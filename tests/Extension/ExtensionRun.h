@@ -47,7 +47,7 @@ class ExtensionRun {
   }
 
   /// Keeps the content and enters "NAME", "NAME nothing", "NAME media" … among the calls.
-  UNContentHandler handler(std::string name = "deliver") {
+  UNContentHandler handler(const std::string& name = "deliver") {
     return [this, name](const Content& content) {
       std::string call = name;
       if (content == nullptr) call += " nothing";

@@ -138,7 +138,7 @@ Ref<UIImage> FakePlatform::imageNamed(std::string_view name) {
   const std::string stem(name.substr(0, dot));
   const std::string extension(dot == std::string_view::npos ? ".png" : name.substr(dot));
   for (const char* const scale : {"@3x", "@2x", ""}) {
-    const std::string file = stem + scale + extension;
+    const std::string file = std::string(stem).append(scale).append(extension);
     if (pictures.contains(file)) return Ref<FakeImage>::adopt(new FakeImage(file));
   }
   return nullptr;
