@@ -1,7 +1,5 @@
 # Strict warnings for one of our own targets; third-party code is never compiled with them.
 function(orvanta_warnings target)
   target_compile_options(${target} PRIVATE
-    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
-    # g++ 12 at -O3 takes "literal" + std::string for an overlapping copy.
-    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
 endfunction()

@@ -32,7 +32,8 @@ std::optional<std::string> jpegData(std::string_view name) {
 /// The content's title as sender and its subtitle, if any, as group, with one picture for both.
 INSendMessageIntent intentFor(const UNNotificationContent& content, const INImage& picture) {
   INSendMessageIntent intent;
-  intent.sender = {.personHandle = {.value = content.title.value_or("")}, .image = picture};
+  intent.sender.personHandle.value = content.title.value_or("");
+  intent.sender.image = picture;
   if (!content.subtitle.value_or("").empty()) {
     intent.speakableGroupName = INSpeakableString{*content.subtitle};
     intent.recipients = {INPerson{}};

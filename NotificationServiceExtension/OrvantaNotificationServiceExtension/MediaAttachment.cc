@@ -28,6 +28,10 @@ auto labelled(std::string_view label, const std::optional<std::string>& text) {
   return [label, &text] { return std::string(label) + text.value_or("(null)"); };
 }
 
+Ref<NSError> unsupportedURL() {
+  return NSError::errorWithDomain(kNSURLErrorDomain, kNSURLErrorUnsupportedURL, "unsupported URL");
+}
+
 Value orNil(const Url* url) { return url != nullptr ? Value(*url) : Value(); }
 
 }  // namespace
@@ -35,7 +39,8 @@ Value orNil(const Url* url) { return url != nullptr ? Value(*url) : Value(); }
 std::optional<Url> OrvantaNotificationServiceExtension::cacheURL() {
   NSFileManager* files = Platform::current().defaultManager();
   if (files == nullptr) return std::nullopt;
-  return files->URLsForCachesDirectory().back();
+  const std::vector<Url> folders = files->URLsForCachesDirectory();
+  return folders.empty() ? std::nullopt : std::optional<Url>(folders.back());
 }
 
 void OrvantaNotificationServiceExtension::downloadAndSetMediaImageForNotificationContent(
@@ -49,8 +54,7 @@ void OrvantaNotificationServiceExtension::downloadAndSetMediaImageForNotificatio
   NSURLSession* session = platform.sharedSession();
   if (session == nullptr || platform.defaultManager() == nullptr ||
       platform.typeIdentifiers() == nullptr || platform.attachments() == nullptr) {
-    completionHandler(
-        NSError::errorWithDomain(kNSURLErrorDomain, kNSURLErrorUnsupportedURL, "unsupported URL"));
+    completionHandler(unsupportedURL());
     return;
   }
   session->downloadTaskWithURL(
@@ -64,7 +68,8 @@ void OrvantaNotificationServiceExtension::downloadAndSetMediaImageForNotificatio
           completionHandler(error);
           return;
         }
-        completionHandler(self->attach(*location, response, *content));
+        completionHandler(location ? self->attach(*location, response, *content)
+                                   : unsupportedURL());
       });
 }
 
@@ -78,7 +83,9 @@ Ref<NSError> OrvantaNotificationServiceExtension::attach(
   logDebug(site(191), labelled("MIME Type : ", mimeType));
   logDebug(site(192), labelled("UTI : ", type));
 
-  const Url destination = Url::fileURLWithPath(location.lastPathComponent(), *cacheURL());
+  const std::optional<Url> caches = cacheURL();
+  if (!caches) return unsupportedURL();
+  const Url destination = Url::fileURLWithPath(location.lastPathComponent(), *caches);
   if (Ref<NSError> error = platform.defaultManager()->moveItemAtURL(location, destination)) {
     logError(site(198), [&] { return "Attachment move error: " + error->debugDescription(); });
     return error;

@@ -33,7 +33,6 @@ std::optional<std::string_view> pushIcon(const OrvantaPushObject& object) {
 
 Ref<OrvantaPushObject> OrvantaNotificationServiceExtension::pushObject() const {
   if (bestAttemptContent_ == nullptr) return nullptr;  // no request yet
-  if (bestAttemptContent_ == nullptr) return nullptr;
   try {
     return make<OrvantaPushObject>(bestAttemptContent_->userInfo);
   } catch (const Exception&) {

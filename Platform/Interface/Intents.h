@@ -33,8 +33,6 @@ struct INSpeakableString {
 
 /// An intent without content, conversation identifier and service name.
 struct INSendMessageIntent {
-  static constexpr std::string_view kSpeakableGroupName = "speakableGroupName";
-
   std::optional<std::vector<INPerson>> recipients;
   int outgoingMessageType = 0;  // 0: INOutgoingMessageTypeUnknown
   std::optional<INSpeakableString> speakableGroupName;

@@ -27,6 +27,7 @@ class UNNotificationAttachment final : public Object {
     std::string type;                     // the type identifier that was settled on
     std::string family;                   // "Image", "Audio" or "Movie"
     std::uint64_t bytes = 0;
+    std::shared_ptr<const void> platformObject{};  // an adapter's own
   };
   static Ref<UNNotificationAttachment> attachmentWithParts(Parts parts) {
     return Ref<UNNotificationAttachment>::adopt(new UNNotificationAttachment(std::move(parts)));

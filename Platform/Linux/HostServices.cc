@@ -3,6 +3,7 @@
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+#include <system_error>
 
 #include "Foundation/Array.h"
 #include "Foundation/JSON.h"
@@ -46,8 +47,11 @@ HostNotificationCenter::HostNotificationCenter(EventLoop& loop, Timeline& timeli
       timeline_(timeline),
       file_(stateFolder / "categories.json"),
       readDelay_(readDelay) {
+  if (!std::filesystem::exists(file_)) return;
   std::ifstream in(file_, std::ios::binary);
-  if (!in) return;
+  if (!std::filesystem::is_regular_file(file_) || !in) {
+    throw std::runtime_error(file_.string() + ": cannot be read");
+  }
   const std::string text(std::istreambuf_iterator<char>(in), {});
   const Value stored = parseJSON(text);
   if (stored.array() == nullptr) {
@@ -80,7 +84,13 @@ void HostNotificationCenter::setNotificationCategories(
   categories_ = categories;
   wasWritten_ = true;
   timeline_.add(counted(categories.size(), "category", "categories") + " registered");
-  std::ofstream(file_, std::ios::binary) << jsonText(categoriesAsJSON(categories_), true) << '\n';
+  // Whole or not at all: another reader never sees half of it.
+  const std::filesystem::path fresh = file_.string() + ".new";
+  std::ofstream out(fresh, std::ios::binary);
+  out << jsonText(categoriesAsJSON(categories_), true) << '\n';
+  std::error_code error;
+  if (out.flush()) std::filesystem::rename(fresh, file_, error);
+  if (!out || error) failure_ = file_.string() + ": cannot be written";
 }
 
 Array actionsAsJSON(const std::vector<Ref<UNNotificationAction>>& actions) {
@@ -145,8 +155,9 @@ void HostIntents::donateInteraction(const INInteraction& interaction, ErrorCompl
                                               "The interaction could not be donated."));
           return;
         }
-        std::ofstream(file_, std::ios::binary | std::ios::app)
-            << jsonText(donationAsJSON(donations_.back()), false) << '\n';
+        std::ofstream out(file_, std::ios::binary | std::ios::app);
+        out << jsonText(donationAsJSON(donations_.back()), false) << '\n';
+        if (!out.flush()) failure_ = file_.string() + ": cannot be written";
         completion(nullptr);
       });
 }

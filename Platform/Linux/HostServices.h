@@ -27,6 +27,8 @@ class HostNotificationCenter final : public UNUserNotificationCenter {
   void setNotificationCategories(const UNNotificationCategorySet& categories) override;
 
   const UNNotificationCategorySet& categories() const { return categories_; }
+  /// Why the file could not be written; empty when it could.
+  const std::string& failure() const { return failure_; }
   /// Whether anything was registered since the center was made.
   bool wasWritten() const { return wasWritten_; }
 
@@ -37,6 +39,7 @@ class HostNotificationCenter final : public UNUserNotificationCenter {
   double readDelay_;
   UNNotificationCategorySet categories_;
   bool wasWritten_ = false;
+  std::string failure_;
 };
 
 /// The categories as JSON: [{"identifier","actions":[{"identifier","title","options",
@@ -69,6 +72,7 @@ class HostIntents final : public Intents {
                            const INSendMessageIntent& provider) override;
 
   const std::vector<Donation>& donations() const { return donations_; }
+  const std::string& failure() const { return failure_; }
 
  private:
   EventLoop& loop_;
@@ -76,6 +80,7 @@ class HostIntents final : public Intents {
   std::filesystem::path file_;
   Behaviour behaviour_;
   std::vector<Donation> donations_;
+  std::string failure_;
 };
 
 }  // namespace orvanta

@@ -1,8 +1,13 @@
 #include "Platform/Linux/HostURLSession.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <fstream>
+#include <stdexcept>
 #include <system_error>
 
 #include "Foundation/CharacterSet.h"
@@ -15,6 +20,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::int64_t kNoPermission = -1102;
+constexpr std::int64_t kCannotWriteToFile = -3003;
 constexpr double kGraceAfterExpiry = 5.0;  // seconds
 
 /// Whether a path lies below a folder, links followed.
@@ -28,18 +34,26 @@ bool liesBelow(const fs::path& path, const fs::path& folder) {
   return end == root.end();
 }
 
-/// Copies at most that many bytes; false when there are more.
-bool copyFile(const fs::path& from, const fs::path& to, std::uint64_t most) {
+/// Makes a new empty file; false when there is something of that name, be it a dangling link.
+bool makeNewFile(const fs::path& file) {
+  const int made = open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
+  return made >= 0 && close(made) == 0;
+}
+
+/// Copies a file over an empty one. 0, or the code of NSURLErrorDomain.
+std::int64_t copyFile(const fs::path& from, const fs::path& to, std::uint64_t most) {
   std::ifstream in(from, std::ios::binary);
+  if (!in) return kNoPermission;
   std::ofstream out(to, std::ios::binary);
   char buffer[65536];
   std::uint64_t copied = 0;
   while (in.read(buffer, sizeof buffer), in.gcount() > 0) {
     copied += static_cast<std::uint64_t>(in.gcount());
-    if (copied > most) return false;
-    out.write(buffer, in.gcount());
+    if (copied > most) return kNSURLErrorDataLengthExceedsMaximum;
+    if (!out.write(buffer, in.gcount())) return kCannotWriteToFile;
   }
-  return true;
+  if (in.bad()) return kNoPermission;
+  return out.flush() ? 0 : kCannotWriteToFile;
 }
 
 std::string sizeText(const fs::path& file) {
@@ -143,12 +157,10 @@ TransferResult HostURLSession::fetchFile(const fs::path& folder, const std::stri
   if (!isThere && !overHTTP) return {std::nullopt, nullptr, urlError(-1100, url)};
   const fs::path temporary = newTemporaryFile();
   if (isThere) {
-    if (!copyFile(file, temporary, options_.limits.bytes)) {
+    if (const std::int64_t code = copyFile(file, temporary, options_.limits.bytes); code != 0) {
       fs::remove(temporary, error);
-      return {std::nullopt, nullptr, urlError(kNSURLErrorDataLengthExceedsMaximum, url)};
+      return {std::nullopt, nullptr, urlError(code, url)};
     }
-  } else {
-    std::ofstream(temporary, std::ios::binary).flush();
   }
   const auto extension = file.extension().string();
   const auto mime =
@@ -166,11 +178,12 @@ TransferResult HostURLSession::answer(const Scenario::Media& media, const Url& u
   if (media.fails) return {std::nullopt, nullptr, urlError(media.errorCode, url)};
   const fs::path temporary =
       media.tempName ? options_.temporaryFolder / *media.tempName : newTemporaryFile();
-  std::ofstream(temporary, std::ios::binary).flush();
+  if (media.tempName && !makeNewFile(temporary)) {
+    return {std::nullopt, nullptr, urlError(kNSURLErrorCannotCreateFile, url)};
+  }
   fs::resize_file(temporary, media.bytes);
   if (media.destinationExists) {
-    std::ofstream(options_.cachesFolder / temporary.filename(), std::ios::binary | std::ios::app)
-        .flush();
+    makeNewFile(options_.cachesFolder / temporary.filename());
   }
   NSURLResponse::Parts parts{url, media.mime, media.status, {}};
   if (media.mime) parts.headers.emplace_back("Content-Type", *media.mime);
@@ -179,13 +192,16 @@ TransferResult HostURLSession::answer(const Scenario::Media& media, const Url& u
 }
 
 fs::path HostURLSession::newTemporaryFile() const {
-  for (int number = 1;; ++number) {
+  constexpr int kMost = 100'000;  // a folder that takes no file ends the search
+  for (int number = 1; number <= kMost; ++number) {
     char name[64];
     std::snprintf(name, sizeof name, "CFNetworkDownload_%06d.tmp", number);
-    const bool isTaken =
-        fs::exists(options_.temporaryFolder / name) || fs::exists(options_.cachesFolder / name);
-    if (!isTaken) return options_.temporaryFolder / name;
+    const bool isCached = fs::exists(fs::symlink_status(options_.cachesFolder / name));
+    if (!isCached && makeNewFile(options_.temporaryFolder / name)) {
+      return options_.temporaryFolder / name;
+    }
   }
+  throw std::runtime_error(options_.temporaryFolder.string() + ": no file can be made");
 }
 
 }  // namespace orvanta

@@ -54,7 +54,8 @@ class HostURLSession final : public NSURLSession {
   TransferResult fetchFile(const std::filesystem::path& folder, const std::string& below,
                            const Url& url, bool overHTTP);
   TransferResult answer(const Scenario::Media& media, const Url& url);
-  /// A name in the platform's form that neither folder has: the same ones in every run.
+  /// A new file whose name, in the platform's form, the caches do not have: the same names in
+  /// every run.
   std::filesystem::path newTemporaryFile() const;
   void report(const TransferResult& result, const DownloadCompletion& completion);
 

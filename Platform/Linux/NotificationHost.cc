@@ -1,6 +1,7 @@
 #include "Platform/Linux/NotificationHost.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <string_view>
 
 #include "Foundation/Description.h"
@@ -195,6 +196,7 @@ HostReport NotificationHost::run(const Dictionary& payload) {
     if (first) {
       ShownNotification& shown = report.shown[static_cast<std::size_t>(request) - 1];
       shown.from = ShownNotification::From::delivery;
+      shown.steps.second = timeline.steps().size();
       shown.content = *content;
     }
   };
@@ -219,6 +221,7 @@ HostReport NotificationHost::run(const Dictionary& payload) {
       expiring = false;
     };
     loop.schedule(at, [&, request, expiry, expire] {
+      report.shown[static_cast<std::size_t>(request) - 1].steps.first = timeline.steps().size();
       loop.schedule(expiry, expire, /*urgent=*/true);
       timeline.add(request == 1 ? "the extension gets the request"
                                 : "the extension gets a second request");
@@ -237,10 +240,17 @@ HostReport NotificationHost::run(const Dictionary& payload) {
   loop.run();
 
   for (ShownNotification& shown : report.shown) {
+    if (shown.from == ShownNotification::From::original) {
+      shown.steps.second = timeline.steps().size();
+    }
     shown.buttons = buttonsOf(shown.content, platform.center().categories());
   }
   if (platform.center().wasWritten()) report.categories = platform.center().categories();
   report.donations = platform.hostIntents().donations();
+  for (const std::string& failure :
+       {platform.center().failure(), platform.hostIntents().failure()}) {
+    if (!failure.empty()) throw std::runtime_error(failure);
+  }
   report.steps = timeline.steps();
   return report;
 }

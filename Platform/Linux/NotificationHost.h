@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Platform/Interface/UserNotifications.h"
@@ -33,6 +34,8 @@ struct ShownNotification {
   From from;
   UNNotificationContent content;
   std::vector<Ref<UNNotificationAction>> buttons;  // of the content's category, if it is registered
+  /// The steps from the request to the delivery that counted, or to the end: first, one past last.
+  std::pair<std::size_t, std::size_t> steps{};
 };
 
 /// Everything that came of a payload.

@@ -1,6 +1,10 @@
+#include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
+#include <cctype>
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
@@ -35,8 +39,13 @@ class StateFolder {
     } else {
       std::error_code error;
       fs::create_directories(named, error);
-      if (error) throw Failure(ExitCode::unreadable, named + ": " + error.message());
+      if (error) throw Failure(ExitCode::unreadable, printable(named) + ": " + error.message());
       path_ = fs::canonical(named);
+      // One run at a time: another one on this folder waits here.
+      lock_ = open((path_ / ".lock").c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600);
+      if (lock_ < 0 || flock(lock_, LOCK_EX) != 0) {
+        throw Failure(ExitCode::unreadable, printable(named) + ": the folder cannot be locked");
+      }
     }
   }
   StateFolder(const StateFolder&) = delete;
@@ -44,6 +53,7 @@ class StateFolder {
   ~StateFolder() {
     std::error_code ignored;
     if (isTemporary_) fs::remove_all(path_, ignored);
+    if (lock_ >= 0) close(lock_);
   }
 
   const fs::path& path() const { return path_; }
@@ -52,8 +62,12 @@ class StateFolder {
     std::string result(text);
     const std::string url(Url::fileURLWithPath(path_.string() + "/").absoluteString());
     for (const std::string& from : {url, path_.string() + "/"}) {
-      for (auto at = result.find(from); at != std::string::npos; at = result.find(from, at + 6)) {
-        result.replace(at, from.size(), "state/");
+      for (auto at = result.find(from); at != std::string::npos; at = result.find(from, at + 1)) {
+        // Not inside a longer path.
+        const char before = at == 0 ? ' ' : result[at - 1];
+        const bool isInside = std::isalnum(static_cast<unsigned char>(before)) != 0 ||
+                              std::string_view("/._-%").find(before) != std::string_view::npos;
+        if (!isInside) result.replace(at, from.size(), "state/");
       }
     }
     return result;
@@ -61,6 +75,7 @@ class StateFolder {
 
  private:
   bool isTemporary_;
+  int lock_ = -1;
   fs::path path_;
 };
 
@@ -72,7 +87,7 @@ UrlMapping mappingFrom(const std::string& argument) {
   }
   UrlMapping mapping{argument.substr(0, equals), argument.substr(equals + 1)};
   if (mapping.isFolder() && !fs::is_directory(mapping.target)) {
-    throw Failure(ExitCode::unreadable, mapping.target + ": no such folder (--map-url)");
+    throw Failure(ExitCode::unreadable, printable(mapping.target) + ": no such folder (--map-url)");
   }
   return mapping;
 }
@@ -120,7 +135,10 @@ void drawProgress(std::uint64_t received, std::uint64_t expected) {
 
 }  // namespace
 
-ExitCode notify(const NotifyOptions& options, const Streams& streams) {
+static ExitCode runNotify(const NotifyOptions& options, const Streams& streams) {
+  if (!std::isfinite(options.timeBudget)) {
+    throw Failure(ExitCode::usage, "--time-budget: a finite number of seconds is needed");
+  }
   if (options.payload == "-" && options.scenario == "-") {
     throw Failure(ExitCode::usage, "standard input can be read only once");
   }
@@ -135,7 +153,8 @@ ExitCode notify(const NotifyOptions& options, const Streams& streams) {
     host.scenario.os = *version;
   }
   if (!options.resources.empty() && !fs::is_directory(options.resources)) {
-    throw Failure(ExitCode::unreadable, options.resources + ": no such folder (--resources)");
+    throw Failure(ExitCode::unreadable,
+                  printable(options.resources) + ": no such folder (--resources)");
   }
   host.resources = options.resources;
   for (const std::string& mapping : options.mapUrls) {
@@ -166,8 +185,10 @@ ExitCode notify(const NotifyOptions& options, const Streams& streams) {
   HostReport report;
   try {
     report = runner.run(input.object);
+  } catch (const fs::filesystem_error&) {
+    throw;
   } catch (const std::runtime_error& error) {
-    throw Failure(ExitCode::unreadable, error.what());
+    throw Failure(ExitCode::unreadable, printable(error.what()));
   }
   if (isDrawn) streams.err << "\r\033[K";
   if (options.json) {
@@ -176,6 +197,16 @@ ExitCode notify(const NotifyOptions& options, const Streams& streams) {
     printSheet(input, report, os, neutral, streams.out);
   }
   return ExitCode::done;
+}
+
+ExitCode notify(const NotifyOptions& options, const Streams& streams) {
+  try {
+    return runNotify(options, streams);
+  } catch (const fs::filesystem_error& error) {
+    throw Failure(ExitCode::unreadable,
+                  (error.path1().empty() ? "temporary folder" : printable(error.path1().string())) +
+                      ": " + error.code().message());
+  }
 }
 
 }  // namespace orvanta::tool

