@@ -16,7 +16,11 @@ namespace {
 /// Readers of one dictionary's keys; every key that stands in it must have one.
 using Readers = std::map<std::string_view, std::function<void(const Value&)>>;
 
-[[noreturn]] void refuse(const std::string& what) { throw ScenarioError(what); }
+/// What a key needs instead of the value that it has.
+struct Needed {
+  std::string text;
+};
+[[noreturn]] void refuse(const std::string& needed) { throw Needed{needed}; }
 
 /// A value as its JSON text, or its kind when that is long.
 std::string shown(const Value& value) {
@@ -29,17 +33,12 @@ std::string shown(const Value& value) {
 void readAll(const Dictionary& dictionary, const std::string& prefix, const Readers& readers) {
   for (const Dictionary::Entry& entry : dictionary) {
     const auto reader = readers.find(entry.key());
-    if (reader == readers.end()) {
-      refuse("unknown key \"" + prefix + std::string(entry.key()) + "\"");
-    }
+    const std::string key = "\"" + prefix + std::string(entry.key()) + "\"";
+    if (reader == readers.end()) throw ScenarioError("unknown key " + key);
     try {
       reader->second(entry.value);
-    } catch (const ScenarioError& wanted) {
-      // Errors of nested dictionaries name their key already.
-      if (std::string_view(wanted.what()).starts_with("unknown key")) throw;
-      if (std::string_view(wanted.what()).starts_with("\"")) throw;
-      refuse("\"" + prefix + std::string(entry.key()) + "\" is " + shown(entry.value) + ", but " +
-             wanted.what());
+    } catch (const Needed& needed) {
+      throw ScenarioError(key + " is " + shown(entry.value) + ", but " + needed.text);
     }
   }
 }
