@@ -281,6 +281,9 @@ bool Transfer::prepare() {
   };
   option(CURLOPT_NOSIGNAL, 1L);
   option(CURLOPT_QUICK_EXIT, 1L);  // a resolver that hangs is left behind
+  // A server may close behind its answer to a redirect without having said so; asking on that
+  // connection again would then fail now and then.
+  option(CURLOPT_FORBID_REUSE, 1L);
   option(CURLOPT_PROTOCOLS_STR, "http,https");
   option(CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
   option(CURLOPT_FOLLOWLOCATION, 0L);

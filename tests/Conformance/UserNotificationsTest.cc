@@ -99,7 +99,9 @@ TYPED_TEST(UNNotificationAttachmentFactoryConformance, ChecksTypeAndSize) {
       {"a.mp3", 1, "public.jpeg", 0, "public.jpeg"},  // the hint comes first
       {"a.tmp", 10'000'000, "public.jpeg", 0, "public.jpeg"},
       {"a.tmp", 10'000'001, "public.jpeg", 102, ""},
+      {"a.tmp", 5'000'000, "public.mp3", 0, "public.mp3"},
       {"a.tmp", 5'000'001, "public.mp3", 102, ""},
+      {"a.tmp", 50'000'000, "public.mpeg-4", 0, "public.mpeg-4"},
       {"a.tmp", 50'000'001, "public.mpeg-4", 102, ""},
       {"a.tmp", 1, std::nullopt, 101, ""},
       {"a.jpg", 1, "public.plain-text", 101, ""},

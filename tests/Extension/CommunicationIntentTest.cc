@@ -68,7 +68,8 @@ TEST_F(CommunicationIntent, WithoutIconTheContentIsDeliveredAtOnce) {
 
 TEST_F(CommunicationIntent, TheTitleIsTheSenderAndTheSubtitleTheGroup) {
   content_->title = std::nullopt;
-  for (const std::optional<std::string>& group : {std::optional<std::string>(), {""}, {"Friends"}}) {
+  for (const std::optional<std::string>& group :
+       {std::optional<std::string>(), {""}, {"Friends"}}) {
     content_->subtitle = group;
     setIntent();
     platform.runAll();

@@ -5,7 +5,6 @@ namespace {
 
 const std::string kPayload = payloadWith({kMedia});
 
-
 /// An extension with a plain best attempt, and a content that has two attachments.
 class MediaAttachment : public ::testing::Test, protected ExtensionRun {
  protected:

@@ -63,24 +63,6 @@ TEST(UserNotificationAction, WhatIsNoTextIsAnEmptyIdentifierOrTitle) {
   }
 }
 
-TEST(UserNotificationCategory, HasTheActionsInOrder) {
-  const struct {
-    std::string_view json;
-    std::string_view summary;
-  } rows[] = {
-      {R"({"id": "c", "ia": [{"id": "b"}, {"id": "a"}, {"id": "b"}]})", "c(b a b)"},
-      {R"({"id": "c", "ia": ["x", {"id": "a"}, 5, null]})", "c(a)"},
-      {R"({"id": "c", "ia": "a"})", "c()"},
-      {R"({"id": 5})", "()"},
-  };
-  for (const auto& row : rows) {
-    const auto model = made<OrvantaUserNotificationCategory>(row.json);
-    UNNotificationCategorySet set;
-    set.insert(model->category());
-    EXPECT_EQ(summary(set), row.summary) << row.json;
-  }
-}
-
 TEST(NotificationHelper, FixedTitlesAreTheBundlesOrElseTheirKeys) {
   const auto titles = [] {
     std::string text;
@@ -98,16 +80,6 @@ TEST(NotificationHelper, FixedTitlesAreTheBundlesOrElseTheirKeys) {
   EXPECT_EQ(titles(), "[Weiter][Öffnen]");
   platform.absent = {"bundle"};
   EXPECT_EQ(titles(), "[►►][Go To App 🚀]");
-}
-
-TEST(NotificationHelper, APayloadsCategoryMayBearAFixedIdentifier) {
-  FakePlatform platform;
-  const auto set = NotificationHelper::setForCategories(Array{
-      made<OrvantaUserNotificationCategory>(R"({"id": "OrvantaCarousel", "ia": [{"id": "x"}]})")});
-  EXPECT_EQ(summary(set), "OrvantaCarousel(forward goToApp) OrvantaGeneral() OrvantaCarousel(x)");
-  NotificationHelper::setNotificationCategories(set, platform.center, {});
-  platform.runAll();
-  EXPECT_EQ(summary(platform.center->registered), "OrvantaCarousel(x) OrvantaGeneral()");
 }
 
 TEST(NotificationHelper, ANewCategoryReplacesOneOfItsIdentifierAndTheOthersStay) {

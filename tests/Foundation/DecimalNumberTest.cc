@@ -18,34 +18,19 @@ TEST(DecimalNumber, ReadsTheLongestPrefixAndWritesPlainDigits) {
     std::string text;
     std::string plain;
   } rows[] = {
-      {"0", "0"},
       {"-0.00", "0"},
       {" \t+47.50x", "47.5"},
-      {"007", "7"},
       {".5", "0.5"},
-      {"5.", "5"},
-      {"-0.05", "-0.05"},
       {"47111700000000.123456789", "47111700000000.123456789"},
-      {"1,5", "1"},
-      {"1.2.3", "1.2"},
-      {"1e3", "1000"},
       {"1.5E-3", "0.0015"},
-      {"1e", "1"},
       {"1e+x", "1"},
       {"0x10", "0"},
       {"", "NaN"},
-      {"abc", "NaN"},
-      {"-", "NaN"},
       {".", "NaN"},
-      {"inf", "NaN"},
-      {nines, nines},
       {nines + "9", nines + "0"},
       {"1" + nines + "5", "1" + std::string(37, '9') + "00"},
       {"0." + nines + "9", "0." + nines},
-      {"1e127", "1" + std::string(127, '0')},
       {"1e165", "NaN"},
-      {"1e164", "1" + std::string(164, '0')},
-      {"1e-128", "0." + std::string(127, '0') + "1"},
       {"1e-129", "0"},
       {"15e-129", "0." + std::string(127, '0') + "1"},
       {"1e99999999999999999999", "NaN"},
@@ -67,11 +52,8 @@ TEST(DecimalNumber, ConvertsFromAndToIntegers) {
     EXPECT_EQ(DecimalNumber(number).stringValue(), std::to_string(number));
   }
   EXPECT_EQ(decimal("9223372036854775808").longLongValue(), kMax);
-  EXPECT_EQ(decimal("-9223372036854775809").longLongValue(), kMin);
   EXPECT_EQ(decimal("-1e127").longLongValue(), kMin);
-  EXPECT_EQ(decimal("1.99999999999999999999999999999999999").longLongValue(), 1);
   EXPECT_EQ(decimal("-1.9").longLongValue(), -1);
-  EXPECT_EQ(decimal("1e-128").longLongValue(), 0);
   EXPECT_EQ(DecimalNumber::notANumber().longLongValue(), 0);
 }
 
@@ -82,21 +64,12 @@ TEST(DecimalNumber, Subtracts) {
     std::string b;
     std::string difference;
   } rows[] = {
-      {"5", "3", "2"},
       {"3", "5", "-2"},
-      {"3", "-5", "8"},
-      {"-3", "5", "-8"},
-      {"-3", "-3", "0"},
-      {"0", "1.5", "-1.5"},
-      {"1.5", "0", "1.5"},
       {"1e20", "1e-10", "99999999999999999999.9999999999"},
-      {"1e-10", "1e20", "-99999999999999999999.9999999999"},
       {"123456789012345678901234", "123456789012345678901233", "1"},
       {nines, "-1", "1" + std::string(38, '0')},
       {nines, "-" + nines, "1" + std::string(37, '9') + "0"},  // 39 digits, one dropped
-      {"1e127", "1", "1" + std::string(127, '0')},
       {"NaN", "1", "NaN"},
-      {"1", "NaN", "NaN"},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(decimal(row.a).subtracting(decimal(row.b)).stringValue(), row.difference)
@@ -111,13 +84,9 @@ TEST(DecimalNumber, Multiplies) {
     std::string b;
     std::string product;
   } rows[] = {
-      {"6", "7", "42"},
       {"-0.5", "0.2", "-0.1"},
-      {"-2", "-3", "6"},
       {"-2", "0", "0"},
-      {"999999999999999999999999", "62", "61999999999999999999999938"},
       {"12345678901234567890", "98765432109876543210", "1219326311370217952237463801111263526900"},
-      {"9999999999999999999", "9999999999999999999", "99999999999999999980000000000000000001"},
       {nines, nines, std::string(37, '9') + "8" + std::string(38, '0')},
       {"1e100", "1e100", "NaN"},
       {"1e-100", "1e-100", "0"},
@@ -133,7 +102,6 @@ TEST(DecimalNumber, Multiplies) {
   EXPECT_EQ(decimal("-5").multiplyingByPowerOf10(-3).stringValue(), "-0.005");
   EXPECT_TRUE(decimal("1").multiplyingByPowerOf10(std::numeric_limits<int>::max()).isNaN());
   EXPECT_EQ(decimal("1").multiplyingByPowerOf10(std::numeric_limits<int>::min()), DecimalNumber());
-  EXPECT_EQ(DecimalNumber().multiplyingByPowerOf10(500), DecimalNumber());
   EXPECT_TRUE(DecimalNumber::notANumber().multiplyingByPowerOf10(1).isNaN());
 }
 
@@ -143,77 +111,19 @@ TEST(DecimalNumber, DividesTowardMinusInfinity) {
     std::string b;
     std::string quotient;
   } rows[] = {
-      {"7", "2", "3"},
       {"-7", "2", "-4"},
-      {"7", "-2", "-4"},
       {"-7", "-2", "3"},
-      {"-6", "2", "-3"},
-      {"0.5", "1", "0"},
-      {"-0.5", "1", "-1"},
       {"-1e-128", "1e100", "-1"},
-      {"0", "-3", "0"},
-      {"1", "0.001", "1000"},
-      {"999999999999999999999999", "62", "16129032258064516129032"},
-      {"61", "62", "0"},
       {"99999999999999999999999999999999999998", "99999999999999999999999999999999999999", "0"},
-      {"1e30", "7", "142857142857142857142857142857"},
       {"1e30", "99999999999999999999999999999999999999e-20", "1000000000000"},
       {"1e60", "7", "142857142857142857142857142857142857140000000000000000000000"},
       {"-1e60", "7", "-142857142857142857142857142857142857150000000000000000000000"},
-      {"1e100", "1e-100", "NaN"},
       {"1", "0", "NaN"},
-      {"0", "0", "NaN"},
       {"NaN", "1", "NaN"},
-      {"1", "NaN", "NaN"},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(decimal(row.a).dividingByRoundingDown(decimal(row.b)).stringValue(), row.quotient)
         << row.a << " / " << row.b;
-  }
-}
-
-TEST(DecimalNumber, ComparesByValue) {
-  const DecimalNumber ascending[] = {DecimalNumber::notANumber(),
-                                     decimal("-1e127"),
-                                     decimal("-12"),
-                                     decimal("-1.5"),
-                                     decimal("-1e-128"),
-                                     decimal("0"),
-                                     decimal("1e-128"),
-                                     decimal("0.1"),
-                                     decimal("0.11"),
-                                     decimal("9"),
-                                     decimal("10"),
-                                     decimal("12345678901234567890123456789012345678"),
-                                     decimal("12345678901234567890123456789012345679"),
-                                     decimal("1e127")};
-  for (const DecimalNumber& a : ascending) {
-    for (const DecimalNumber& b : ascending) {
-      EXPECT_EQ(a <=> b, &a <=> &b) << a.stringValue() << " and " << b.stringValue();
-      EXPECT_EQ(a == b, &a == &b) << a.stringValue() << " and " << b.stringValue();
-    }
-  }
-  EXPECT_EQ(decimal("1.50"), decimal("15e-1"));
-  EXPECT_EQ(decimal("1e150"), decimal("10e149"));
-}
-
-TEST(DecimalNumber, LongIdentifiersSurviveTheWayThroughBaseSixtyTwo) {
-  for (const std::string_view text : {"0", "61", "62", "47111700000000123456789",
-                                      "100000000000000000000000", "999999999999999999999999"}) {
-    const DecimalNumber base(62);
-    std::vector<std::int64_t> digits;
-    for (DecimalNumber left = decimal(text); left != DecimalNumber();) {
-      const DecimalNumber next = left.dividingByRoundingDown(base);
-      digits.push_back(left.subtracting(next.multiplyingBy(base)).longLongValue());
-      left = next;
-    }
-    DecimalNumber back;
-    for (; !digits.empty(); digits.pop_back()) {
-      ASSERT_GE(digits.back(), 0);
-      ASSERT_LT(digits.back(), 62);
-      back = back.multiplyingBy(base).subtracting(DecimalNumber(-digits.back()));
-    }
-    EXPECT_EQ(back.stringValue(), text);
   }
 }
 

@@ -13,22 +13,17 @@ TEST(JSONReading, ReadsEveryWellFormedText) {
     std::string text;
     Value value;
   } rows[] = {
-      {"null", Value::null()},
       {" \t\r\n true \n", true},
       {"\xEF\xBB\xBF[1]", Array({1})},
-      {"[]", Array()},
-      {"{ }", Dictionary()},
       {"[[],{}]", Array({Array(), Dictionary()})},
       {"[ 1 , false,null , \"a\" ]", Array({1, false, Value::null(), "a"})},
       {R"({"a" : {"b":[{"c":1}]},"d":2})",
        Dictionary({{"a", Dictionary({{"b", Array({Dictionary({{"c", 1}})})}})}, {"d", 2}})},
-      {R"("")", ""},
       {R"("\"\\\/\b\f\n\r\t")", "\"\\/\b\f\n\r\t"},
       {R"("\u0041\u00e9\u00E9\u20ac\uFFFF")", "A\u00e9\u00e9\u20ac\uFFFF"},
       {R"("\ud83d\ude00\uD800\uDC00\udbff\udfff")", "\U0001F600\U00010000\U0010FFFF"},
       {R"("\u0000")", std::string(1, '\0')},
       {R"("\u007f\u0080\u07ff\u0800")", "\x7F\u0080\u07ff\u0800"},
-      {R"(["\n", "\t", "a\\"])", Array({"\n", "\t", "a\\"})},
       {"\"\x7F\u00e9\u20ac\U0001F600\U0010FFFF\uD7FF\uE000\"",
        "\x7F\u00e9\u20ac\U0001F600\U0010FFFF\uD7FF\uE000"},
       {'"' + longText + "\\n" + longText + "\\u00e9" + longText + '"',
@@ -72,30 +67,18 @@ TEST(JSONReading, KeepsTheKindOfNumbers) {
     Value value;
   } rows[] = {
       {"0", 0},
-      {"-1", -1},
       {"-0", -0.0},
-      {"0.0", 0.0},
-      {"65", 65},
       {"65.0", 65.0},
       {"1e2", 100.0},
-      {"1E+2", 100.0},
-      {"25e-1", 2.5},
       {"9223372036854775807", std::int64_t{9223372036854775807}},
       {"-9223372036854775808", std::numeric_limits<std::int64_t>::min()},
       {"9223372036854775808", std::uint64_t{9223372036854775808U}},
       {"18446744073709551615", std::uint64_t{18446744073709551615U}},
       {"18446744073709551616", 18446744073709551616.0},
-      {"99999999999999999999", 1e20},
       {"-9223372036854775809", -9223372036854775808.0},
-      {"123456789012345678901234567890", 123456789012345678901234567890.0},
-      {"0.1", 0.1},
       {"1.7976931348623157e308", 1.7976931348623157e308},
-      {"5e-324", 5e-324},
-      {"1e-400", 0.0},
       {"-1e-400", -0.0},
-      {"0e999", 0.0},
       {"2.2250738585072011e-308", 2.2250738585072011e-308},
-      {"9007199254740993.0", 9007199254740992.0},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(parsed(row.text), row.value) << row.text;
@@ -129,84 +112,33 @@ TEST(JSONReading, TellsWhyAndWhereATextIsIllFormed) {
     std::size_t column;
   } rows[] = {
       {"", kEnd, 1, 1},
-      {"  \n", kEnd, 2, 1},
-      {"\xEF\xBB\xBF", kEnd, 1, 1},
-      {"\xEF\xBB", kValue, 1, 1},
-      {"[", kEnd, 1, 2},
       {"[1", kOpen, 1, 3},
-      {"[1,", kEnd, 1, 4},
-      {"[1,]", kValue, 1, 4},
-      {"[,1]", kValue, 1, 2},
       {"[1 2]", kInArray, 1, 4},
-      {"[1}", kInArray, 1, 3},
-      {"[1:2]", kInArray, 1, 3},
-      {"]", kValue, 1, 1},
+      {"{\"a\":1]", kInDictionary, 1, 7},
+      {"1 2", kTrailing, 1, 3},
+      {"[1,]", kValue, 1, 4},
+      {"nul", kValue, 1, 1},
+      {"+1", kValue, 1, 1},
+      {"{\"a\":1,}", kKey, 1, 8},
       {"{", kKey, 1, 2},
       {"{\"a\"", kColon, 1, 5},
-      {"{\"a\" 1}", kColon, 1, 6},
-      {"{\"a\":", kEnd, 1, 6},
-      {"{\"a\":}", kValue, 1, 6},
-      {"{\"a\":1", kOpen, 1, 7},
-      {"{\"a\":1,}", kKey, 1, 8},
-      {"{\"a\":1]", kInDictionary, 1, 7},
-      {R"({"a":1 "b":2})", kInDictionary, 1, 8},
-      {"{a:1}", kKey, 1, 2},
-      {"{1:1}", kKey, 1, 2},
-      {"{'a':1}", kKey, 1, 2},
-      {"[1] x", kTrailing, 1, 5},
-      {"1 2", kTrailing, 1, 3},
-      {"{}{}", kTrailing, 1, 3},
-      {std::string("1\0", 2), kTrailing, 1, 2},
-      {"nul", kValue, 1, 1},
-      {"True", kValue, 1, 1},
-      {"NaN", kValue, 1, 1},
-      {"nullx", kTrailing, 1, 5},
-      {"[1, // one\n2]", kValue, 1, 5},
-      {"+1", kValue, 1, 1},
-      {".5", kValue, 1, 1},
-      {"-", kDigit, 1, 2},
-      {"-x", kDigit, 1, 2},
-      {"-Infinity", kDigit, 1, 2},
       {"1.", kDigit, 1, 3},
-      {"1.e5", kDigit, 1, 3},
-      {"1e", kDigit, 1, 3},
-      {"1e+", kDigit, 1, 4},
       {"01", kZero, 1, 1},
-      {"-00", kZero, 1, 1},
-      {"0x10", kTrailing, 1, 2},
-      {"1e309", kRange, 1, 1},
       {"[0, -1e400]", kRange, 1, 5},
-      {std::string(310, '9'), kRange, 1, 1},
       {"\"abc", kQuote, 1, 1},
-      {"\"abc\\n", kQuote, 1, 1},
       {"[\"a\nb\"]", kControl, 1, 4},
-      {"\"\t\"", kControl, 1, 2},
       {R"("\x")", kEscape, 1, 2},
-      {R"("\U0041")", kEscape, 1, 2},
       {"\"\\", kCutEscape, 1, 2},
-      {R"("\u12")", kHex, 1, 2},
       {R"("\u12g4")", kHex, 1, 2},
-      {R"("\u-123")", kHex, 1, 2},
-      {R"("\u0x41")", kHex, 1, 2},
       {R"("\ud800")", kSurrogate, 1, 2},
       {R"("\udc00")", kSurrogate, 1, 2},
       {R"("a\ud800\u0041")", kSurrogate, 1, 3},
-      {R"("\ud800\ud800")", kSurrogate, 1, 2},
-      {R"("\udc00\ud800")", kSurrogate, 1, 2},
-      {R"("\ud800x")", kSurrogate, 1, 2},
-      {R"("\udc00\udc00")", kSurrogate, 1, 2},
       {R"("\ud800\ue000")", kSurrogate, 1, 2},
       {"\"\x80\"", kUTF8, 1, 2},
-      {"\"\xC3\"", kUTF8, 1, 2},
-      {"\"\xC3(\"", kUTF8, 1, 2},
       {"\"\xC0\x80\"", kUTF8, 1, 2},
-      {"\"\xC1\xBF\"", kUTF8, 1, 2},
       {"\"\xE0\x9F\xBF\"", kUTF8, 1, 2},
       {"\"\xED\xA0\x80\"", kUTF8, 1, 2},
-      {"\"\xE2\x82\"", kUTF8, 1, 2},
-      {"\"\xF0\x8F\xBF\xBF\"", kUTF8, 1, 2},
       {"\"\xF4\x90\x80\x80\"", kUTF8, 1, 2},
-      {"\"\xF5\x80\x80\x80\"", kUTF8, 1, 2},
       {"\"\xF0\x9F\x98", kUTF8, 1, 2},
       {"{\"\xFF\":1}", kUTF8, 1, 3},
       {std::string("[\0]", 3), kValue, 1, 2},
@@ -271,29 +203,6 @@ TEST(JSONReading, OfDuplicateKeysTheLastValueWinsAtTheFirstPlace) {
   EXPECT_EQ(value.dictionary()->begin()->key(), "k0");
   EXPECT_EQ((*value.dictionary())["k0"], Value(-1));
   EXPECT_EQ((*value.dictionary())["k99"], Value(199));
-}
-
-TEST(JSONReading, PointsAtDuplicateKeys) {
-  const std::string text =
-      "{\n \"a\": 1,\n \"b\": {\"a\": 1, \"a\": 2},\n \"\\u0061\": 3, \"a\": [{\"c\":1}, "
-      "{\"c\":1}]}";
-  const auto found = findDuplicateKeys(text);
-  ASSERT_EQ(found.size(), 3U);
-  const struct {
-    TextPosition first;
-    TextPosition second;
-  } places[] = {{{3, 8}, {3, 16}}, {{2, 2}, {4, 2}}, {{2, 2}, {4, 15}}};
-  for (std::size_t i = 0; i < 3; ++i) {
-    EXPECT_EQ(found[i].key, "a");
-    const auto first = TextPosition::of(found[i].firstOffset, text);
-    const auto second = TextPosition::of(found[i].offset, text);
-    EXPECT_EQ(std::pair(first.line, first.column),
-              std::pair(places[i].first.line, places[i].first.column));
-    EXPECT_EQ(std::pair(second.line, second.column),
-              std::pair(places[i].second.line, places[i].second.column));
-  }
-  EXPECT_TRUE(findDuplicateKeys(R"({"a":{"a":[{"a":1}]}})").empty());
-  EXPECT_EQ(findDuplicateKeys(R"({"a":1,"a":2,!)").size(), 1U);  // up to the first error
 }
 
 }  // namespace

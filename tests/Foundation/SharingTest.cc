@@ -1,28 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <thread>
-
-#include "support/Values.h"
+#include "support/ModelZoo.h"
 
 namespace orvanta::testing {
 namespace {
-
-/// Runs the work in several threads that start together.
-template <class Work>
-void inThreads(const Work& work) {
-  std::vector<std::thread> threads;
-  threads.reserve(4);
-  std::atomic<int> waiting{4};
-  for (int i = 0; i < 4; ++i) {
-    threads.emplace_back([&work, &waiting, i] {
-      --waiting;
-      while (waiting != 0) std::this_thread::yield();
-      work(i);
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-}
 
 /// The same value with every container and text made anew.
 Value rebuilt(const Value& value) {
@@ -56,7 +37,7 @@ TEST(Sharing, ThreadsReadCopyAndDropOneTree) {
     std::vector<Value> copies(4, tree);
     tree = Value();
     std::atomic<int> same{0};
-    inThreads([&](int thread) {
+    runTogether([&](int thread) {
       Value mine = std::move(copies[static_cast<std::size_t>(thread)]);
       for (int round = 0; round < 20; ++round) {
         const Value names = valueForKeyPath(mine, "list.name");
@@ -80,14 +61,14 @@ TEST(Sharing, PartsDroppedInDifferentThreadsFreeTheTreeOnce) {
       const Value tree = parsed(R"(["a text of more than fourteen bytes", {"a": 1}, [2], {}])");
       for (const Value& element : *tree.array()) parts.push_back(element);
     }
-    inThreads([&](int thread) { parts[static_cast<std::size_t>(thread)] = Value(); });
+    runTogether([&](int thread) { parts[static_cast<std::size_t>(thread)] = Value(); });
   }
 }
 
 TEST(Sharing, ThreadsHoldOneObject) {
   ASSERT_EQ(Labelled::alive, 0);
   std::vector<Value> copies(4, Value(Labelled::make("x")));
-  inThreads([&](int thread) {
+  runTogether([&](int thread) {
     const Value mine = std::move(copies[static_cast<std::size_t>(thread)]);
     for (int round = 0; round < 1000; ++round) const Array array({mine, mine});
   });

@@ -30,32 +30,14 @@ TEST(Url, RefusesWhatNoUrlHolds) {
   EXPECT_FALSE(Url::parse(std::string_view("%41").substr(0, 2)).has_value());
 }
 
-TEST(Url, CopiesShareAndAssign) {
-  Url url = *Url::parse("https://example.org/first");
-  const Url& same = url;
-  url = same;
-  const Url copy = url;
-  EXPECT_EQ(copy.absoluteString().data(), url.absoluteString().data());
-  url = *Url::parse("b");
-  EXPECT_FALSE(url == copy);
-  Value value = copy;
-  EXPECT_EQ(*value.url(), copy);
-  value = Value();
-  EXPECT_EQ(copy.absoluteString(), "https://example.org/first");
-}
-
 TEST(PercentEncoding, WritesWhatIsOutsideTheSet) {
   const struct {
     std::string_view text;
     std::string_view encoded;
   } rows[] = {
-      {"", ""},
       {"app://host/path?x=1", "app:%2F%2Fhost%2Fpath%3Fx=1"},
-      {"a b", "a%20b"},
-      {"100%", "100%25"},
       {"%20", "%2520"},
       {"\xC3\xA4", "%C3%A4"},
-      {"[::1]", "[::1]"},
       {"!$&'()*+,-.:;=[]_~", "!$&'()*+,-.:;=[]_~"},
       {"/?#@\"<>\\^{|}`", "%2F%3F%23%40%22%3C%3E%5C%5E%7B%7C%7D%60"},
       {"\n\x7F\xFF", "%0A%7F%FF"},

@@ -114,13 +114,6 @@ TEST_F(HostImagesTest, JPEGFollowsTheQuality) {
   EXPECT_TRUE(encoded(*best));
 }
 
-TEST_F(HostImagesTest, SimulatedNamesNeedNoFolder) {
-  HostImages images("", {"star"});
-  EXPECT_TRUE(images.imageNamed("star"));
-  EXPECT_FALSE(images.imageNamed("moon"));
-  EXPECT_FALSE(HostImages(folder_ / "missing").imageNamed("star"));
-}
-
 TEST_F(HostImagesTest, NothingOutsideTheFolderIsFound) {
   const TemporaryFolder other;
   other.write("secret.png", kRed);

@@ -13,25 +13,6 @@
 namespace orvanta::testing {
 namespace {
 
-TEST(ModelRegistry, FindsEachClassByItsName) {
-  std::set<std::string_view> names;
-  for (const Class* cls : modelClasses()) {
-    EXPECT_EQ(modelClassNamed(cls->name), cls);
-    EXPECT_TRUE(cls->name.starts_with("Orvanta")) << cls->name;
-    EXPECT_TRUE(names.insert(cls->name).second) << cls->name << " stands twice";
-  }
-  EXPECT_EQ(modelClassNamed("LeafModel"), nullptr);
-  EXPECT_EQ(modelClassNamed(""), nullptr);
-}
-
-TEST(ModelRegistry, EveryChainOfSuperclassesEndsInTheBaseModel) {
-  for (const Class* cls : modelClasses()) {
-    const Class* root = cls;
-    while (root->parent() != nullptr) root = root->parent();
-    EXPECT_EQ(root, &OrvantaBaseModel::classObject()) << cls->name;
-  }
-}
-
 TEST(ModelRegistry, EveryClassMakesObjectsOfItself) {
   for (const Class* cls : modelClasses()) {
     const auto model = makeModel(*cls, nullptr);
@@ -49,30 +30,6 @@ TEST(ModelRegistry, EveryTypeCodeIsWellFormed) {
       EXPECT_TRUE(std::regex_match(std::string(property.encoding), wellFormed))
           << cls->name << "." << property.name << " " << property.encoding;
       EXPECT_TRUE(names.insert(property.name).second) << cls->name << "." << property.name;
-    }
-  }
-}
-
-TEST(ModelRegistry, EveryTableRowNamesAProperty) {
-  for (const Class* cls : modelClasses()) {
-    for (const KeyEntry& row : cls->keyPathPropertySelectorMapping) {
-      EXPECT_NE(cls->property(row.property), nullptr) << cls->name << "." << row.property;
-    }
-    for (const ClassEntry& row : cls->keyPathClassMapping) {
-      const Property* property = cls->property(row.property);
-      ASSERT_NE(property, nullptr) << cls->name << "." << row.property;
-      EXPECT_EQ(property->encoding.front(), '@') << cls->name << "." << row.property;
-      EXPECT_NE(modelClassIn(Value(row.model)), nullptr) << cls->name << "." << row.property;
-    }
-  }
-}
-
-TEST(ModelRegistry, EveryPropertyCanBeReadFromANewObject) {
-  for (const Class* cls : modelClasses()) {
-    const auto model = makeModel(*cls, nullptr);
-    for (const Dictionary::Entry& entry : cls->propertyTypeEncodingCache()) {
-      EXPECT_EQ(thrown([&] { model->valueForKey(entry.key()); }), "nothing thrown")
-          << cls->name << "." << entry.key();
     }
   }
 }

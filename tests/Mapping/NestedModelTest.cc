@@ -16,20 +16,15 @@ TEST(NestedModel, DeclaredClassBeatsKlazzAndKlazzBeatsNothing) {
     std::string_view property;
     std::string_view made;
   } rows[] = {
-      {R"({"leaf": {}})", "leaf", "LeafModel"},
       {R"({"leaf": {"klazz": "OrvantaPushStyle"}})", "leaf", "LeafModel"},
       {R"({"free": {"klazz": "OrvantaPushStyle"}})", "free", "OrvantaPushStyle"},
       {R"({"free": {}})", "free", "a dictionary"},
       // Only text that names a model class of the library counts.
       {R"({"free": {"klazz": "NSString"}})", "free", "a dictionary"},
       {R"({"free": {"klazz": "orvantapushstyle"}})", "free", "a dictionary"},
-      {R"({"free": {"klazz": ""}})", "free", "a dictionary"},
-      {R"({"free": {"klazz": 5}})", "free", "a dictionary"},
-      {R"({"free": {"klazz": null}})", "free", "a dictionary"},
       {R"({"free": {"klazz": {"klazz": "OrvantaPushStyle"}}})", "free", "a dictionary"},
       // A class is declared for the property, whatever it holds.
       {R"({"leaf": [{}]})", "leaf", "an array"},
-      {R"({"leaf": "text"})", "leaf", "a string"},
       {R"({"leaves": {}})", "leaves", "LeafModel"},
   };
   for (const auto& row : rows) {
@@ -37,13 +32,6 @@ TEST(NestedModel, DeclaredClassBeatsKlazzAndKlazzBeatsNothing) {
     ASSERT_TRUE(model) << row.json;
     EXPECT_EQ(classOrKind(model->valueForKey(row.property)), row.made) << row.json;
   }
-}
-
-TEST(NestedModel, KeepsAFreeDictionaryAsItIs) {
-  const auto model = made<NestingModel>(
-      R"({"free": {"in": {"klazz": "OrvantaPushStyle"}, "klazz": "Unknown", "n": null}})");
-  EXPECT_EQ(model->free().value(),
-            parsed(R"({"in": {"klazz": "OrvantaPushStyle"}, "klazz": "Unknown", "n": null})"));
 }
 
 TEST(NestedModel, ArraysKeepOrderAndCountAndAreConvertedAtEveryDepth) {
@@ -66,15 +54,6 @@ TEST(NestedModel, ArraysKeepOrderAndCountAndAreConvertedAtEveryDepth) {
   EXPECT_EQ(classOrKind(list[0]), "OrvantaPushStyle");
   EXPECT_EQ(classOrKind(list[1]), "a dictionary");
   EXPECT_EQ(classOrKind((*list[2].array())[0]), "OrvantaPushStyle");
-}
-
-TEST(NestedModel, ElementsFoundByAKeyPathAreConvertedToo) {
-  const auto model = make<NestingModel>();
-  model->setKeyPathPropertyDictionary({{"a.leaf", "leaves"}});
-  EXPECT_TRUE(update(*model, R"({"a": [{"leaf": {"name": "x"}}, {}]})"));
-  const Array& leaves = *model->leaves().get();
-  EXPECT_EQ(leaves[0].as<LeafModel>()->name().get(), "x");
-  EXPECT_TRUE(leaves[1].isNull());
 }
 
 TEST(NestedModel, OneThatRefusesItsDictionaryBecomesNil) {
@@ -101,17 +80,6 @@ TEST(NestedModel, AnElementThatRefusesEndsTheUpdate) {
   EXPECT_NE(platform.log[1].find("to class 'NestingModel' : "
                                  "*** -[__NSArrayM insertObject:atIndex:]: object cannot be nil"),
             std::string::npos);
-}
-
-TEST(NestedModel, ARefusingModelCannotBeAScalarUrlOrDate) {
-  RecordingPlatform platform;
-  const char* refusing = R"({"klazz": "OrvantaUserNotificationAction", "actM": null})";
-  for (const auto& [cls, key] : {std::pair{&ScalarModel::classObject(), "q"},
-                                 {&ObjectModel::classObject(), "url"},
-                                 {&ObjectModel::classObject(), "date"}}) {
-    const Dictionary payload{{key, parsed(refusing)}};
-    EXPECT_FALSE(makeModel(*cls, &payload)) << key;
-  }
 }
 
 TEST(NestedModel, NestingHasALimitAndThenOnlyTheInnermostModelsAreMissing) {
@@ -151,23 +119,6 @@ TEST(NestedModel, AnUndefinedKeyFromAnInitialiserRefusesTheOwnerSilently) {
   EXPECT_TRUE(platform.log.empty());
   EXPECT_TRUE(update(*holder, R"({"push": {"_ov": {"mu": 5}}, "after": "x"})"));
   EXPECT_FALSE(holder->push());
-}
-
-TEST(NestedModel, ComponentsAreMadeByThePropertysClass) {
-  const auto model = make<NestingModel>();
-  EXPECT_EQ(classOrKind(model->valueForDictionaryComponent({}, "leaf")), "LeafModel");
-  EXPECT_EQ(classOrKind(model->valueForDictionaryComponent({}, "free")), "a dictionary");
-  EXPECT_EQ(classOrKind(model->valueForDictionaryComponent({}, "missing")), "a dictionary");
-  EXPECT_TRUE(model->valueForDictionaryComponent({{"size", Array()}}, "leaf").isNil());
-
-  const Array converted = model->valueForArrayComponent({Dictionary(), "x"}, "leaves");
-  EXPECT_EQ(classOrKind(converted[0]), "LeafModel");
-  EXPECT_EQ(converted[1], Value("x"));
-  EXPECT_EQ(thrown([&] {
-              model->valueForArrayComponent({Dictionary({{"size", Array()}})}, "leaves");
-            }),
-            "NSInvalidArgumentException: *** -[__NSArrayM insertObject:atIndex:]: "
-            "object cannot be nil");
 }
 
 }  // namespace

@@ -41,13 +41,5 @@ TEST(OrvantaLogger, MakesNoMessageThatIsNotWritten) {
   EXPECT_EQ(made, 1);
 }
 
-TEST(OrvantaLogger, BeginsAtOne) { EXPECT_EQ(OrvantaLogger::logLevel(), 1); }
-
-TEST(OrvantaLogger, TheLevelHoldsForEveryThread) {
-  const LogLevel scope(1);
-  std::thread([] { OrvantaLogger::setLogLevel(3); }).join();
-  EXPECT_EQ(OrvantaLogger::logLevel(), 3);
-}
-
 }  // namespace
 }  // namespace orvanta::testing

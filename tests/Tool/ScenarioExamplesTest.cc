@@ -36,7 +36,7 @@ class ScenarioExamplesTest : public ::testing::TestWithParam<fs::path> {};
 TEST_P(ScenarioExamplesTest, PrintsItsLedger) {
   const fs::path& folder = GetParam();
   const ToolRun result = runTool({"notify", folder / "payload.json", "--scenario",
-                                     folder / "scenario.json", "--log-level", "2", "--json"});
+                                  folder / "scenario.json", "--log-level", "2", "--json"});
   EXPECT_EQ(result.exit, tool::ExitCode::done) << result.err;
   EXPECT_EQ(result.out, textOf(folder / "ledger.json"));
 }

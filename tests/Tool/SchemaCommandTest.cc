@@ -30,41 +30,6 @@ TEST(SchemaCommand, DescribesOneClassAsJson) {
             R"("keys":{"ffm":"fontFamily","iospi":"pushIcon"},"classKeys":{}}]})");
 }
 
-TEST(SchemaCommand, GivesTypesKeysAndClassesOfThePushObject) {
-  const Dictionary entry = entryOf("OrvantaPushObject");
-  ASSERT_NE(entry["properties"].array(), nullptr);
-  const std::string properties = written(entry["properties"]);
-  std::size_t from = 0;
-  for (const char* property :
-       {R"({"name":"alert","type":"@\"OrvantaPushObjectAlert\"","readOnly":false})",
-        R"({"name":"badge","type":"Q","readOnly":false})",
-        R"({"name":"mediaAttachmentURL","type":"@\"NSURL\"","readOnly":false})",
-        R"({"name":"sendDate","type":"@\"NSDate\"","readOnly":true})",
-        R"({"name":"isThumbnail","type":"B","readOnly":true})",
-        R"({"name":"willPresentNotificationHandler","type":"@?","readOnly":false})"}) {
-    const std::size_t at = properties.find(property, from);
-    ASSERT_NE(at, std::string::npos) << property;
-    from = at;  // the next one stands behind
-  }
-  EXPECT_EQ(entry["properties"].array()->size(), 29U);
-  ASSERT_NE(entry["keys"].dictionary(), nullptr);
-  EXPECT_EQ(entry["keys"].dictionary()->size(), 22U);
-  EXPECT_EQ((*entry["keys"].dictionary())["_ov.act"], Value("defaultActionDictionary"));
-  EXPECT_EQ(written(entry["classKeys"]), R"({"inAppMessage":"OrvantaInAppMessageAction",)"
-                                         R"("interactiveActions":"OrvantaUserNotificationAction",)"
-                                         R"("pushStyle":"OrvantaPushStyle"})");
-}
-
-TEST(SchemaCommand, ListsAClassesOwnPropertiesOnly) {
-  const Dictionary root = entryOf("OrvantaBaseModel");
-  ASSERT_EQ(root["name"], Value("OrvantaBaseModel"));
-  EXPECT_TRUE(root["superclass"].isNull());
-  EXPECT_EQ(written(entryOf("OrvantaAction")),
-            R"({"name":"OrvantaAction","superclass":"OrvantaBaseModel","properties":[],)"
-            R"("keys":{},"classKeys":{}})");
-  EXPECT_EQ(entryOf("OrvantaInAppMessageAction")["superclass"], Value("OrvantaAction"));
-}
-
 TEST(SchemaCommand, WithoutAClassDescribesEachOnce) {
   const Value whole = parsed(runTool({"schema", "--json"}).out);
   ASSERT_NE(whole.dictionary(), nullptr);

@@ -42,17 +42,15 @@ Ref<NSError> moveError(std::int64_t code, std::int64_t posixCode) {
 
 }  // namespace
 
-void FakePlatform::run(std::size_t index) {
-  const auto position = pending_.begin() + static_cast<std::ptrdiff_t>(index);
-  const std::function<void()> callback = std::move(position->second);
-  pending_.erase(position);
+void FakePlatform::runNext() {
+  const std::function<void()> callback = std::move(pending_.front());
+  pending_.pop_front();
   callback();
 }
 
 void FakePlatform::Center::getNotificationCategories(CategoriesCompletion completion) {
   platform_.calls.emplace_back("read");
-  platform_.wait("categories",
-                 [this, completion = std::move(completion)] { completion(registered); });
+  platform_.wait([this, completion = std::move(completion)] { completion(registered); });
 }
 
 void FakePlatform::Center::setNotificationCategories(const UNNotificationCategorySet& categories) {
@@ -72,7 +70,7 @@ void FakePlatform::downloadTaskWithURL(const std::optional<Url>& url,
     result.error =
         NSError::errorWithDomain(kNSURLErrorDomain, kNSURLErrorUnsupportedURL, "unsupported URL");
   }
-  wait("download", [this, result, completion = std::move(completionHandler)] {
+  wait([this, result, completion = std::move(completionHandler)] {
     const auto response =
         result.hasResponse ? NSURLResponse::responseWithParts(result.response) : nullptr;
     if (result.error) {
@@ -155,7 +153,7 @@ std::optional<std::string> FakePlatform::JPEGRepresentation(const Ref<UIImage>& 
 void FakePlatform::donateInteraction(const INInteraction& interaction, ErrorCompletion completion) {
   calls.emplace_back("donate");
   donated.push_back(interaction);
-  wait("donation", [this, completion = std::move(completion)] { completion(donationError); });
+  wait([this, completion = std::move(completion)] { completion(donationError); });
 }
 
 Intents::Update FakePlatform::contentByUpdating(const UNNotificationContent& content,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <map>
 #include <memory>
@@ -19,8 +20,8 @@
 
 namespace orvanta::testing {
 
-/// A platform in memory. Its services keep their callbacks waiting until the test runs them, in
-/// whatever order; the members say what there is, what goes wrong, and what was done. While it
+/// A platform in memory. Its services keep their callbacks waiting until the test runs them; the
+/// members say what there is, what goes wrong, and what was done. While it
 /// lives it is the platform of the thread that made it.
 class FakePlatform final : public Platform,
                            private Clock,
@@ -58,14 +59,7 @@ class FakePlatform final : public Platform,
 
   // ---- What waits ----
 
-  /// The names of the callbacks in the order of their calls: "categories", "download", "donation".
-  std::vector<std::string> pending() const {
-    std::vector<std::string> names;
-    for (const auto& [name, callback] : pending_) names.push_back(name);
-    return names;
-  }
-  void run(std::size_t index);
-  void runNext() { run(0); }
+  void runNext();
   /// Runs until nothing waits.
   void runAll() {
     while (!pending_.empty()) runNext();
@@ -77,7 +71,6 @@ class FakePlatform final : public Platform,
   /// "types", "attachments", "images", "intents", "bundle".
   std::set<std::string, std::less<>> absent;
   OperatingSystemVersion version{17, 0, 0};
-  std::int64_t now = 0;
   std::shared_ptr<Center> center = std::make_shared<Center>(*this);
   std::map<std::string, std::uint64_t> files;  // sizes of the files by their paths
   std::vector<std::string> cachesFolders{"/library/", "/caches/"};
@@ -119,12 +112,10 @@ class FakePlatform final : public Platform,
   Service* present(std::string_view name) {
     return absent.contains(name) ? nullptr : this;
   }
-  void wait(std::string name, std::function<void()> callback) {
-    pending_.emplace_back(std::move(name), std::move(callback));
-  }
+  void wait(std::function<void()> callback) { pending_.push_back(std::move(callback)); }
 
-  std::int64_t wallNanoseconds() override { return now; }
-  std::int64_t monotonicNanoseconds() override { return now; }
+  std::int64_t wallNanoseconds() override { return 0; }
+  std::int64_t monotonicNanoseconds() override { return 0; }
   void write(std::string_view entry) noexcept override {
     const std::lock_guard guard(logLock_);
     log.emplace_back(entry);
@@ -153,7 +144,7 @@ class FakePlatform final : public Platform,
     return found == texts.end() ? std::string(key) : found->second;
   }
 
-  std::vector<std::pair<std::string, std::function<void()>>> pending_;
+  std::deque<std::function<void()>> pending_;
   std::mutex logLock_;
   PlatformOverride override_{*this};
 };

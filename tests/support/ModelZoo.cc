@@ -29,8 +29,6 @@ void SetterModel::setText(Held<String> text) {
   text_ = std::move(text);
 }
 
-void SetterModel::setLimit(std::int64_t limit) { limit_ = std::min<std::int64_t>(limit, 100); }
-
 Value ComputedModel::readTwice(const OrvantaBaseModel& model) {
   return 2 * static_cast<const ComputedModel&>(model).half();
 }

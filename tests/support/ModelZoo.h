@@ -3,6 +3,7 @@
 #include <atomic>
 #include <string>
 #include <thread>
+#include <type_traits>
 #include <vector>
 
 #include "Mapping/OrvantaBaseModel.h"
@@ -95,13 +96,12 @@ class DescendantModel : public AncestorModel {
 };
 
 /// A setter of its own that throws what the text names: "known", "unknown key", "standard" or
-/// "memory"; "tables" replaces the object's key table. A limit that never exceeds 100.
+/// "memory"; "tables" replaces the object's key table.
 class SetterModel : public OrvantaBaseModel {
   ORVANTA_MODEL(SetterModel, OrvantaBaseModel)
 
   ORVANTA_PROPERTY("before", copy, String, before, setBefore)
   ORVANTA_CUSTOM_SETTER("text", copy, String, text, setText)
-  ORVANTA_CUSTOM_SETTER("limit", assign, std::int64_t, limit, setLimit)
   ORVANTA_PROPERTY("after", copy, String, after, setAfter)
 };
 
@@ -216,16 +216,20 @@ class LogLevel {
   std::int64_t previous_ = OrvantaLogger::logLevel();
 };
 
-/// Runs the work in four threads that start together.
+/// Runs the work in four threads that start together; it may take its thread's number.
 template <class Work>
 void runTogether(const Work& work) {
   std::atomic<int> waiting{4};
   std::vector<std::thread> threads;
   for (int i = 0; i < 4; ++i) {
-    threads.emplace_back([&work, &waiting] {
+    threads.emplace_back([&work, &waiting, i] {
       --waiting;
       while (waiting != 0) std::this_thread::yield();
-      work();
+      if constexpr (std::is_invocable_v<Work, int>) {
+        work(i);
+      } else {
+        work();
+      }
     });
   }
   for (std::thread& thread : threads) thread.join();

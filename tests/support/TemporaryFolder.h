@@ -37,6 +37,10 @@ class TemporaryFolder {
     std::ofstream(path_ / name, std::ios::binary) << content;
     return url(name);
   }
+  /// Writes a file and returns its path.
+  std::string file(std::string_view name, std::string_view content) const {
+    return write(name, content).path();
+  }
   std::string read(std::string_view name) const {
     std::ifstream in(path_ / name, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};

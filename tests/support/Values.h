@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "Foundation/Array.h"
-#include "Foundation/DecimalNumber.h"
 #include "Foundation/Description.h"
 #include "Foundation/Dictionary.h"
 #include "Foundation/Exception.h"
@@ -20,9 +19,6 @@ namespace orvanta {
 // What a failed expectation prints.
 inline void PrintTo(const Value& value, std::ostream* out) {
   *out << describe(value) << " (" << value.kindName() << ")";
-}
-inline void PrintTo(const DecimalNumber& number, std::ostream* out) {
-  *out << number.stringValue();
 }
 
 namespace testing {

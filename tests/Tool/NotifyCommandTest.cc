@@ -1,0 +1,142 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "Foundation/Array.h"
+#include "Foundation/Dictionary.h"
+#include "Foundation/JSON.h"
+#include "support/TemporaryFolder.h"
+#include "support/ToolRunner.h"
+
+namespace orvanta::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using tool::ExitCode;
+
+constexpr const char* kMedia =
+    R"({"aps":{"alert":"Sale","mutable-content":1},"_ov":{"mu":"https://m.example.com/a/pic.png"}})";
+
+/// The attachments of the notification as shown.
+Array attachmentsShown(const ToolRun& run) {
+  const Value shown = parseJSON(run.out).dictionary()->valueForKey("shown");
+  return *(*shown.array())[0].dictionary()->valueForKey("attachments").array();
+}
+
+TEST(NotifyCommand, NamesTheKeyOfABadScenario) {
+  const struct {
+    const char* scenario;
+    const char* told;
+  } rows[] = {
+      {R"({"unknown":1})", "unknown key \"unknown\""},
+      {R"({"media":{"typo":1}})", "unknown key \"media.typo\""},
+      {R"({"os":"fifteen"})", "\"os\" is \"fifteen\""},
+      {R"({"title":5})", "\"title\" is 5"},
+      {R"({"images":["a",1]})", "\"images\""},
+      {R"({"attachments":-1})", "\"attachments\" is -1"},
+      {R"({"media":{"result":"maybe"}})", "\"media.result\" is \"maybe\""},
+      {R"({"media":{"tempName":"../x"}})", "\"media.tempName\" is \"../x\""},
+      {R"({"media":{"bytes":1.5}})", "\"media.bytes\" is 1.5"},
+      {R"({"center":"here"})", "\"center\" is \"here\""},
+      {R"({"delays":{"donation":"1"}})", "\"delays.donation\""},
+      {R"({"expireAt":true})", "\"expireAt\" is true"},
+      {R"({"second":{"payload":[]}})", "\"second.payload\" is []"},
+  };
+  const TemporaryFolder folder;
+  for (const auto& row : rows) {
+    const std::string file = folder.file("scenario.json", row.scenario);
+    const ToolRun run = runTool({"notify", "--scenario", file}, kMedia);
+    EXPECT_EQ(run.exit, ExitCode::unreadable) << row.scenario;
+    EXPECT_NE(run.err.find(row.told), std::string::npos) << run.err;
+    EXPECT_EQ(run.out, "") << row.scenario;
+  }
+}
+
+TEST(NotifyCommand, RefusesOptionsThatMakeNoSense) {
+  const std::vector<std::string> rows[] = {
+      {"--time-budget", "nan"}, {"--time-budget", "-1"}, {"--os-version", "x"},
+      {"--max-download", "5X"}, {"--max-download", "0"}, {"--map-url", "https://m.example.com/"},
+  };
+  for (const auto& row : rows) {
+    const ToolRun run = runTool({"notify", row[0], row[1]}, kMedia);
+    EXPECT_EQ(run.exit, ExitCode::usage) << row[0] << ' ' << row[1];
+    EXPECT_NE(run.err, "");
+  }
+}
+
+TEST(NotifyCommand, ServesMappedUrlsFromTheirFolderAlone) {
+  const TemporaryFolder outside;
+  const TemporaryFolder folder;
+  folder.file("pic.png", "picture");
+  const std::string secret = outside.file("secret.png", "secret");
+  fs::create_symlink(secret, folder / "link.png");
+  const auto run = [&](const std::string& url, const std::string& prefix) {
+    const std::string payload = R"({"aps":{"alert":"a"},"_ov":{"mu":")" + url + "\"}}";
+    return runTool({"notify", "--json", "--map-url", prefix + "=" + folder.path().string()},
+                   payload);
+  };
+  EXPECT_EQ(attachmentsShown(run("https://m/pic.png?w=1", "https://m/")).size(), 1U);
+  const std::string name = fs::path(secret).parent_path().filename().string();
+  const std::string refused[] = {"https://m/link.png", "https://m/missing.png",
+                                 "https://m/%2e%2e/" + name + "/secret.png"};
+  for (const std::string& url : refused) {
+    EXPECT_EQ(attachmentsShown(run(url, "https://m/")).size(), 0U) << url;
+  }
+  EXPECT_EQ(attachmentsShown(run("file://" + folder.path().string() + "/pic.png", "x")).size(), 1U);
+  EXPECT_EQ(attachmentsShown(run("file://" + secret, "x")).size(), 0U);
+}
+
+TEST(NotifyCommand, EndsADownloadBeyondTheLimit) {
+  const TemporaryFolder folder;
+  folder.file("pic.png", std::string(2000, 'x'));
+  for (const auto& [limit, attached] : {std::pair{"2000", 1U}, std::pair{"1999", 0U}}) {
+    const ToolRun run = runTool({"notify", "--json", "--max-download", limit, "--map-url",
+                                 "https://m.example.com/a/=" + folder.path().string()},
+                                kMedia);
+    EXPECT_EQ(attachmentsShown(run).size(), attached) << limit;
+  }
+}
+
+TEST(NotifyCommand, KeepsANamedStateFolder) {
+  const TemporaryFolder state;
+  const std::string scenario = state.file("scenario.json", R"({"media":{"mime":"image/png"}})");
+  const std::string folder = state.path().string() + "/state";
+  for (int run = 1; run <= 2; ++run) {
+    const ToolRun done =
+        runTool({"notify", "--json", "--state", folder, "--scenario", scenario}, kMedia);
+    EXPECT_EQ(done.exit, ExitCode::done) << done.err;
+    const std::string url = "state/Caches/CFNetworkDownload_00000" + std::to_string(run) + ".tmp";
+    EXPECT_EQ(attachmentsShown(done)[0].dictionary()->valueForKey("url"), Value(url));
+  }
+  fs::create_directory(folder + "/categories.json");
+  const ToolRun broken = runTool({"notify", "--state", folder}, kMedia);
+  EXPECT_EQ(broken.exit, ExitCode::unreadable);
+  EXPECT_NE(broken.err.find("categories.json"), std::string::npos) << broken.err;
+}
+
+TEST(NotifyCommand, WritesThroughNoLinkInTheStateFolder) {
+  const TemporaryFolder state;
+  const std::string precious = state.file("precious", "keep");
+  const std::string scenario =
+      state.file("scenario.json", R"({"media":{"tempName":"dl.tmp"},"images":["star"]})");
+  fs::create_directories(state.path().string() + "/state/tmp");
+  fs::create_symlink(precious, state.path().string() + "/state/tmp/dl.tmp");
+  const ToolRun run = runTool(
+      {"notify", "--json", "--state", state.path().string() + "/state", "--scenario", scenario},
+      kMedia);
+  EXPECT_EQ(attachmentsShown(run).size(), 0U);
+  EXPECT_EQ(fs::file_size(precious), 4U);
+}
+
+TEST(NotifyCommand, EscapesAHostilePayloadOnTheTerminal) {
+  const ToolRun run =
+      runTool({"notify"}, R"({"aps":{"alert":{"title":"a\u001b[31mb","body":"c\r\u009bd"}}})");
+  EXPECT_EQ(run.out.find('\x1b'), std::string::npos);
+  EXPECT_EQ(run.out.find('\r'), std::string::npos);
+  EXPECT_NE(run.out.find("a\\u001b[31mb"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace orvanta::testing
