@@ -10,6 +10,7 @@
 #include <future>
 #include <iterator>
 #include <regex>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -110,6 +111,66 @@ TEST_F(TransferTest, StoresTheBodyInATemporaryFileOfThePlatformsName) {
             (Headers{{"Content-Type", "Image/PNG; q=1"}, {"x-Tag", "a"}, {"Content-Length", "7"}}));
 }
 
+TEST_F(TransferTest, GivesEachFileANameOfItsOwn) {
+  const RawServer server(answerOf("x"));
+  std::set<fs::path> files;
+  for (int i = 0; i < 5; ++i) files.insert(*fetch(server.url()).file);
+  EXPECT_EQ(files.size(), 5U);
+  EXPECT_FALSE(files.contains(temporaryDownload(folder_)));
+  EXPECT_EQ(temporaryDownload(folder_).parent_path(), folder_);
+}
+
+TEST_F(TransferTest, TakesErrorPagesAndEmptyBodiesForSuccess) {
+  HttpServer server;
+  server.routes().Get("/none", [](const auto&, auto& answer) { answer.status = 204; });
+  server.routes().Get("/broken", [](const auto&, auto& answer) {
+    answer.status = 500;
+    answer.set_content("sorry", "text/html");
+  });
+  server.routes().set_error_handler([](const auto&, auto& answer) {
+    if (answer.status == 404) answer.set_content("no such page", "text/plain");
+  });
+  server.start();
+  const struct {
+    std::string_view path;
+    int status;
+    std::string_view body;
+    std::optional<std::string> type;
+  } rows[] = {{"/missing", 404, "no such page", "text/plain"},
+              {"/broken", 500, "sorry", "text/html"},
+              {"/none", 204, "", std::nullopt}};
+  for (const auto& row : rows) {
+    const TransferResult result = fetch(server.url(row.path));
+    ASSERT_TRUE(result.file) << bodyOf(result);
+    EXPECT_EQ(result.response->statusCode(), row.status);
+    EXPECT_EQ(result.response->MIMEType(), row.type);
+    EXPECT_EQ(bodyOf(result), row.body);
+  }
+}
+
+TEST_F(TransferTest, ReadsBodiesWithoutAnnouncedLength) {
+  HttpServer server;
+  server.routes().Get("/chunked", [](const auto&, auto& answer) {
+    answer.set_chunked_content_provider("image/gif", [](std::size_t offset, auto& sink) {
+      if (offset < 100'000) {
+        const std::string piece(10'000, static_cast<char>('a' + offset / 10'000));
+        return sink.write(piece.data(), piece.size());
+      }
+      sink.done();
+      return true;
+    });
+  });
+  server.start();
+  const std::string chunked = bodyOf(fetch(server.url("/chunked")));
+  EXPECT_EQ(chunked.size(), 100'000U);
+  EXPECT_TRUE(std::is_sorted(chunked.begin(), chunked.end()));
+
+  const RawServer closing("HTTP/1.0 200 OK\r\n\r\nuntil it closes");
+  const TransferResult result = fetch(closing.url());
+  EXPECT_EQ(bodyOf(result), "until it closes");
+  EXPECT_FALSE(result.response->MIMEType());
+}
+
 TEST_F(TransferTest, SendsAPlainRequest) {
   ::setenv("http_proxy", ("http://127.0.0.1:" + std::to_string(unusedPort())).c_str(), 1);
   std::string head;
@@ -161,9 +222,15 @@ TEST_F(TransferTest, LetsProgressThrow) {
 
 TEST_F(TransferTest, UnpacksBodies) {
   const std::string text(300'000, 'z');
-  const RawServer server(answerOf(gzipped(text), "Content-Encoding: gzip\r\n"));
+  HttpServer server;
+  server.routes().Get("/gzip", [&](const auto&, auto& answer) {
+    answer.set_content(gzipped(text), "image/png");
+    answer.set_header("Content-Encoding", "gzip");
+  });
+  server.start();
   std::uint64_t announced = 1;
-  const auto result = fetch(server.url(), [&](auto, auto expected) { announced = expected; });
+  const auto result =
+      fetch(server.url("/gzip"), [&](auto, auto expected) { announced = expected; });
   EXPECT_EQ(bodyOf(result), text);
   EXPECT_EQ(announced, 0U);  // the packed size would say nothing
 }
@@ -276,8 +343,10 @@ TEST_F(TransferTest, RefusesBadAnswers) {
   const std::string_view rows[] = {
       "SSH-2.0-server\r\n\r\n",
       "HTTP/1.1 okay\r\n\r\nx",
+      "HTTP/7.3 200 OK\r\n\r\nx",
       "HTTP/1.1 101 Switching Protocols\r\nUpgrade: x\r\nConnection: upgrade\r\n\r\nx",
       "HTTP/1.1 200 OK\r\nContent-Length: -1\r\n\r\nx",
+      "HTTP/1.1 200 OK\r\nContent-Length: many\r\n\r\nx",
       "HTTP/1.1 200 OK\r\nno colon\r\n\r\nx",
       std::string_view("HTTP/1.1 200 OK\r\nA: \0\r\n\r\nx", 26),
   };
@@ -331,22 +400,20 @@ TEST_F(TransferTest, KeepsTheHeadersOfTheFinalAnswerHarmless) {
 
 TEST_F(TransferTest, FollowsRedirects) {
   const RawServer elsewhere(answerOf("there"));
-  const RawServer server([&](RawConnection& connection) {
-    const std::string head = connection.readHead();
-    if (head.empty()) return;
-    const std::string path = head.substr(4, head.find(' ', 4) - 4);
-    std::string answer = redirectTo(path);
-    if (path == "/away") answer = redirectTo(elsewhere.url("/a b|\xC3\xA9"));
-    if (path == "/nowhere") answer = "HTTP/1.1 302 Found\r\nContent-Length: 0\r\n\r\n";
-    if (path == "/hop/0")
-      answer = answerOf("arrived", "Content-Type: text/plain\r\n");
-    else if (path.starts_with("/hop/")) {
-      const int left = std::stoi(path.substr(5));
-      answer = redirectTo("../hop/" + std::to_string(left - 1));
-      answer.replace(9, 3, left % 2 == 0 ? "301" : "308");
-    }
-    connection.send(answer);
+  HttpServer server;
+  server.routes().Get(R"(/hop/(\d+))", [](const auto& request, auto& answer) {
+    const int left = std::stoi(request.matches[1]);
+    if (left == 0) return answer.set_content("arrived", "text/plain");
+    answer.set_content("moved", "text/html");
+    answer.status = left % 2 == 0 ? 301 : 308;
+    answer.set_header("Location", "../hop/" + std::to_string(left - 1));
   });
+  server.routes().Get("/loop", [](const auto&, auto& answer) { answer.set_redirect("/loop"); });
+  server.routes().Get("/away", [&](const auto&, auto& answer) {
+    answer.set_redirect(elsewhere.url("/a b|\xC3\xA9"));
+  });
+  server.routes().Get("/nowhere", [](const auto&, auto& answer) { answer.status = 302; });
+  server.start();
 
   const TransferResult result = fetch(server.url("/hop/20"));
   EXPECT_EQ(bodyOf(result), "arrived");
@@ -428,6 +495,10 @@ TEST(UrlError, CarriesThePlatformsText) {
             "Error Domain=NSURLErrorDomain Code=-1001 \"The request timed out.\" UserInfo={"
             "NSLocalizedDescription=The request timed out., NSErrorFailingURLStringKey=http://a/b, "
             "NSErrorFailingURLKey=http://a/b}");
+  EXPECT_EQ(urlError(-3000, std::nullopt)->description(),
+            "Error Domain=NSURLErrorDomain Code=-3000 \"The operation couldn’t be completed. "
+            "(NSURLErrorDomain error -3000.)\" UserInfo={NSLocalizedDescription=The operation "
+            "couldn’t be completed. (NSURLErrorDomain error -3000.)}");
 }
 
 TEST(MimeTypeOfHeader, IsATypeAndSubtypeInLowerCase) {
@@ -439,14 +510,23 @@ TEST(MimeTypeOfHeader, IsATypeAndSubtypeInLowerCase) {
       {"image/png", "image/png"},
       {"IMAGE/Svg+XML", "image/svg+xml"},
       {" image/gif ; charset=\"a;b\"", "image/gif"},
+      {"a!#$&^_.+-'*`|~%/0", "a!#$&^_.+-'*`|~%/0"},
+      {longest + "/" + longest, longest + "/" + longest},
       {longest + "a/b", std::nullopt},
       {"a/" + std::string(100'000, 'b'), std::nullopt},
+      {"", std::nullopt},
+      {";charset=utf-8", std::nullopt},
+      {"image", std::nullopt},
+      {"image/", std::nullopt},
       {"/png", std::nullopt},
       {"image/png/x", std::nullopt},
+      {"image /png", std::nullopt},
       {"image/png, text/html", std::nullopt},
       {"../../etc/passwd", std::nullopt},
+      {"image/p\xC3\xA9", std::nullopt},
       {"image/p\xFF", std::nullopt},
       {"image/p\x1B[0m", std::nullopt},
+      {"\"image/png\"", std::nullopt},
   };
   for (const auto& row : rows) EXPECT_EQ(mimeTypeOfHeader(row.header), row.type) << row.header;
 }

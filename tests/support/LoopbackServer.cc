@@ -36,7 +36,26 @@ std::pair<int, int> boundSocket() {
   return {socket, ntohs(address.sin_port)};
 }
 
+// A server that has not begun cannot be stopped.
+void awaitRunning(const httplib::Server& server) {
+  while (!server.is_running()) std::this_thread::yield();
+}
+
 }  // namespace
+
+void HttpServer::start() {
+  server_.set_tcp_nodelay(true);
+  port_ = server_.bind_to_any_port("127.0.0.1");
+  thread_ = std::thread([this] { server_.listen_after_bind(); });
+  awaitRunning(server_);
+}
+
+HttpServer::~HttpServer() {
+  server_.stop();
+  if (thread_.joinable()) thread_.join();
+}
+
+std::string HttpServer::url(std::string_view path) const { return urlOf("http", port_, path); }
 
 SelfSignedServer::SelfSignedServer() {
   const std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)> key(EVP_EC_gen("P-256"),
@@ -54,7 +73,7 @@ SelfSignedServer::SelfSignedServer() {
   server_ = std::make_unique<httplib::SSLServer>(certificate.get(), key.get());
   port_ = server_->bind_to_any_port("127.0.0.1");
   thread_ = std::thread([this] { server_->listen_after_bind(); });
-  while (!server_->is_running()) std::this_thread::yield();  // else it cannot be stopped
+  awaitRunning(*server_);
 }
 
 SelfSignedServer::~SelfSignedServer() {

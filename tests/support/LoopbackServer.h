@@ -12,8 +12,25 @@
 
 namespace orvanta::testing {
 
-/// An HTTPS server on a port of its own of 127.0.0.1, with a certificate that nobody signed but
-/// itself.
+/// An HTTP server on a port of its own of 127.0.0.1. Add the answers, then call `start`.
+class HttpServer {
+ public:
+  HttpServer() = default;
+  HttpServer(const HttpServer&) = delete;
+  HttpServer& operator=(const HttpServer&) = delete;
+  ~HttpServer();
+
+  httplib::Server& routes() { return server_; }
+  void start();
+  std::string url(std::string_view path) const;
+
+ private:
+  httplib::Server server_;
+  std::thread thread_;
+  int port_ = 0;
+};
+
+/// The same over TLS, with a certificate that nobody signed but itself.
 class SelfSignedServer {
  public:
   SelfSignedServer();
