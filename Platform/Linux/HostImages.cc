@@ -25,7 +25,7 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kMaxNameBytes = 255;
 constexpr std::size_t kMaxFileBytes = std::size_t{32} << 20U;
-constexpr std::uint32_t kMaxSide = 8192;
+constexpr std::uint32_t kMaxSide = 4096;
 constexpr int kWhite = 0xFFFFFF;
 
 struct PictureDeleter {

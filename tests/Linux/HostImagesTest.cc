@@ -141,8 +141,8 @@ TEST_F(HostImagesTest, NothingOutsideTheFolderIsFound) {
 }
 
 TEST_F(HostImagesTest, HugePicturesAreRefusedByTheirHeaders) {
-  EXPECT_TRUE(encoded(png(8192, 2, std::string(24576, 'x'))));
-  EXPECT_FALSE(encoded(png(8193, 2, std::string(24579, 'x'))));
+  EXPECT_TRUE(encoded(png(4096, 2, std::string(12288, 'x'))));
+  EXPECT_FALSE(encoded(png(4097, 2, std::string(12291, 'x'))));
   const std::string large = "\xFF\x7F"s;  // 32767, whichever end comes first it is over the limit
   std::string hugeGIF = gif(true);
   std::string hugeWebP = kWebP;

@@ -222,11 +222,12 @@ void runTogether(const Work& work) {
   std::atomic<int> waiting{4};
   std::vector<std::thread> threads;
   for (int i = 0; i < 4; ++i) {
-    threads.emplace_back([&work, &waiting, i] {
+    threads.emplace_back([&work, &waiting, number = i] {
+      static_cast<void>(number);  // not every work takes it
       --waiting;
       while (waiting != 0) std::this_thread::yield();
       if constexpr (std::is_invocable_v<Work, int>) {
-        work(i);
+        work(number);
       } else {
         work();
       }
