@@ -115,7 +115,7 @@ Scenario::Media readMedia(const Value& value) {
           {{"result",
             [&](const Value& v) {
               if (v.string() != "ok" && v.string() != "error") {
-                refuse("\"ok\" or \"error\" is needed");
+                refuse(R"("ok" or "error" is needed)");
               }
               media.fails = v.string() == "error";
             }},

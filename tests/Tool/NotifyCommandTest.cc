@@ -30,19 +30,19 @@ TEST(NotifyCommand, NamesTheKeyOfABadScenario) {
     const char* scenario;
     const char* told;
   } rows[] = {
-      {R"({"unknown":1})", "unknown key \"unknown\""},
-      {R"({"media":{"typo":1}})", "unknown key \"media.typo\""},
-      {R"({"os":"fifteen"})", "\"os\" is \"fifteen\""},
-      {R"({"title":5})", "\"title\" is 5"},
-      {R"({"images":["a",1]})", "\"images\""},
-      {R"({"attachments":-1})", "\"attachments\" is -1"},
-      {R"({"media":{"result":"maybe"}})", "\"media.result\" is \"maybe\""},
-      {R"({"media":{"tempName":"../x"}})", "\"media.tempName\" is \"../x\""},
-      {R"({"media":{"bytes":1.5}})", "\"media.bytes\" is 1.5"},
-      {R"({"center":"here"})", "\"center\" is \"here\""},
-      {R"({"delays":{"donation":"1"}})", "\"delays.donation\""},
-      {R"({"expireAt":true})", "\"expireAt\" is true"},
-      {R"({"second":{"payload":[]}})", "\"second.payload\" is []"},
+      {R"({"unknown":1})", R"(unknown key "unknown")"},
+      {R"({"media":{"typo":1}})", R"(unknown key "media.typo")"},
+      {R"({"os":"fifteen"})", R"("os" is "fifteen")"},
+      {R"({"title":5})", R"("title" is 5)"},
+      {R"({"images":["a",1]})", R"("images")"},
+      {R"({"attachments":-1})", R"("attachments" is -1)"},
+      {R"({"media":{"result":"maybe"}})", R"("media.result" is "maybe")"},
+      {R"({"media":{"tempName":"../x"}})", R"("media.tempName" is "../x")"},
+      {R"({"media":{"bytes":1.5}})", R"("media.bytes" is 1.5)"},
+      {R"({"center":"here"})", R"("center" is "here")"},
+      {R"({"delays":{"donation":"1"}})", R"("delays.donation")"},
+      {R"({"expireAt":true})", R"("expireAt" is true)"},
+      {R"({"second":{"payload":[]}})", R"("second.payload" is [])"},
   };
   const TemporaryFolder folder;
   for (const auto& row : rows) {
