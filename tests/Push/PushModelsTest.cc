@@ -2,6 +2,7 @@
 
 #include "Notifications/OrvantaUserNotificationCategory.h"
 #include "Push/OrvantaPushCarouselObject.h"
+#include "Push/OrvantaPushObject.h"
 #include "support/ModelZoo.h"
 
 // The small models of a payload.
@@ -43,6 +44,31 @@ TEST(OrvantaPushObjectAction, ForgetsTheUrlOfAnEarlierText) {
   action->setDeeplinkURLString(nullptr);
   action->setDeeplinkURLAsURL();
   EXPECT_FALSE(action->deeplinkURL());
+}
+
+/// The vocabulary of the wire, which no other test spells out in full.
+TEST(PushModels, SpellTheirWireKeys) {
+  const std::pair<const Class&, std::string_view> rows[] = {
+      {OrvantaPushObject::classObject(),
+       "aps.category aps.sound aps.badge _ov.pt _ov.mu _ov.pid _ov.piid _ov.xid _ov.cta _ov.st "
+       "_ov.dr _ov.cfgV _ov.prms _ov.iam _ov.act _ov.crsl _ov.ia _ov.ets _ov.sts _ov.stl _ov.ps "
+       "_ov.thc "},
+      {OrvantaPushObjectAlert::classObject(), "title subtitle body "},
+      {OrvantaPushObjectAction::classObject(), "uri "},
+      {OrvantaPushStyle::classObject(), "ffm iospi "},
+      {OrvantaPushCarouselObject::classObject(), "id ctitle ctext act bpp "},
+      {OrvantaInAppMessageAction::classObject(),
+       "txt tid tt img ttl drc fsz fcl ffm brd pdt pdb pdl pdr omc bcl "},
+      {OrvantaUserNotificationAction::classObject(), "act prms id text actM dest auth bhv "},
+      {OrvantaUserNotificationCategory::classObject(), "ia id "},
+  };
+  for (const auto& [cls, keys] : rows) {
+    std::string spelt;
+    for (const KeyEntry& entry : cls.keyPathPropertySelectorMapping) {
+      spelt.append(entry.keyPath).append(" ");
+    }
+    EXPECT_EQ(spelt, keys) << cls.name;
+  }
 }
 
 }  // namespace
