@@ -15,7 +15,7 @@ class OrvantaBaseModel;
 struct Class;
 struct MappingPlan;
 
-enum class Ownership : std::uint8_t { assign, copy, strong };
+enum class Ownership : std::uint8_t { assign, copy, strong, weak };
 
 /// One declared property of a model class.
 struct Property {

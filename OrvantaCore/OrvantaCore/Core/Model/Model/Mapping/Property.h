@@ -246,6 +246,7 @@ struct Reflect {
   template <class M>
   static constexpr auto kRows = rows<M>(std::make_index_sequence<kLines<M>.size()>());
 
+  static constexpr bool declares(const Row& row) { return !row.property.encoding.empty(); }
   static constexpr bool hasKey(const Row& row) { return !row.key.empty(); }
   static constexpr bool hasModel(const Row& row) { return row.model != nullptr; }
 
@@ -258,12 +259,12 @@ struct Reflect {
 
   template <class M>
   static consteval auto tables() {
-    Tables<kRows<M>.size(), count<M>(hasKey), count<M>(hasModel)> tables;
+    Tables<count<M>(declares), count<M>(hasKey), count<M>(hasModel)> tables;
     std::size_t property = 0;
     std::size_t key = 0;
     std::size_t model = 0;
     for (const Row& row : kRows<M>) {
-      tables.properties[property++] = row.property;
+      if (declares(row)) tables.properties[property++] = row.property;
       if (hasKey(row)) tables.keys[key++] = {row.key, row.property.name};
       if (hasModel(row)) tables.classes[model++] = {row.property.name, row.model};
     }
@@ -360,6 +361,15 @@ struct Reflect {
   ORVANTA_ROW_(key_, name_, nullptr,                                                               \
                {#name_, encoding_, Ownership::ownership_, (set_) == nullptr, nullptr, get_, set_}) \
                                                                                                    \
+ public:
+
+/// A further wire key of a property that an ancestor declares.
+#define ORVANTA_FURTHER_KEY(key_, name_)                                          \
+ protected:                                                                       \
+  static_assert(sizeof(std::declval<const Super&>().name_()) > 0);                \
+  ORVANTA_ROW_(key_, name_, nullptr,                                              \
+               {#name_, {}, Ownership::assign, false, nullptr, nullptr, nullptr}) \
+                                                                                  \
  public:
 
 // NOLINTEND(bugprone-macro-parentheses)
