@@ -3,6 +3,7 @@
 #include <atomic>
 #include <compare>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 #include "Platform/Interface/Clock.h"
@@ -15,6 +16,8 @@ class Intents;
 class NSBundle;
 class NSFileManager;
 class NSURLSession;
+class RandomSource;
+class RuntimeClass;
 class TypeIdentifiers;
 class UNNotificationAttachmentFactory;
 class UNUserNotificationCenter;
@@ -38,6 +41,10 @@ class Platform {
   virtual SystemLog* systemLog() { return nullptr; }
   /// None: it is always 1970-01-01.
   virtual Clock* clock() { return nullptr; }
+  /// None: every draw is 0.
+  virtual RandomSource* randomSource() { return nullptr; }
+  /// The class of that name, or nullptr where its framework is not there.
+  virtual RuntimeClass* classNamed(std::string_view /*name*/) { return nullptr; }
   /// The one long-lived notification center of the process, which is kept weakly. None: categories
   /// are never registered, and what waits for that waits for ever.
   virtual std::shared_ptr<UNUserNotificationCenter> currentNotificationCenter() { return nullptr; }

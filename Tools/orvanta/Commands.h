@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -35,8 +36,15 @@ ExitCode model(const ModelOptions& options, const Streams& streams);
 struct SchemaOptions {
   std::string className;  // empty for all
   bool json = false;
+  bool markdown = false;
 };
 ExitCode schema(const SchemaOptions& options, const Streams& streams);
+
+struct IdentifierOptions {
+  std::uint64_t count = 1;
+  std::string decode;  // empty: make identifiers
+};
+ExitCode identifier(const IdentifierOptions& options, const Streams& streams);
 
 /// The model class of that name; throws a usage Failure that names the nearest one.
 const Class& classForArgument(const std::string& name);

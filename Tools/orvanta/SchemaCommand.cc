@@ -3,8 +3,10 @@
 #include <ostream>
 
 #include "Commands.h"
+#include "Events/OrvantaEvent.h"
 #include "Foundation/Array.h"
 #include "Text.h"
+#include "WireFormat.h"
 
 namespace orvanta::tool {
 
@@ -24,11 +26,19 @@ Dictionary classEntry(const Class& cls) {
   for (const ClassEntry& entry : cls.keyPathClassMapping) {
     classKeys.set(entry.property, entry.model->name);
   }
-  return {{"name", cls.name},
-          {"superclass", cls.superclass != nullptr ? Value(cls.superclass->name) : Value::null()},
-          {"properties", properties},
-          {"keys", keys},
-          {"classKeys", classKeys}};
+  Dictionary entry{
+      {"name", cls.name},
+      {"superclass", cls.superclass != nullptr ? Value(cls.superclass->name) : Value::null()},
+      {"properties", properties},
+      {"keys", keys},
+      {"classKeys", classKeys}};
+  const auto model = makeModel(cls, nullptr);
+  if (const auto* event = Value(model).as<OrvantaEvent>()) {
+    const Held<String> code = event->eventKey();
+    entry.set("eventKey", code ? code.value() : Value::null());
+    entry.set("priority", event->priority());
+  }
+  return entry;
 }
 
 /// One line of a class's table: wire key, property, type, remarks.
@@ -68,6 +78,12 @@ std::vector<Line> linesOf(const Class& cls) {
 void printTable(const Class& cls, std::ostream& out) {
   out << cls.name;
   if (cls.superclass != nullptr) out << " : " << cls.superclass->name;
+  const auto model = makeModel(cls, nullptr);
+  if (const auto* event = Value(model).as<OrvantaEvent>()) {
+    if (const auto code = event->eventKey().get()) {
+      out << "  code " << *code << ", priority " << event->priority();
+    }
+  }
   out << '\n';
   const std::vector<Line> lines = linesOf(cls);
   const auto width = [&](std::string Line::*column) {
@@ -93,6 +109,10 @@ void printTable(const Class& cls, std::ostream& out) {
 ExitCode schema(const SchemaOptions& options, const Streams& streams) {
   std::vector<const Class*> classes(modelClasses().begin(), modelClasses().end());
   if (!options.className.empty()) classes = {&classForArgument(options.className)};
+  if (options.markdown) {
+    printWireFormat(classes, streams.out);
+    return ExitCode::done;
+  }
   if (options.json) {
     Array entries;
     for (const Class* cls : classes) entries.append(classEntry(*cls));

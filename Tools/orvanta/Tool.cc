@@ -7,6 +7,7 @@
 #include "Mapping/OrvantaLogger.h"
 #include "Platform/Interface/Platform.h"
 #include "Platform/Linux/ClockAndLog.h"
+#include "Platform/Linux/SystemRandom.h"
 
 namespace orvanta::tool {
 
@@ -27,18 +28,21 @@ constexpr const char* kFooter =
     "  orvanta notify payload.json\n"
     "  orvanta notify payload.json --json | less\n"
     "  echo '{\"aps\":{\"alert\":\"Hi\"}}' | orvanta model OrvantaPushObject\n"
-    "  orvanta schema OrvantaPushObject";
+    "  orvanta schema OrvantaPushObject\n"
+    "  orvanta identifier -n 3";
 
-/// The platform of a command that needs the clock and the log only.
+/// The platform of a command that runs no notification.
 class LoggingPlatform final : public Platform {
  public:
   explicit LoggingPlatform(std::ostream& logStream) : log_(logStream) {}
   SystemLog* systemLog() override { return &log_; }
   Clock* clock() override { return &clock_; }
+  RandomSource* randomSource() override { return &random_; }
 
  private:
   RecordingLog log_;
   SystemClock clock_;
+  SystemRandom random_;
 };
 
 ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
@@ -121,7 +125,23 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
   CLI::App* schemaCommand = app.add_subcommand(
       "schema", "Print the wire keys, properties and types of one model class, or of all.");
   schemaCommand->add_option("CLASS", schemaOptions.className, "Only this class");
-  schemaCommand->add_flag("--json", schemaOptions.json, "Print JSON");
+  auto* json = schemaCommand->add_flag("--json", schemaOptions.json, "Print JSON");
+  schemaCommand
+      ->add_flag("--markdown", schemaOptions.markdown,
+                 "Print the document of the wire format, a section per class")
+      ->excludes(json);
+
+  IdentifierOptions identifierOptions;
+  CLI::App* identifierCommand =
+      app.add_subcommand("identifier", "Make short identifiers, or tell what stands in one.");
+  auto* count = identifierCommand->add_option("-n", identifierOptions.count, "How many (1)")
+                    ->option_text("N")
+                    ->check(CLI::PositiveNumber);
+  identifierCommand
+      ->add_option("--decode", identifierOptions.decode,
+                   "Show the number of this identifier, and the time and the random part in it")
+      ->option_text("TEXT")
+      ->excludes(count);
 
   for (CLI::App* command : app.get_subcommands({})) {
     command->fallthrough();
@@ -135,13 +155,15 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
     return code == 0 ? ExitCode::done : ExitCode::usage;
   }
   if (app.get_subcommands().empty()) {
-    throw Failure(ExitCode::usage, "a command is needed: notify, model or schema; see --help");
+    throw Failure(ExitCode::usage,
+                  "a command is needed: notify, model, schema or identifier; see --help");
   }
   OrvantaLogger::setLogLevel(logLevel);
   if (*notifyCommand) return notify(notifyOptions, streams);
   LoggingPlatform platform(streams.err);
   const PlatformOverride override(platform);
   if (*modelCommand) return model(modelOptions, streams);
+  if (*identifierCommand) return identifier(identifierOptions, streams);
   return schema(schemaOptions, streams);
 }
 

@@ -22,6 +22,50 @@ TEST(ModelRegistry, EveryClassMakesObjectsOfItself) {
   }
 }
 
+/// A dictionary's value for a property; one that a declared model takes where there is one.
+Value sampleFor(const Class& cls, const Property& property) {
+  const bool hasModel = cls.mergedClassTable()[property.name].classObject() != nullptr;
+  if (property.encoding == "@\"NSURL\"") return "https://shop.example.com/a";
+  if (property.encoding == "@\"NSDate\"") return 1500;
+  if (property.encoding == "B") return true;
+  if (property.encoding.ends_with("Array\"")) return hasModel ? Array{Dictionary()} : Array{"a"};
+  if (property.encoding.ends_with("Dictionary\"") || hasModel) return Dictionary();
+  return property.encoding.front() == '@' ? Value("text") : Value(7);
+}
+
+TEST(ModelRegistry, EveryKeyIsReadAndWritten) {
+  for (const Class* cls : modelClasses()) {
+    if (cls->name == "OrvantaErrorEvent") continue;  // it owns nothing that is read
+    Dictionary keys = cls->mergedKeyTable();
+    Dictionary dictionary;
+    for (const Dictionary::Entry& row : keys) {
+      const auto dot = row.key().find('.');
+      const Value sample = sampleFor(*cls, *cls->property(*row.value.string()));
+      if (dot == std::string_view::npos) {
+        dictionary.set(row.key(), sample);
+      } else {
+        const std::string_view parent = row.key().substr(0, dot);
+        const Dictionary* held = dictionary[parent].dictionary();
+        Dictionary nested = held != nullptr ? *held : Dictionary();
+        nested.set(row.key().substr(dot + 1), sample);
+        dictionary.set(parent, nested);
+      }
+    }
+    const auto model = makeModel(*cls, &dictionary);
+    ASSERT_TRUE(model) << cls->name;
+    const Dictionary result = model->dictionaryValue();
+    for (const Dictionary::Entry& row : keys) {
+      const Property& property = *cls->property(*row.value.string());
+      const Value sample = sampleFor(*cls, property);
+      const Value& written = result.valueForKey(row.keyValue);
+      const bool isOverridden = property.get != nullptr;  // such as an event's code
+      const bool isModel = cls->mergedClassTable()[property.name].classObject() != nullptr;
+      EXPECT_TRUE(isOverridden || isModel ? !written.isNil() : written == sample)
+          << cls->name << " " << row.key() << " " << ::testing::PrintToString(written);
+    }
+  }
+}
+
 TEST(ModelRegistry, EveryTypeCodeIsWellFormed) {
   const std::regex wellFormed(R"([BiqQfd@#]|@\?|@"[A-Z]\w+")");
   for (const Class* cls : modelClasses()) {
@@ -53,7 +97,7 @@ std::string textOf(const std::filesystem::path& file) {
 TEST(ModelRegistry, ListsExactlyTheClassesThatHeadersDeclare) {
   const std::filesystem::path models =
       std::filesystem::path(ORVANTA_SOURCE_DIR) / "OrvantaCore/OrvantaCore/Core/Model/Model";
-  const std::regex declaration("(?:^|\n)  ORVANTA_MODEL\\((\\w+)");
+  const std::regex declaration("(?:^|\n)  ORVANTA_(?:MODEL|EVENT|ABSTRACT_EVENT|REQUEST)\\((Orvanta\\w+)");
   std::set<std::string> declared = {"OrvantaBaseModel"};  // the root opens its body by hand
   for (const auto& file : std::filesystem::recursive_directory_iterator(models)) {
     if (file.path().extension() == ".h") declared.merge(found(textOf(file.path()), declaration));

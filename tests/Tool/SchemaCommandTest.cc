@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <sstream>
+
 #include "Mapping/Class.h"
 #include "support/ToolRunner.h"
 #include "support/Values.h"
@@ -59,6 +62,20 @@ TEST(SchemaCommand, PrintsATableForAPerson) {
             "  -    deeplinkURL        @\"NSURL\"\n");
   const std::string push = runTool({"schema", "OrvantaPushObject"}).out;
   EXPECT_NE(push.find("read-only -> OrvantaPushStyle\n"), std::string::npos) << push;
+}
+
+TEST(SchemaCommand, TellsEventsFromOtherClasses) {
+  EXPECT_EQ(entryOf("OrvantaOpenAppEvent")["eventKey"], Value("o:oa"));
+  EXPECT_EQ(entryOf("OrvantaOpenAppEvent")["priority"], Value(1));
+  EXPECT_EQ(entryOf("OrvantaBaseProductEvent")["eventKey"], Value::null());
+  EXPECT_TRUE(entryOf("OrvantaProduct")["eventKey"].isNil());
+}
+
+TEST(SchemaCommand, MarkdownIsTheDocumentedWireFormat) {
+  std::stringstream document;
+  document << std::ifstream(std::string(ORVANTA_SOURCE_DIR) + "/docs/wire-format.md").rdbuf();
+  EXPECT_EQ(runTool({"schema", "--markdown"}).out, document.str())
+      << "run ./run schema --markdown >docs/wire-format.md";
 }
 
 }  // namespace

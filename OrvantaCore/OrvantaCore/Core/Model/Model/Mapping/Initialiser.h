@@ -41,9 +41,10 @@
 #define ORVANTA_BARE_(...) __VA_ARGS__
 
 /// An initialiser that leaves its receiver as it is: it answers a new object of the receiver's
-/// class, made with the superclass's initialiser of that name from the names in the first pair of
-/// parentheses, which then gets those in the second. The class method answers the same.
-#define ORVANTA_SUBSTITUTING_INITIALISER(init_, factory_, inherited_, own_)                    \
+/// class, made with the initialiser of the same name that the superclass has for the properties in
+/// the first pair of parentheses, and given those in the second. The two class methods make an
+/// object with the one and with the other.
+#define ORVANTA_SUBSTITUTING_INITIALISER(init_, inheritedFactory_, inherited_, factory_, own_) \
   using Super::init_;                                                                          \
   ::orvanta::Ref<Self> init_(                                                                  \
       ORVANTA_EACH_(ORVANTA_PARAMETER_, ORVANTA_BARE_ inherited_, ORVANTA_BARE_ own_)) const { \
@@ -53,6 +54,7 @@
     ORVANTA_EACH_(ORVANTA_STORE_MADE_, ORVANTA_BARE_ own_);                                    \
     return made;                                                                               \
   }                                                                                            \
+  ORVANTA_FACTORY(inheritedFactory_, init_, ORVANTA_BARE_ inherited_)                          \
   static ::orvanta::Ref<Self> factory_(                                                        \
       ORVANTA_EACH_(ORVANTA_PARAMETER_, ORVANTA_BARE_ inherited_, ORVANTA_BARE_ own_)) {       \
     const auto receiver = ::orvanta::Ref<Self>::adopt(new Self);                               \

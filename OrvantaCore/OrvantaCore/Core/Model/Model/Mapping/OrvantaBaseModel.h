@@ -114,6 +114,13 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
   /// Tells a recorder that a model which this one needs refused its dictionary.
   void recordRefusedModel(std::string_view keyPath, std::string_view property) const;
 
+  /// For a property whose model is no entry of its own but flattened: its keys stand among this
+  /// object's. Makes the model of the whole dictionary; false when it refuses, and is nil then.
+  template <class M>
+  bool updateFlattened(Held<M>& model, std::string_view property, const Dictionary* dictionary);
+  /// The model's dictionary with this object's own entries over it, "klazz" among them.
+  static Dictionary flattened(const OrvantaBaseModel* model, bool classInfo, const Dictionary& own);
+
  private:
   struct OwnTables;
 
@@ -150,6 +157,14 @@ Ref<M> make(bool (Base::*initialiser)(Parameters...), Arguments&&... arguments) 
 template <class M>
 Ref<M> make(const Dictionary& dictionary) {
   return make<M>(&M::initWithDictionary, &dictionary);
+}
+
+template <class M>
+bool OrvantaBaseModel::updateFlattened(Held<M>& model, std::string_view property,
+                                       const Dictionary* dictionary) {
+  model = make<M>(&M::initWithDictionary, dictionary);
+  if (!model) recordRefusedModel("", property);
+  return bool(model);
 }
 
 }  // namespace orvanta

@@ -55,6 +55,15 @@ Array OrvantaBaseModel::JSONValidValueForArray(const Array& array, bool classInf
   return result;
 }
 
+Dictionary OrvantaBaseModel::flattened(const OrvantaBaseModel* model, bool classInfo,
+                                       const Dictionary& own) {
+  if (model == nullptr) return own;
+  Dictionary result = model->dictionaryValueWithPolicy(classInfo);
+  result.remove("klazz");  // the object's own comes last
+  result.addEntries(own);
+  return result;
+}
+
 std::string OrvantaBaseModel::description() const {
   return "Dictionary Representation :\n" + describe(dictionaryValue());
 }

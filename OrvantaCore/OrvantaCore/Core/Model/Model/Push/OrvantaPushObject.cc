@@ -52,11 +52,7 @@ void OrvantaPushObject::setInteractiveActionIdentifier(Held<String> identifier) 
 }
 
 Dictionary OrvantaPushObject::dictionaryValueWithPolicy(bool classInfo) const {
-  Dictionary result;
-  if (const auto* alert = alert_.get()) result = alert->dictionaryValueWithPolicy(classInfo);
-  result.remove("klazz");  // the object's own comes last
-  result.addEntries(Super::dictionaryValueWithPolicy(classInfo));
-  return result;
+  return flattened(alert_.get(), classInfo, Super::dictionaryValueWithPolicy(classInfo));
 }
 
 }  // namespace orvanta

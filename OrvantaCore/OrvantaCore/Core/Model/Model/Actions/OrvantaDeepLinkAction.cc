@@ -1,0 +1,7 @@
+#include "Actions/OrvantaDeepLinkAction.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaDeepLinkAction)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Actions/OrvantaReviewAction.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaReviewAction)
+
+}  // namespace orvanta

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Actions/OrvantaAction.h"
+
+namespace orvanta {
+
+/// Asks for a review of the application; its class says it all.
+class OrvantaReviewAction : public OrvantaAction {
+  ORVANTA_MODEL(OrvantaReviewAction, OrvantaAction)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Actions/OrvantaSendEventAction.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaSendEventAction)
+
+}  // namespace orvanta

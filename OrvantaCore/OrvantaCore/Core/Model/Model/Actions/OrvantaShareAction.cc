@@ -1,0 +1,7 @@
+#include "Actions/OrvantaShareAction.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaShareAction)
+
+}  // namespace orvanta

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Actions/OrvantaAction.h"
+
+namespace orvanta {
+
+/// Opens the share sheet; its class says it all.
+class OrvantaShareAction : public OrvantaAction {
+  ORVANTA_MODEL(OrvantaShareAction, OrvantaAction)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Actions/OrvantaUIAction.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaUIAction)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Actions/OrvantaWebViewAction.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaWebViewAction)
+
+}  // namespace orvanta

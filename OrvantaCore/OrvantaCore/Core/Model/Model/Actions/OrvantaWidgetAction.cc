@@ -1,0 +1,7 @@
+#include "Actions/OrvantaWidgetAction.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaWidgetAction)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaCartAddProductEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaCartAddProductEvent)
+
+}  // namespace orvanta

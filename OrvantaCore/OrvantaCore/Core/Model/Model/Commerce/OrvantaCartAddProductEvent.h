@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Commerce/OrvantaBaseProductEvent.h"
+
+namespace orvanta {
+
+/// A product was put into the cart.
+class OrvantaCartAddProductEvent : public OrvantaBaseProductEvent {
+  ORVANTA_EVENT(OrvantaCartAddProductEvent, OrvantaBaseProductEvent, "o:acp")
+
+  ORVANTA_PROPERTY("ec", assign, std::uint64_t, count, setCount)
+  ORVANTA_PROPERTY("er", assign, double, basketTotal, setBasketTotal)
+
+  ORVANTA_SUBSTITUTING_INITIALISER(initWithProduct, eventWithProduct, (product), eventWithProduct,
+                                   (count, basketTotal))
+};
+
+}  // namespace orvanta

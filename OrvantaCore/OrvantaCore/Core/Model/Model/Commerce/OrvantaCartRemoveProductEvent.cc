@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaCartRemoveProductEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaCartRemoveProductEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Commerce/OrvantaBaseProductEvent.h"
+
+namespace orvanta {
+
+/// A product was taken out of the cart.
+class OrvantaCartRemoveProductEvent : public OrvantaBaseProductEvent {
+  ORVANTA_EVENT(OrvantaCartRemoveProductEvent, OrvantaBaseProductEvent, "o:rcp")
+
+  ORVANTA_PROPERTY("ec", assign, std::uint64_t, count, setCount)
+
+  ORVANTA_SUBSTITUTING_INITIALISER(initWithProduct, eventWithProduct, (product), eventWithProduct,
+                                   (count))
+};
+
+}  // namespace orvanta

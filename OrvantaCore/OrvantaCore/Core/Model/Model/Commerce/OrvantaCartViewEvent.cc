@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaCartViewEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaCartViewEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// The cart was looked at.
+class OrvantaCartViewEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaCartViewEvent, OrvantaEvent, "o:vt")
+
+  ORVANTA_PROPERTY("er", assign, double, subTotal, setSubTotal)
+  ORVANTA_PROPERTY("ec", assign, std::uint64_t, itemCount, setItemCount)
+
+  ORVANTA_EVENT_INITIALISER(initWithSubTotal, eventWithSubTotal, subTotal, itemCount)
+};
+
+}  // namespace orvanta

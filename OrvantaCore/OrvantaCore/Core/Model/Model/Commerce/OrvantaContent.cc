@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaContent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaContent)
+
+}  // namespace orvanta

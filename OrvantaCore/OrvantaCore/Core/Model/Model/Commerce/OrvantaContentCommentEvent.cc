@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaContentCommentEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaContentCommentEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaContentRateEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaContentRateEvent)
+
+}  // namespace orvanta

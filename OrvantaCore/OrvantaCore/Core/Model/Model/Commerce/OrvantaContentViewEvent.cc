@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaContentViewEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaContentViewEvent)
+
+}  // namespace orvanta

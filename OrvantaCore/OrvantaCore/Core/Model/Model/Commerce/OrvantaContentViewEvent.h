@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Commerce/OrvantaBaseContentEvent.h"
+
+namespace orvanta {
+
+/// A content was looked at.
+class OrvantaContentViewEvent : public OrvantaBaseContentEvent {
+  ORVANTA_EVENT(OrvantaContentViewEvent, OrvantaBaseContentEvent, "o:vc")
+
+  ORVANTA_FACTORY(eventWithContent, initWithContent, content)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaLineItem.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaLineItem)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaOrderCancelEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaOrderCancelEvent)
+
+}  // namespace orvanta

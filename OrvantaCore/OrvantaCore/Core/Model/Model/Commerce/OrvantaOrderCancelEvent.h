@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// An order was cancelled.
+class OrvantaOrderCancelEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaOrderCancelEvent, OrvantaEvent, "o:co")
+
+  ORVANTA_PROPERTY("er", assign, double, subTotal, setSubTotal)
+  ORVANTA_PROPERTY("es", assign, double, grandTotal, setGrandTotal)
+  ORVANTA_PROPERTY("ec", assign, std::uint64_t, itemCount, setItemCount)
+  ORVANTA_PROPERTY("em", copy, String, paymentMethod, setPaymentMethod)
+
+  ORVANTA_EVENT_INITIALISER(initWithSubTotal, eventWithSubTotal, subTotal, grandTotal, itemCount)
+};
+
+}  // namespace orvanta

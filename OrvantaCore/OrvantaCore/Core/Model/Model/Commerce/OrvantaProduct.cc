@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaProduct.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaProduct)
+
+}  // namespace orvanta

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Mapping/Initialiser.h"
+#include "Mapping/OrvantaBaseModel.h"
+
+namespace orvanta {
+
+/// A product, as it is looked at or bought. Prices are in the units that the caller counts in.
+class OrvantaProduct : public OrvantaBaseModel {
+  ORVANTA_MODEL(OrvantaProduct, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("ea", copy, String, productId, setProductId)
+  ORVANTA_PROPERTY("eb", copy, String, productName, setProductName)
+  ORVANTA_PROPERTY("ga", strong, Array, categoryIds, setCategoryIds)
+  ORVANTA_PROPERTY("ef", strong, Array, categoryNames, setCategoryNames)
+  ORVANTA_PROPERTY("eq", assign, double, price, setPrice)
+  ORVANTA_PROPERTY("gd", copy, String, brandId, setBrandId)
+  ORVANTA_PROPERTY("eh", copy, String, brandName, setBrandName)
+  ORVANTA_PROPERTY("ei", copy, String, variant, setVariant)
+  ORVANTA_PROPERTY("eg", strong, Array, keywords, setKeywords)
+
+  ORVANTA_INITIALISER(initWithId, init, productId, productName, price)
+  ORVANTA_FACTORY(productWithId, initWithId, productId, productName, price)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaProductCommentEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaProductCommentEvent)
+
+}  // namespace orvanta

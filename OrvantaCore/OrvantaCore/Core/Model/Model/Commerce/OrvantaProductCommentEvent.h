@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Commerce/OrvantaBaseProductEvent.h"
+
+namespace orvanta {
+
+/// A product was commented on.
+class OrvantaProductCommentEvent : public OrvantaBaseProductEvent {
+  ORVANTA_EVENT(OrvantaProductCommentEvent, OrvantaBaseProductEvent, "o:cp")
+
+  ORVANTA_FACTORY(eventWithProduct, initWithProduct, product)
+};
+
+}  // namespace orvanta

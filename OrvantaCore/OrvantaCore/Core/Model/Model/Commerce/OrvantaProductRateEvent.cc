@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaProductRateEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaProductRateEvent)
+
+}  // namespace orvanta

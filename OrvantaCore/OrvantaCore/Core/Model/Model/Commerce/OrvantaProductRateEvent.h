@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Commerce/OrvantaBaseProductEvent.h"
+
+namespace orvanta {
+
+/// A product was rated; the caller gives `rating` its scale.
+class OrvantaProductRateEvent : public OrvantaBaseProductEvent {
+  ORVANTA_EVENT(OrvantaProductRateEvent, OrvantaBaseProductEvent, "o:rp")
+
+  ORVANTA_PROPERTY("eo", assign, std::uint64_t, rating, setRating)
+
+  ORVANTA_SUBSTITUTING_INITIALISER(initWithProduct, eventWithProduct, (product), eventWithProduct,
+                                   (rating))
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaProductViewEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaProductViewEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Commerce/OrvantaBaseProductEvent.h"
+
+namespace orvanta {
+
+/// A product was looked at.
+class OrvantaProductViewEvent : public OrvantaBaseProductEvent {
+  ORVANTA_EVENT(OrvantaProductViewEvent, OrvantaBaseProductEvent, "o:vp")
+
+  ORVANTA_FACTORY(eventWithProduct, initWithProduct, product)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Commerce/OrvantaWishListEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaWishListEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Commerce/OrvantaBaseProductEvent.h"
+
+namespace orvanta {
+
+/// A product was put on the wish list.
+class OrvantaWishListEvent : public OrvantaBaseProductEvent {
+  ORVANTA_EVENT(OrvantaWishListEvent, OrvantaBaseProductEvent, "o:wl")
+
+  ORVANTA_PROPERTY("ge", copy, String, campaignId, setCampaignId)
+
+  ORVANTA_SUBSTITUTING_INITIALISER(initWithProduct, eventWithProduct, (product), eventWithProduct,
+                                   (campaignId))
+};
+
+}  // namespace orvanta

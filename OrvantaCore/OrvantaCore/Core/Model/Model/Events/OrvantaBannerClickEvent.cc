@@ -1,0 +1,7 @@
+#include "Events/OrvantaBannerClickEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaBannerClickEvent)
+
+}  // namespace orvanta

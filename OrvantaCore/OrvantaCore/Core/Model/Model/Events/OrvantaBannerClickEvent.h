@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// A banner was tapped.
+class OrvantaBannerClickEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaBannerClickEvent, OrvantaEvent, "o:bc")
+
+  ORVANTA_PROPERTY("ea", copy, String, bannerId, setBannerId)
+  ORVANTA_PROPERTY("eg", strong, Array, keywords, setKeywords)
+
+  ORVANTA_EVENT_INITIALISER(initWithBannerId, eventWithBannerId, bannerId)
+};
+
+}  // namespace orvanta

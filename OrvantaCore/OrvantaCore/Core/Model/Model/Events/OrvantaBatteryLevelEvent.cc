@@ -1,0 +1,7 @@
+#include "Events/OrvantaBatteryLevelEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaBatteryLevelEvent)
+
+}  // namespace orvanta

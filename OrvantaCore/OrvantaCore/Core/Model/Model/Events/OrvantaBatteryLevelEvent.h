@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// The battery reached a level that is to be reported.
+class OrvantaBatteryLevelEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaBatteryLevelEvent, OrvantaEvent, "o:bl")
+
+  ORVANTA_PROPERTY("ec", assign, std::int32_t, batteryLevel, setBatteryLevel)
+
+  ORVANTA_EVENT_INITIALISER(initWithBatteryLevel, eventWithBatteryLevel, batteryLevel)
+};
+
+}  // namespace orvanta

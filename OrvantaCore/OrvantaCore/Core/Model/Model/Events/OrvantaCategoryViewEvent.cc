@@ -1,0 +1,7 @@
+#include "Events/OrvantaCategoryViewEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaCategoryViewEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// A category was looked at.
+class OrvantaCategoryViewEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaCategoryViewEvent, OrvantaEvent, "o:cv")
+
+  ORVANTA_PROPERTY("ga", copy, String, categoryId, setCategoryId)
+  ORVANTA_PROPERTY("ef", copy, String, categoryName, setCategoryName)
+
+  ORVANTA_EVENT_INITIALISER(initWithCategoryId, eventWithCategoryId, categoryId, categoryName)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Events/OrvantaCrashEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaCrashEvent)
+
+}  // namespace orvanta

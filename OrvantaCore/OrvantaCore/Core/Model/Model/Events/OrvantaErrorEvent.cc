@@ -1,0 +1,7 @@
+#include "Events/OrvantaErrorEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaErrorEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Events/OrvantaGeofenceEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaGeofenceEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// A geofence was crossed; the caller gives `type` its meaning.
+class OrvantaGeofenceEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaGeofenceEvent, OrvantaEvent, "o:gu")
+
+  ORVANTA_PROPERTY("ea", copy, String, identifier, setIdentifier)
+  ORVANTA_PROPERTY("fy", assign, std::uint64_t, type, setType)
+
+  ORVANTA_EVENT_INITIALISER(initWithIdentifier, eventWithIdentifier, identifier, type)
+  std::int64_t priority() const override { return 1; }
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Events/OrvantaInAppPurchaseEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaInAppPurchaseEvent)
+
+}  // namespace orvanta

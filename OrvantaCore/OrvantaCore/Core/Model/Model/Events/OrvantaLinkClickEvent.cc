@@ -1,0 +1,7 @@
+#include "Events/OrvantaLinkClickEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaLinkClickEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// A campaign link was followed.
+class OrvantaLinkClickEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaLinkClickEvent, OrvantaEvent, "o:lc")
+
+  ORVANTA_PROPERTY("eg", copy, String, source, setSource)
+  ORVANTA_PROPERTY("ea", copy, String, campaignId, setCampaignId)
+  ORVANTA_PROPERTY("eb", copy, String, campaignName, setCampaignName)
+  ORVANTA_PROPERTY("et", copy, String, medium, setMedium)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Events/OrvantaLocationAuthorizationEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaLocationAuthorizationEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// The user allowed or refused to be located.
+class OrvantaLocationAuthorizationEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaLocationAuthorizationEvent, OrvantaEvent, "o:la")
+
+  ORVANTA_PROPERTY("fe", assign, std::int32_t, authorizationStatus, setAuthorizationStatus)
+
+  ORVANTA_EVENT_INITIALISER(initWithLocationAuthorizationStatus, eventWithAuthorizationStatus,
+                            authorizationStatus)
+};
+
+}  // namespace orvanta

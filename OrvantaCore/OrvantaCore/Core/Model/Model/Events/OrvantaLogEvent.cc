@@ -1,0 +1,7 @@
+#include "Events/OrvantaLogEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaLogEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// A log line of the application.
+class OrvantaLogEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaLogEvent, OrvantaEvent, "o:log")
+
+  ORVANTA_PROPERTY("ea", strong, String, tag, setTag)
+  ORVANTA_PROPERTY("eb", strong, String, log, setLog)
+
+  ORVANTA_EVENT_INITIALISER(initWithLog, eventWithLog, log, tag)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Events/OrvantaLoginEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaLoginEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// A user logged in.
+class OrvantaLoginEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaLoginEvent, OrvantaEvent, "o:cl")
+
+  ORVANTA_PROPERTY("uid", copy, String, userId, setUserId)
+
+  ORVANTA_EVENT_INITIALISER(initWithUserId, eventWithUserId, userId)
+};
+
+}  // namespace orvanta

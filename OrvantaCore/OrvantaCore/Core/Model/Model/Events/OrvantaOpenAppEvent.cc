@@ -1,0 +1,7 @@
+#include "Events/OrvantaOpenAppEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaOpenAppEvent)
+
+}  // namespace orvanta

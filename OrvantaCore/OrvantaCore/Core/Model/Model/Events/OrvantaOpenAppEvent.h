@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// The application was opened.
+class OrvantaOpenAppEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaOpenAppEvent, OrvantaEvent, "o:oa")
+
+  std::int64_t priority() const override { return 1; }
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Events/OrvantaPopupShownEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaPopupShownEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+#include "Push/OrvantaPushObject.h"
+
+namespace orvanta {
+
+/// The in-app message of a push was shown.
+class OrvantaPopupShownEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaPopupShownEvent, OrvantaEvent, "o:psw")
+
+  ORVANTA_PROPERTY("fs", copy, String, pushId, setPushId)
+
+  ORVANTA_EVENT_INITIALISER_FROM(OrvantaPushObject, initWithPushObject, eventWithPushObject, pushId)
+  std::int64_t priority() const override { return 1; }
+};
+
+}  // namespace orvanta

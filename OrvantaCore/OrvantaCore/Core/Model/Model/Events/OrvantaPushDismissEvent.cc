@@ -1,0 +1,7 @@
+#include "Events/OrvantaPushDismissEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaPushDismissEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+#include "Push/OrvantaPushObject.h"
+
+namespace orvanta {
+
+/// A notification was dismissed.
+class OrvantaPushDismissEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaPushDismissEvent, OrvantaEvent, "o:pdm")
+
+  ORVANTA_PROPERTY("fs", copy, String, pushId, setPushId)
+
+  ORVANTA_EVENT_INITIALISER_FROM(OrvantaPushObject, initWithPushObject, eventWithPushObject, pushId)
+  std::int64_t priority() const override { return 1; }
+};
+
+}  // namespace orvanta

@@ -1,0 +1,37 @@
+#include "Events/OrvantaPushOpenedEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaPushOpenedEvent)
+
+bool OrvantaPushOpenedEvent::initWithPushObject(const OrvantaPushObject* pushObject) {
+  if (pushObject == nullptr) return initInternal();
+  if (!initWithPushId(pushObject->pushId(), pushObject->pushInstanceId(),
+                      pushObject->interactiveActionIdentifier())) {
+    return false;
+  }
+  inputText_ = pushObject->inputText();
+  return true;
+}
+
+Ref<OrvantaPushOpenedEvent> OrvantaPushOpenedEvent::eventWithPushObject(
+    const OrvantaPushObject* pushObject) {
+  return make<Self>(&Self::initWithPushObject, pushObject);
+}
+
+bool OrvantaPushOpenedEvent::initWithPushId(Held<String> pushId, Held<String> pushInstanceId,
+                                            Held<String> interactiveActionIdentifier) {
+  if (!initInternal()) return false;
+  pushId_ = std::move(pushId);
+  pushInstanceId_ = std::move(pushInstanceId);
+  actionIdentifier_ = std::move(interactiveActionIdentifier);
+  return true;
+}
+
+Ref<OrvantaPushOpenedEvent> OrvantaPushOpenedEvent::eventWithPushId(
+    Held<String> pushId, Held<String> pushInstanceId, Held<String> interactiveActionId) {
+  return make<Self>(&Self::initWithPushId, std::move(pushId), std::move(pushInstanceId),
+                    std::move(interactiveActionId));
+}
+
+}  // namespace orvanta

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+#include "Push/OrvantaPushObject.h"
+
+namespace orvanta {
+
+/// A notification was opened, or one of its controls used.
+class OrvantaPushOpenedEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaPushOpenedEvent, OrvantaEvent, "o:po")
+
+  ORVANTA_PROPERTY("fs", copy, String, pushId, setPushId)
+  ORVANTA_PROPERTY("piid", copy, String, pushInstanceId, setPushInstanceId)
+  ORVANTA_PROPERTY("ea", copy, String, actionIdentifier, setActionIdentifier)
+  ORVANTA_PROPERTY("txt", copy, String, inputText, setInputText)
+
+  /// Takes the identifiers, the action that the user chose and the text that the user typed.
+  bool initWithPushObject(const OrvantaPushObject* pushObject);
+  static Ref<Self> eventWithPushObject(const OrvantaPushObject* pushObject);
+  bool initWithPushId(Held<String> pushId, Held<String> pushInstanceId,
+                      Held<String> interactiveActionIdentifier);
+  static Ref<Self> eventWithPushId(Held<String> pushId, Held<String> pushInstanceId,
+                                   Held<String> interactiveActionId);
+  std::int64_t priority() const override { return 1; }
+};
+
+}  // namespace orvanta

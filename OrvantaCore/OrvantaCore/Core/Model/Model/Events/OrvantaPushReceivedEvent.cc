@@ -1,0 +1,7 @@
+#include "Events/OrvantaPushReceivedEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaPushReceivedEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Events/OrvantaPushViewEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaPushViewEvent)
+
+}  // namespace orvanta

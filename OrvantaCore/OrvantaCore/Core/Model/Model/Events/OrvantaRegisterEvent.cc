@@ -1,0 +1,7 @@
+#include "Events/OrvantaRegisterEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaRegisterEvent)
+
+}  // namespace orvanta

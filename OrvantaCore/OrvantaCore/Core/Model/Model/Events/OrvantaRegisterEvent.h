@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// A user registered.
+class OrvantaRegisterEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaRegisterEvent, OrvantaEvent, "o:rg")
+
+  ORVANTA_PROPERTY("uid", copy, String, userId, setUserId)
+
+  ORVANTA_EVENT_INITIALISER(initWithUserId, eventWithUserId, userId)
+};
+
+}  // namespace orvanta

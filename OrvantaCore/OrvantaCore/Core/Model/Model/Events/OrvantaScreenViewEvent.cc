@@ -1,0 +1,7 @@
+#include "Events/OrvantaScreenViewEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaScreenViewEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// A screen was left.
+class OrvantaScreenViewEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaScreenViewEvent, OrvantaEvent, "o:sv")
+
+  ORVANTA_PROPERTY("ee", copy, String, pageId, setPageId)
+  ORVANTA_PROPERTY("ef", copy, String, referrerPageId, setReferrerPageId)
+  ORVANTA_PROPERTY("ej", copy, String, referrerPageName, setReferrerPageName)
+  /// Seconds.
+  ORVANTA_PROPERTY("el", assign, double, timeInPage, setTimeInPage)
+  ORVANTA_PROPERTY("ea", copy, String, pageName, setPageName)
+  ORVANTA_PROPERTY("eg", strong, Array, keywords, setKeywords)
+  ORVANTA_PROPERTY("fi", strong, MutableDictionary, formInfo, setFormInfo)
+
+  ORVANTA_EVENT_INITIALISER(initWithId, eventWithId, pageId, referrerPageId, referrerPageName,
+                            timeInPage, pageName)
+};
+
+}  // namespace orvanta

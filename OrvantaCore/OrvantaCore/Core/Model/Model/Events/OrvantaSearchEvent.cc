@@ -1,0 +1,7 @@
+#include "Events/OrvantaSearchEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaSearchEvent)
+
+}  // namespace orvanta

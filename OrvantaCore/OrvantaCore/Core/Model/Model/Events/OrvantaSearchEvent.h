@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// Something was searched for.
+class OrvantaSearchEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaSearchEvent, OrvantaEvent, "o:sr")
+
+  ORVANTA_PROPERTY("en", copy, String, query, setQuery)
+  ORVANTA_PROPERTY("ec", assign, std::uint64_t, resultCount, setResultCount)
+
+  ORVANTA_EVENT_INITIALISER(initWithQuery, eventWithQuery, query, resultCount)
+};
+
+}  // namespace orvanta

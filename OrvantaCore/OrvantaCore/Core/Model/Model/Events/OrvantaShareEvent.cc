@@ -1,0 +1,7 @@
+#include "Events/OrvantaShareEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaShareEvent)
+
+}  // namespace orvanta

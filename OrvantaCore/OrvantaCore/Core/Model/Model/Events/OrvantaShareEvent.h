@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// Something was shared.
+class OrvantaShareEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaShareEvent, OrvantaEvent, "o:sh")
+
+  ORVANTA_PROPERTY("ej", copy, String, channel, setChannel)
+  ORVANTA_PROPERTY("ea", copy, String, content, setContent)
+
+  ORVANTA_EVENT_INITIALISER(initWithChannel, eventWithChannel, channel, content)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Events/OrvantaShowViewEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaShowViewEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// A tracked screen was shown.
+class OrvantaShowViewEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaShowViewEvent, OrvantaEvent, "o:shv")
+
+  ORVANTA_READONLY("ea", copy, String, code)
+
+  ORVANTA_EVENT_INITIALISER(initWithCode, eventWithCode, code)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Events/OrvantaShowViewTestEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaShowViewTestEvent)
+
+}  // namespace orvanta

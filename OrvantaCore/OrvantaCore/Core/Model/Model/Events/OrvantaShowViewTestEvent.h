@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// A screen was shown on a test device.
+class OrvantaShowViewTestEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaShowViewTestEvent, OrvantaEvent, "o:shvt")
+
+  ORVANTA_READONLY("eb", copy, String, path)
+
+  ORVANTA_EVENT_INITIALISER(initWithPath, eventWithPath, path)
+};
+
+}  // namespace orvanta

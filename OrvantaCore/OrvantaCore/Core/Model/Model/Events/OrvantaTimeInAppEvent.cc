@@ -1,0 +1,7 @@
+#include "Events/OrvantaTimeInAppEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaTimeInAppEvent)
+
+}  // namespace orvanta

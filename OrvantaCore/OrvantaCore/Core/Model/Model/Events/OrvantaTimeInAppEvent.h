@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// The application was left.
+class OrvantaTimeInAppEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaTimeInAppEvent, OrvantaEvent, "o:tia")
+
+  ORVANTA_PROPERTY("ft", assign, double, timeInAppSeconds, setTimeInAppSeconds)
+
+  ORVANTA_EVENT_INITIALISER(initWithTimeInAppSeconds, eventWithTimeInAppSeconds, timeInAppSeconds)
+  std::int64_t priority() const override { return 1; }
+};
+
+}  // namespace orvanta

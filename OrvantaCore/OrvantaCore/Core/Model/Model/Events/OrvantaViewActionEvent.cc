@@ -1,0 +1,7 @@
+#include "Events/OrvantaViewActionEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaViewActionEvent)
+
+}  // namespace orvanta

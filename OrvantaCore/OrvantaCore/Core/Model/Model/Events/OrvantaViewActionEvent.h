@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// A tracked action was used.
+class OrvantaViewActionEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaViewActionEvent, OrvantaEvent, "o:va")
+
+  ORVANTA_READONLY("ea", copy, String, code)
+  ORVANTA_READONLY("ed", assign, std::int64_t, actionType)
+
+  ORVANTA_EVENT_INITIALISER(initWithCode, eventWithCode, code, actionType)
+};
+
+}  // namespace orvanta

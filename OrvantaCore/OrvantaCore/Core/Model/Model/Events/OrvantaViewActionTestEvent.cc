@@ -1,0 +1,7 @@
+#include "Events/OrvantaViewActionTestEvent.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaViewActionTestEvent)
+
+}  // namespace orvanta

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Events/OrvantaEvent.h"
+
+namespace orvanta {
+
+/// An action was used on a test device.
+class OrvantaViewActionTestEvent : public OrvantaEvent {
+  ORVANTA_EVENT(OrvantaViewActionTestEvent, OrvantaEvent, "o:vat")
+
+  ORVANTA_READONLY("eb", copy, String, path)
+  ORVANTA_READONLY("ed", assign, std::int64_t, actionType)
+
+  ORVANTA_EVENT_INITIALISER(initWithPath, eventWithPath, path, actionType)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,64 @@
+#include <ostream>
+
+#include "Commands.h"
+#include "Foundation/Date.h"
+#include "Identity/OrvantaIdentifierUtil.h"
+#include "Text.h"
+
+namespace orvanta::tool {
+
+namespace {
+
+[[noreturn]] void refuse(const std::string& text, const std::string& reason) {
+  throw Failure(ExitCode::notMade, "\"" + printable(text) + "\" is no short identifier: " + reason);
+}
+
+/// The number that a text of base 62 stands for.
+DecimalNumber decoded(const std::string& text) {
+  constexpr std::size_t kLongest = 21;  // 62^21 is still below 10^38
+  constexpr std::string_view kDigits = OrvantaIdentifierUtil::kBase62Digits;
+  if (text.size() > kLongest) refuse(text, "it is too long");
+  const DecimalNumber base(static_cast<std::int64_t>(kDigits.size()));
+  DecimalNumber number;
+  for (auto at = text.rbegin(); at != text.rend(); ++at) {
+    const auto digit = kDigits.find(*at);
+    if (digit == std::string_view::npos) {
+      refuse(text, "it holds another character than letters and digits");
+    }
+    const DecimalNumber negative(-static_cast<std::int64_t>(digit));
+    number = number.multiplyingBy(base).subtracting(negative);
+  }
+  return number;
+}
+
+}  // namespace
+
+ExitCode identifier(const IdentifierOptions& options, const Streams& streams) {
+  if (options.decode.empty()) {
+    for (std::uint64_t i = 0; i < options.count && streams.out; ++i) {
+      streams.out << OrvantaIdentifierUtil::generateShortIdentifier() << '\n';
+    }
+    return ExitCode::done;
+  }
+  // The random number, ten digits of seconds and nine of nanoseconds.
+  constexpr std::size_t kSecondDigits = 10;
+  constexpr std::size_t kNanosecondDigits = 9;
+  const std::string digits = decoded(options.decode).stringValue();
+  if (digits.size() <= kSecondDigits + kNanosecondDigits) {
+    refuse(options.decode, "its number, " + digits + ", has less than 20 digits");
+  }
+  const std::size_t randomDigits = digits.size() - kSecondDigits - kNanosecondDigits;
+  const std::string random = digits.substr(0, randomDigits);
+  if (random.size() > 5 || std::stoul(random) > 65534) {
+    refuse(options.decode, "the random part of its number, " + digits + ", is beyond 65534");
+  }
+  const std::string seconds = digits.substr(randomDigits, kSecondDigits);
+  const std::string day = Date{std::stod(seconds)}.description();
+  streams.out << "number  " << digits << '\n'
+              << "time    " << day.substr(0, day.find(" +")) << '.'
+              << digits.substr(randomDigits + kSecondDigits) << " UTC\n"
+              << "random  " << random << '\n';
+  return ExitCode::done;
+}
+
+}  // namespace orvanta::tool

@@ -1,0 +1,135 @@
+#include "WireFormat.h"
+
+#include <algorithm>
+#include <ostream>
+#include <string>
+
+#include "Events/OrvantaEvent.h"
+#include "Mapping/OrvantaBaseModel.h"
+
+namespace orvanta::tool {
+
+namespace {
+
+constexpr std::string_view kIntroduction =
+    "# The wire format\n"
+    "\n"
+    "Every model class with its wire keys. Made by `orvanta schema --markdown`: to change this "
+    "file,\n"
+    "change the declarations and run `./run schema --markdown >docs/wire-format.md`.\n"
+    "\n"
+    "A key with dots is a path: `aps.sound` is read from the entry `sound` of the dictionary "
+    "under\n"
+    "`aps`, and written as one flat key. A class has the keys of the class that it derives from\n"
+    "besides its own. Dates are whole milliseconds since 1970-01-01 00:00 UTC. An integer of\n"
+    "9223372036854775807 is unset and is left out when written. [mapping.md](mapping.md) has the\n"
+    "rules.\n";
+
+struct TypeName {
+  std::string_view encoding;
+  std::string_view words;
+};
+constexpr TypeName kTypeNames[] = {
+    {"@\"NSString\"", "text"},
+    {"@\"NSNumber\"", "number"},
+    {"@\"NSURL\"", "URL, as text"},
+    {"@\"NSDate\"", "date, in milliseconds"},
+    {"@\"NSArray\"", "array"},
+    {"@\"NSMutableArray\"", "array"},
+    {"@\"NSDictionary\"", "dictionary"},
+    {"@\"NSMutableDictionary\"", "dictionary"},
+    {"@", "any value"},
+    {"@?", "callback"},
+    {"#", "class"},
+    {"B", "boolean"},
+    {"i", "32-bit integer"},
+    {"q", "64-bit integer"},
+    {"Q", "unsigned 64-bit integer"},
+    {"f", "32-bit floating point"},
+    {"d", "64-bit floating point"},
+};
+
+std::string link(std::string_view className) {
+  return std::string("[").append(className).append("](#").append(className).append(")");
+}
+
+/// What a property holds, in words; a model's class and that of an array's elements are links.
+std::string typeOf(const Class& cls, const Property& property) {
+  const auto* known =
+      std::find_if(std::begin(kTypeNames), std::end(kTypeNames),
+                   [&](const TypeName& type) { return type.encoding == property.encoding; });
+  const auto declared =
+      std::find_if(cls.keyPathClassMapping.begin(), cls.keyPathClassMapping.end(),
+                   [&](const ClassEntry& entry) { return entry.property == property.name; });
+  const bool hasModel = declared != cls.keyPathClassMapping.end();
+  if (known == std::end(kTypeNames)) {  // @"Class"
+    return link(property.encoding.substr(2, property.encoding.size() - 3));
+  }
+  return std::string(known->words) + (hasModel ? " of " + link(declared->model->name) : "");
+}
+
+void printRow(std::string_view key, const Class& declaring, const Property& property,
+              std::string_view remark, std::ostream& out) {
+  out << "| " << (key.empty() ? "" : "`") << (key.empty() ? "none" : key)
+      << (key.empty() ? "" : "`") << " | `" << property.name << "` | "
+      << typeOf(declaring, property) << " | " << remark << " |\n";
+}
+
+void printClass(const Class& cls, std::ostream& out) {
+  out << "\n<a id=\"" << cls.name << "\"></a>\n### " << cls.name << "\n\n";
+  if (cls.superclass == nullptr) {
+    out << "The root of all models.\n";
+  } else {
+    out << "Derives from " << link(cls.superclass->name) << ".";
+    const auto model = makeModel(cls, nullptr);
+    if (const auto* event = Value(model).as<OrvantaEvent>()) {
+      if (const auto code = event->eventKey().get()) {
+        out << " Event code `" << *code << "`, priority " << event->priority() << ".";
+      }
+    }
+    out << "\n";
+  }
+  const KeyTable keys = cls.keyPathPropertySelectorMapping;
+  if (keys.empty() && cls.properties.empty()) return;
+  out << "\n| Key | Property | Type | |\n|---|---|---|---|\n";
+  for (const Property& property : cls.properties) {
+    const auto entry = std::find_if(keys.begin(), keys.end(), [&](const KeyEntry& row) {
+      return row.property == property.name;
+    });
+    printRow(entry != keys.end() ? entry->keyPath : "", cls, property,
+             property.readOnly ? "read-only" : "", out);
+  }
+  for (const KeyEntry& entry : keys) {
+    const bool isOwn = std::any_of(cls.properties.begin(), cls.properties.end(),
+                                   [&](const Property& p) { return p.name == entry.property; });
+    if (!isOwn) {
+      printRow(entry.keyPath, cls, *cls.property(entry.property), "a further key of it", out);
+    }
+  }
+}
+
+void printEventCodes(const std::vector<const Class*>& classes, std::ostream& out) {
+  out << "\n## Event codes\n\n| Code | Class | Priority |\n|---|---|---|\n";
+  std::vector<std::string> rows;
+  for (const Class* cls : classes) {
+    const auto model = makeModel(*cls, nullptr);
+    const auto* event = Value(model).as<OrvantaEvent>();
+    const auto code = event != nullptr ? event->eventKey() : nullptr;
+    if (!code) continue;
+    rows.push_back("| `" + std::string(*code.get()) + "` | " + link(cls->name) + " | " +
+                   std::to_string(event->priority()) + " |\n");
+  }
+  std::sort(rows.begin(), rows.end());
+  for (const std::string& row : rows) out << row;
+}
+
+}  // namespace
+
+void printWireFormat(const std::vector<const Class*>& classes, std::ostream& out) {
+  out << kIntroduction;
+  printEventCodes(classes, out);
+  out << "\n## Classes\n";
+  for (const Class* cls : classes) printClass(*cls, out);
+}
+
+}  // namespace orvanta::tool
