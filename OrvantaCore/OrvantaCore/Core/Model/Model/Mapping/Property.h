@@ -152,6 +152,11 @@ class Held {
   const Value& value() const noexcept { return value_; }
   /// The same for changing it in place.
   Value& edit() noexcept { return value_; }
+  /// A mutable array for changing it in place, made empty first where none is there.
+  Array& editArray() requires std::same_as<T, MutableArray> {
+    if (value_.array() == nullptr) value_ = Array();
+    return value_.editArray();
+  }
 
  private:
   Value value_;

@@ -1,0 +1,7 @@
+#include "Configuration/OrvantaTrackableActionInfo.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaTrackableActionInfo)
+
+}  // namespace orvanta

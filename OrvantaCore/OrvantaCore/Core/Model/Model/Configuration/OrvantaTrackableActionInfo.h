@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Mapping/OrvantaBaseModel.h"
+
+namespace orvanta {
+
+/// An action on a screen that is to be tracked.
+class OrvantaTrackableActionInfo : public OrvantaBaseModel {
+  ORVANTA_MODEL(OrvantaTrackableActionInfo, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("pt", copy, String, path, setPath)
+  ORVANTA_PROPERTY("sc", copy, String, code, setCode)
+  ORVANTA_PROPERTY("at", assign, std::int32_t, actionType, setActionType)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Configuration/OrvantaTrackableScreenInfo.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaTrackableScreenInfo)
+
+}  // namespace orvanta

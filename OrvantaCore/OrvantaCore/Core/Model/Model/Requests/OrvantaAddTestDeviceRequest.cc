@@ -1,0 +1,7 @@
+#include "Requests/OrvantaAddTestDeviceRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaAddTestDeviceRequest)
+
+}  // namespace orvanta

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Requests/OrvantaBaseRequest.h"
+
+namespace orvanta {
+
+/// Makes the device a test device.
+class OrvantaAddTestDeviceRequest : public OrvantaBaseRequest {
+  ORVANTA_UNRANKED_REQUEST(OrvantaAddTestDeviceRequest, OrvantaRequestPathTypeAddTestDevice,
+                           OrvantaBaseResponseModel)
+
+  ORVANTA_PROPERTY("prms", copy, String, params, setParams)
+
+  ORVANTA_INITIALISER(initWithQueryParameters, init, params)
+};
+
+}  // namespace orvanta

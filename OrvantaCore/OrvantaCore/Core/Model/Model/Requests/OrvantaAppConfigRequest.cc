@@ -1,0 +1,7 @@
+#include "Requests/OrvantaAppConfigRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaAppConfigRequest)
+
+}  // namespace orvanta

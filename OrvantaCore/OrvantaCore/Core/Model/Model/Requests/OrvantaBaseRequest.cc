@@ -1,0 +1,46 @@
+#include "Requests/OrvantaBaseRequest.h"
+
+#include "Foundation/Description.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaBaseRequest)
+
+namespace {
+
+Held<String> text(std::optional<std::string_view> found) {
+  return found ? Held<String>(*found) : nullptr;
+}
+
+}  // namespace
+
+bool OrvantaBaseRequest::initWithDictionary(const Dictionary* dictionary) {
+  if (!Super::initWithDictionary(dictionary)) return false;
+  setUp();
+  return true;
+}
+
+void OrvantaBaseRequest::setUp() {
+  idsContained_ = Array();
+  responseClass_ = OrvantaBaseResponseModel::classObject();
+  HTTPMethod_ = OrvantaHTTPMethodTypePost;
+}
+
+Ref<OrvantaRequestSpec> OrvantaBaseRequest::requestSpec() const {
+  constexpr double kTimeout = 20.0;
+  auto spec = Ref<OrvantaRequestSpec>::adopt(new OrvantaRequestSpec);
+  spec->HTTPBody = dictionaryValue();
+  spec->HTTPMethod = text(OrvantaHTTPMethodStringForType(HTTPMethod_));
+  spec->path = text(OrvantaRequestPathStringForType(path_));
+  spec->queuePriority = queuePriority_;
+  spec->timeoutInterval = kTimeout;
+  return spec;
+}
+
+std::string OrvantaBaseRequest::description() const {
+  return formatted("Spec : %@\nStorage Id : %@\nContained Ids : %@",
+                   {requestSpec()->description(), describe(storageId_.value()),
+                    describe(idsContained_.value())});
+}
+
+}  // namespace orvanta

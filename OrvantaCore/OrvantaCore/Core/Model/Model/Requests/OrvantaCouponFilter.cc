@@ -1,0 +1,7 @@
+#include "Requests/OrvantaCouponFilter.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaCouponFilter)
+
+}  // namespace orvanta

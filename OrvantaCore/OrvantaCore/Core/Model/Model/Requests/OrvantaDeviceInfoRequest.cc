@@ -1,0 +1,7 @@
+#include "Requests/OrvantaDeviceInfoRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaDeviceInfoRequest)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Requests/OrvantaDisableAdIdRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaDisableAdIdRequest)
+
+}  // namespace orvanta

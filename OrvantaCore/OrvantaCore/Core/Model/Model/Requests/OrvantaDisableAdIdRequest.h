@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Requests/OrvantaBaseRequest.h"
+
+namespace orvanta {
+
+/// The user refused the advertising identifier.
+class OrvantaDisableAdIdRequest : public OrvantaBaseRequest {
+  ORVANTA_REQUEST(OrvantaDisableAdIdRequest, OrvantaRequestPathTypeDisableAdId,
+                  OrvantaBaseResponseModel)
+
+  ORVANTA_PROPERTY("src", assign, std::int64_t, source, setSource)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Requests/OrvantaDisablePushRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaDisablePushRequest)
+
+}  // namespace orvanta

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Requests/OrvantaBaseRequest.h"
+
+namespace orvanta {
+
+/// The user refused notifications.
+class OrvantaDisablePushRequest : public OrvantaBaseRequest {
+  ORVANTA_REQUEST(OrvantaDisablePushRequest, OrvantaRequestPathTypeDisablePush,
+                  OrvantaBaseResponseModel)
+
+  ORVANTA_PROPERTY("src", assign, std::int64_t, source, setSource)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Requests/OrvantaEmailSubscribeRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaEmailSubscribeRequest)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Requests/OrvantaEnableAdIdRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaEnableAdIdRequest)
+
+}  // namespace orvanta

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Requests/OrvantaBaseRequest.h"
+
+namespace orvanta {
+
+/// The user allowed the advertising identifier.
+class OrvantaEnableAdIdRequest : public OrvantaBaseRequest {
+  ORVANTA_REQUEST(OrvantaEnableAdIdRequest, OrvantaRequestPathTypeEnableAdId,
+                  OrvantaBaseResponseModel)
+
+  ORVANTA_PROPERTY("src", assign, std::int64_t, source, setSource)
+};
+
+}  // namespace orvanta

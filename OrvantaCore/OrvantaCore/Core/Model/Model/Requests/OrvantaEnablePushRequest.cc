@@ -1,0 +1,7 @@
+#include "Requests/OrvantaEnablePushRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaEnablePushRequest)
+
+}  // namespace orvanta

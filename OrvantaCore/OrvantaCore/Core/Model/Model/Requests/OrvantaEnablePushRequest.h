@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Requests/OrvantaBaseRequest.h"
+
+namespace orvanta {
+
+/// The user allowed notifications.
+class OrvantaEnablePushRequest : public OrvantaBaseRequest {
+  ORVANTA_REQUEST(OrvantaEnablePushRequest, OrvantaRequestPathTypeEnablePush,
+                  OrvantaBaseResponseModel)
+
+  ORVANTA_PROPERTY("src", assign, std::int64_t, source, setSource)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Requests/OrvantaFetchCouponRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaFetchCouponRequest)
+
+}  // namespace orvanta

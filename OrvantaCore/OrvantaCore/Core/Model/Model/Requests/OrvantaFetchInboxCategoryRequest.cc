@@ -1,0 +1,7 @@
+#include "Requests/OrvantaFetchInboxCategoryRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaFetchInboxCategoryRequest)
+
+}  // namespace orvanta

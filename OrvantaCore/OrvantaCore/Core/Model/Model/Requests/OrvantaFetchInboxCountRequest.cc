@@ -1,0 +1,7 @@
+#include "Requests/OrvantaFetchInboxCountRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaFetchInboxCountRequest)
+
+}  // namespace orvanta

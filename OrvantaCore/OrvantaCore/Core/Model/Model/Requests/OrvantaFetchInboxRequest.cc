@@ -1,0 +1,7 @@
+#include "Requests/OrvantaFetchInboxRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaFetchInboxRequest)
+
+}  // namespace orvanta

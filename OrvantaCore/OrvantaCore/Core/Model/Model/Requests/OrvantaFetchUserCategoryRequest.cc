@@ -1,0 +1,7 @@
+#include "Requests/OrvantaFetchUserCategoryRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaFetchUserCategoryRequest)
+
+}  // namespace orvanta

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Device/OrvantaAppDeviceInfo.h"
+#include "Requests/OrvantaBaseRequest.h"
+#include "Responses/OrvantaInitSessionResponse.h"
+
+namespace orvanta {
+
+/// Begins a session.
+class OrvantaInitSessionRequest : public OrvantaBaseRequest {
+  ORVANTA_REQUEST(OrvantaInitSessionRequest, OrvantaRequestPathTypeInitSession,
+                  OrvantaInitSessionResponse)
+
+  ORVANTA_PROPERTY("cfgV", strong, Number, appConfigVersion, setAppConfigVersion)
+  ORVANTA_PROPERTY("info", strong, OrvantaAppDeviceInfo, appDeviceInfo, setAppDeviceInfo,
+                   OrvantaAppDeviceInfo)
+  /// kUnsetInteger when not given.
+  ORVANTA_PROPERTY("tz", assign, std::int64_t, timeZoneOffset, setTimeZoneOffset)
+  ORVANTA_PROPERTY("ts", strong, Date, creationDate, setCreationDate)
+  ORVANTA_PROPERTY("an", assign, bool, isTurnedOffTracking, setIsTurnedOffTracking)
+
+  /// Marks the time zone's offset as not given, then reads.
+  bool updateWithDictionary(const Dictionary* dictionary) override;
+};
+
+}  // namespace orvanta

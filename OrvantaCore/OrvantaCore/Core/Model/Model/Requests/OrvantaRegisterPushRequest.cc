@@ -1,0 +1,7 @@
+#include "Requests/OrvantaRegisterPushRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaRegisterPushRequest)
+
+}  // namespace orvanta

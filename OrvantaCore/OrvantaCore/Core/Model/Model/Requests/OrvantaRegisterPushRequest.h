@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Requests/OrvantaBaseRequest.h"
+
+namespace orvanta {
+
+/// Registers the device for notifications.
+class OrvantaRegisterPushRequest : public OrvantaBaseRequest {
+  ORVANTA_REQUEST(OrvantaRegisterPushRequest, OrvantaRequestPathTypeRegisterPush,
+                  OrvantaBaseResponseModel)
+
+  ORVANTA_PROPERTY("token", copy, String, deviceToken, setDeviceToken)
+
+  ORVANTA_INITIALISER(initWithDeviceToken, init, deviceToken)
+};
+
+}  // namespace orvanta

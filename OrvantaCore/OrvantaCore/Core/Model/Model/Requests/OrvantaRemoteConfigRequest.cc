@@ -1,0 +1,7 @@
+#include "Requests/OrvantaRemoteConfigRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaRemoteConfigRequest)
+
+}  // namespace orvanta

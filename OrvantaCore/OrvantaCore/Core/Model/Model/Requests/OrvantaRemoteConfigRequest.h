@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Requests/OrvantaBaseRequest.h"
+#include "Responses/OrvantaRemoteConfigResponse.h"
+
+namespace orvanta {
+
+/// Asks for the remote configuration.
+class OrvantaRemoteConfigRequest : public OrvantaBaseRequest {
+  ORVANTA_REQUEST(OrvantaRemoteConfigRequest, OrvantaRequestPathTypeRemoteConfig,
+                  OrvantaRemoteConfigResponse)
+
+  ORVANTA_PROPERTY("rcv", copy, String, remoteConfigVersion, setRemoteConfigVersion)
+
+  ORVANTA_INITIALISER(initWithRemoteConfigVersion, init, remoteConfigVersion)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Requests/OrvantaBaseRequest.h"
+
+namespace orvanta {
+
+/// Changes the status of messages of the inbox.
+class OrvantaSetInboxStatusRequest : public OrvantaBaseRequest {
+  ORVANTA_REQUEST(OrvantaSetInboxStatusRequest, OrvantaRequestPathTypeSetInboxStatus,
+                  OrvantaBaseResponseModel)
+
+  ORVANTA_PROPERTY("piids", strong, Array, pushInstanceIds, setPushInstanceIds)
+  ORVANTA_PROPERTY("st", assign, std::uint64_t, status, setStatus)
+  ORVANTA_PROPERTY("all", assign, bool, allObjects, setAllObjects)
+  ORVANTA_PROPERTY("cats", strong, Array, categories, setCategories)
+
+  ORVANTA_INITIALISER(initWithPushInstanceIds, init, pushInstanceIds, status)
+  ORVANTA_INITIALISER(initWithPushCategories, init, categories, status)
+  /// Of all messages.
+  bool initWithForAllObjectStatus(std::uint64_t status);
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Requests/OrvantaSetUserCategoryRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaSetUserCategoryRequest)
+
+}  // namespace orvanta

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Requests/OrvantaBaseRequest.h"
+
+namespace orvanta {
+
+/// Changes a preference of the user.
+class OrvantaSetUserCategoryRequest : public OrvantaBaseRequest {
+  ORVANTA_REQUEST(OrvantaSetUserCategoryRequest, OrvantaRequestPathTypeSetUserCategory,
+                  OrvantaBaseResponseModel)
+
+  ORVANTA_PROPERTY("ctid", assign, std::int64_t, categoryId, setCategoryId)
+  ORVANTA_PROPERTY("cte", assign, bool, categoryEnabled, setCategoryEnabled)
+
+  ORVANTA_INITIALISER(initWithUserCategoryId, init, categoryId, categoryEnabled)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Requests/OrvantaUpdateDeviceRequest.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaUpdateDeviceRequest)
+
+}  // namespace orvanta

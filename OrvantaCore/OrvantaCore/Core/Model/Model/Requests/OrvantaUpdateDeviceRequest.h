@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Requests/OrvantaBaseRequest.h"
+
+namespace orvanta {
+
+/// Tells the advertising identifier.
+class OrvantaUpdateDeviceRequest : public OrvantaBaseRequest {
+  ORVANTA_REQUEST(OrvantaUpdateDeviceRequest, OrvantaRequestPathTypeUpdateDevice,
+                  OrvantaBaseResponseModel)
+
+  ORVANTA_PROPERTY("adid", copy, String, advertisingId, setAdvertisingId)
+
+  ORVANTA_INITIALISER(initWithAdvertisingId, init, advertisingId)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Responses/OrvantaAppConfigResponse.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaAppConfigResponse)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Responses/OrvantaBaseResponseModel.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaBaseResponseModel)
+
+}  // namespace orvanta

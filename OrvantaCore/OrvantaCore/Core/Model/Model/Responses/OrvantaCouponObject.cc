@@ -1,0 +1,7 @@
+#include "Responses/OrvantaCouponObject.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaCouponObject)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Responses/OrvantaDeviceInfoResponse.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaDeviceInfoResponse)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Responses/OrvantaFetchCouponResponse.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaFetchCouponResponse)
+
+}  // namespace orvanta

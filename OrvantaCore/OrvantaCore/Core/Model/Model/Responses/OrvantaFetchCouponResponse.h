@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Responses/OrvantaBaseResponseModel.h"
+#include "Responses/OrvantaCouponObject.h"
+
+namespace orvanta {
+
+/// The coupons of the user.
+class OrvantaFetchCouponResponse : public OrvantaBaseResponseModel {
+  ORVANTA_MODEL(OrvantaFetchCouponResponse, OrvantaBaseResponseModel)
+
+  ORVANTA_READONLY("cps", strong, Array, coupons, OrvantaCouponObject)
+};
+
+}  // namespace orvanta

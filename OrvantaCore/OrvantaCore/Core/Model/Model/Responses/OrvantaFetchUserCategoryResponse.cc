@@ -1,0 +1,7 @@
+#include "Responses/OrvantaFetchUserCategoryResponse.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaFetchUserCategoryResponse)
+
+}  // namespace orvanta

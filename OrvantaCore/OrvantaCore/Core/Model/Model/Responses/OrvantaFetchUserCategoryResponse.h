@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Responses/OrvantaBaseResponseModel.h"
+#include "User/OrvantaUserCategoryPreference.h"
+
+namespace orvanta {
+
+/// The preferences of the user.
+class OrvantaFetchUserCategoryResponse : public OrvantaBaseResponseModel {
+  ORVANTA_MODEL(OrvantaFetchUserCategoryResponse, OrvantaBaseResponseModel)
+
+  ORVANTA_PROPERTY("cts", strong, Array, categories, setCategories, OrvantaUserCategoryPreference)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Responses/OrvantaIdentifyUserResponse.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaIdentifyUserResponse)
+
+}  // namespace orvanta

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Responses/OrvantaBaseResponseModel.h"
+
+namespace orvanta {
+
+/// The reply to an update of the user.
+class OrvantaIdentifyUserResponse : public OrvantaBaseResponseModel {
+  ORVANTA_MODEL(OrvantaIdentifyUserResponse, OrvantaBaseResponseModel)
+
+  ORVANTA_PROPERTY("uid", copy, String, userId, setUserId)
+  ORVANTA_PROPERTY("slt", strong, Number, slotId, setSlotId)
+};
+
+}  // namespace orvanta

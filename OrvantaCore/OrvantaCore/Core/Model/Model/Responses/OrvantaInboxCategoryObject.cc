@@ -1,0 +1,7 @@
+#include "Responses/OrvantaInboxCategoryObject.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaInboxCategoryObject)
+
+}  // namespace orvanta

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Mapping/OrvantaBaseModel.h"
+#include "Push/OrvantaPushObject.h"
+#include "Responses/OrvantaInboxCategoryStatusObject.h"
+
+namespace orvanta {
+
+/// One category of the inbox.
+class OrvantaInboxCategoryObject : public OrvantaBaseModel {
+  ORVANTA_MODEL(OrvantaInboxCategoryObject, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("ct", copy, String, categoryName, setCategoryName)
+  ORVANTA_PROPERTY("st", strong, OrvantaInboxCategoryStatusObject, status, setStatus,
+                   OrvantaInboxCategoryStatusObject)
+  ORVANTA_PROPERTY("ts", strong, Date, creationDate, setCreationDate)
+  ORVANTA_READONLY("msg", strong, OrvantaPushObject, lastMessage, OrvantaPushObject)
+};
+
+}  // namespace orvanta

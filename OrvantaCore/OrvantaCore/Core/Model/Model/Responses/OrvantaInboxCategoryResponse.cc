@@ -1,0 +1,7 @@
+#include "Responses/OrvantaInboxCategoryResponse.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaInboxCategoryResponse)
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Responses/OrvantaInboxCategoryStatusObject.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaInboxCategoryStatusObject)
+
+}  // namespace orvanta

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Mapping/OrvantaBaseModel.h"
+
+namespace orvanta {
+
+/// How many messages of a category have which status.
+class OrvantaInboxCategoryStatusObject : public OrvantaBaseModel {
+  ORVANTA_MODEL(OrvantaInboxCategoryStatusObject, OrvantaBaseModel)
+
+  ORVANTA_READONLY("1", assign, std::int64_t, readCount)
+  ORVANTA_READONLY("2", assign, std::int64_t, unreadCount)
+  ORVANTA_READONLY("4", assign, std::int64_t, deletedCount)
+};
+
+}  // namespace orvanta

@@ -1,0 +1,7 @@
+#include "Responses/OrvantaInboxResponse.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaInboxResponse)
+
+}  // namespace orvanta

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Push/OrvantaPushObject.h"
+#include "Responses/OrvantaBaseResponseModel.h"
+
+namespace orvanta {
+
+/// A page of the inbox.
+class OrvantaInboxResponse : public OrvantaBaseResponseModel {
+  ORVANTA_MODEL(OrvantaInboxResponse, OrvantaBaseResponseModel)
+
+  ORVANTA_PROPERTY("msgs", strong, Array, objects, setObjects, OrvantaPushObject)
+  /// For the filter of the next page.
+  ORVANTA_PROPERTY("prms", strong, Dictionary, pagingParams, setPagingParams)
+  ORVANTA_PROPERTY("cnts", strong, Dictionary, counts, setCounts)
+};
+
+}  // namespace orvanta

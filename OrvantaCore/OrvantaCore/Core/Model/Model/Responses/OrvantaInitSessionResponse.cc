@@ -1,0 +1,7 @@
+#include "Responses/OrvantaInitSessionResponse.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaInitSessionResponse)
+
+}  // namespace orvanta

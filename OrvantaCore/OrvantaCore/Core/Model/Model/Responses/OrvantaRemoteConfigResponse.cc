@@ -1,0 +1,7 @@
+#include "Responses/OrvantaRemoteConfigResponse.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaRemoteConfigResponse)
+
+}  // namespace orvanta

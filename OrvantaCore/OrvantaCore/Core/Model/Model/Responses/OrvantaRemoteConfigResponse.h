@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Responses/OrvantaBaseResponseModel.h"
+
+namespace orvanta {
+
+/// The remote configuration.
+class OrvantaRemoteConfigResponse : public OrvantaBaseResponseModel {
+  ORVANTA_MODEL(OrvantaRemoteConfigResponse, OrvantaBaseResponseModel)
+
+  ORVANTA_PROPERTY("abTestId", assign, std::int32_t, abTestId, setAbTestId)
+  ORVANTA_PROPERTY("abTestOptionId", assign, std::int32_t, abTestOptionId, setAbTestOptionId)
+  ORVANTA_PROPERTY("remoteConfigVersion", assign, std::int32_t, remoteConfigVersion,
+                   setRemoteConfigVersion)
+  ORVANTA_PROPERTY("data", strong, Dictionary, data, setData)
+};
+
+}  // namespace orvanta

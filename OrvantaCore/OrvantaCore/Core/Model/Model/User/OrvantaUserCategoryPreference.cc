@@ -1,0 +1,7 @@
+#include "User/OrvantaUserCategoryPreference.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaUserCategoryPreference)
+
+}  // namespace orvanta

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Mapping/OrvantaBaseModel.h"
+
+namespace orvanta {
+
+/// Whether the user wants the notifications of a category.
+class OrvantaUserCategoryPreference : public OrvantaBaseModel {
+  ORVANTA_MODEL(OrvantaUserCategoryPreference, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("ctid", assign, std::int32_t, categoryId, setCategoryId)
+  ORVANTA_PROPERTY("cte", assign, bool, categoryEnabled, setCategoryEnabled)
+  ORVANTA_READONLY("ctn", copy, String, categoryName)
+};
+
+}  // namespace orvanta
