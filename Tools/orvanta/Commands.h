@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "Mapping/Class.h"
+#include "Mapping/RefusalRecorder.h"
+#include "Requests/OrvantaRequestSpec.h"
 #include "Tool.h"
 
 namespace orvanta::tool {
@@ -40,6 +42,18 @@ struct SchemaOptions {
 };
 ExitCode schema(const SchemaOptions& options, const Streams& streams);
 
+struct RequestOptions {
+  std::string className;
+  std::string file = "-";
+  bool text = false;
+};
+ExitCode request(const RequestOptions& options, const Streams& streams);
+
+struct BatchOptions {
+  std::vector<std::string> files;  // empty: standard input
+};
+ExitCode batch(const BatchOptions& options, const Streams& streams);
+
 struct IdentifierOptions {
   std::uint64_t count = 1;
   std::string decode;  // empty: make identifiers
@@ -48,5 +62,11 @@ ExitCode identifier(const IdentifierOptions& options, const Streams& streams);
 
 /// The model class of that name; throws a usage Failure that names the nearest one.
 const Class& classForArgument(const std::string& name);
+
+/// Why a model of the class refused its dictionary, for a message.
+std::string refusalText(const RefusalRecorder& recorder, const Class& cls);
+
+/// A spec as a dictionary, with null for what is not set.
+Dictionary specDictionary(const OrvantaRequestSpec& spec);
 
 }  // namespace orvanta::tool

@@ -31,19 +31,10 @@ std::string readAll(std::istream& in, const std::string& name) {
 
 std::string readText(const std::string& file, const std::string& name, std::istream& standardIn) {
   if (file == "-") {
-    if (&standardIn == &std::cin && isatty(STDIN_FILENO) != 0) {
-      std::cerr << "orvanta: reading JSON from the terminal; end it with Ctrl-D\n";
-    }
+    tellOfTerminal(standardIn);
     return readAll(standardIn, name);
   }
-  errno = 0;
-  std::ifstream in(file, std::ios::binary);
-  if (in) in.peek();  // a folder opens, but cannot be read
-  if (!in && !in.eof()) {
-    throw Failure(ExitCode::unreadable,
-                  name + ": " + (errno != 0 ? std::strerror(errno) : "cannot be read"));
-  }
-  in.clear();
+  std::ifstream in = openForReading(file);
   return readAll(in, name);
 }
 
@@ -69,6 +60,24 @@ void warnOfDuplicates(const Input& input, std::ostream& err) {
 }
 
 }  // namespace
+
+std::ifstream openForReading(const std::string& file) {
+  errno = 0;
+  std::ifstream in(file, std::ios::binary);
+  if (in) in.peek();  // a folder opens, but cannot be read
+  if (!in && !in.eof()) {
+    throw Failure(ExitCode::unreadable,
+                  printable(file) + ": " + (errno != 0 ? std::strerror(errno) : "cannot be read"));
+  }
+  in.clear();
+  return in;
+}
+
+void tellOfTerminal(const std::istream& standardIn) {
+  if (&standardIn == &std::cin && isatty(STDIN_FILENO) != 0) {
+    std::cerr << "orvanta: reading JSON from the terminal; end it with Ctrl-D\n";
+  }
+}
 
 Input readInput(const std::string& file, const Streams& streams) {
   Input input{.name = file == "-" ? "standard input" : printable(file), .text = {}, .object = {}};

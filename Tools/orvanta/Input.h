@@ -1,5 +1,6 @@
 #pragma once
 
+#include <fstream>
 #include <string>
 
 #include "Foundation/Dictionary.h"
@@ -17,5 +18,10 @@ struct Input {
 /// Reads a file, or standard input for "-", which must hold a JSON object. A key that stands twice
 /// in a dictionary is warned of on the error stream. Throws Failure.
 Input readInput(const std::string& file, const Streams& streams);
+
+/// Opens a file; throws Failure when it cannot be read.
+std::ifstream openForReading(const std::string& file);
+/// Says so when a command is about to wait for somebody who types.
+void tellOfTerminal(const std::istream& standardIn);
 
 }  // namespace orvanta::tool

@@ -21,6 +21,11 @@ const Class& classForArgument(const std::string& name) {
                                      std::string((*nearest)->name));
 }
 
+std::string refusalText(const RefusalRecorder& recorder, const Class& cls) {
+  return recorder.refusal() ? printable(recorder.refusal()->description())
+                            : std::string(cls.name) + " refused without a reason";
+}
+
 namespace {
 
 /// What an update answered, or that an error left it.
@@ -36,10 +41,7 @@ Outcome outcomeOf(Update&& update) {
 }
 
 void tellRefusal(const RefusalRecorder& recorder, const Class& cls, const Streams& streams) {
-  streams.err << "orvanta: "
-              << (recorder.refusal() ? printable(recorder.refusal()->description())
-                                     : std::string(cls.name) + " refused without a reason")
-              << '\n';
+  streams.err << "orvanta: " << refusalText(recorder, cls) << '\n';
 }
 
 }  // namespace

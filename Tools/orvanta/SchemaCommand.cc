@@ -1,16 +1,23 @@
 #include <algorithm>
 #include <iomanip>
+#include <map>
 #include <ostream>
 
+#include "ClassFacts.h"
 #include "Commands.h"
-#include "Events/OrvantaEvent.h"
 #include "Foundation/Array.h"
+#include "Requests/OrvantaRequestPathType.h"
 #include "Text.h"
 #include "WireFormat.h"
 
 namespace orvanta::tool {
 
 namespace {
+
+template <class T>
+Value orNull(const std::optional<T>& fact) {
+  return fact ? Value(*fact) : Value::null();
+}
 
 Dictionary classEntry(const Class& cls) {
   Array properties;
@@ -32,13 +39,42 @@ Dictionary classEntry(const Class& cls) {
       {"properties", properties},
       {"keys", keys},
       {"classKeys", classKeys}};
-  const auto model = makeModel(cls, nullptr);
-  if (const auto* event = Value(model).as<OrvantaEvent>()) {
-    const Held<String> code = event->eventKey();
-    entry.set("eventKey", code ? code.value() : Value::null());
-    entry.set("priority", event->priority());
+  const ClassFacts facts(cls);
+  if (facts.isEvent) entry.set("eventKey", orNull(facts.eventCode));
+  if (facts.isEvent || facts.isRequest) entry.set("priority", orNull(facts.priority));
+  if (facts.isRequest) {
+    entry.set("request", Dictionary{{"code", facts.pathCode},
+                                    {"path", orNull(facts.path)},
+                                    {"method", orNull(facts.method)},
+                                    {"responseClass", facts.responseClass->name}});
   }
   return entry;
+}
+
+/// Every endpoint with the request class that uses it.
+Array endpoints() {
+  std::map<std::uint64_t, std::string_view> users;
+  for (const Class* cls : modelClasses()) {
+    const ClassFacts facts(*cls);
+    if (facts.path) users.emplace(facts.pathCode, cls->name);
+  }
+  Array rows;
+  for (std::uint64_t code = 1; code <= kRequestPathTypes; ++code) {
+    const auto user = users.find(code);
+    rows.append(Dictionary{{"code", code},
+                           {"path", orNull(OrvantaRequestPathStringForType(code))},
+                           {"class", user != users.end() ? Value(user->second) : Value::null()}});
+  }
+  return rows;
+}
+
+Array methods() {
+  Array rows;
+  for (std::uint64_t code = 0; code < kHTTPMethodTypes; ++code) {
+    rows.append(
+        Dictionary{{"code", code}, {"method", orNull(OrvantaHTTPMethodStringForType(code))}});
+  }
+  return rows;
 }
 
 /// One line of a class's table: wire key, property, type, remarks.
@@ -78,12 +114,11 @@ std::vector<Line> linesOf(const Class& cls) {
 void printTable(const Class& cls, std::ostream& out) {
   out << cls.name;
   if (cls.superclass != nullptr) out << " : " << cls.superclass->name;
-  const auto model = makeModel(cls, nullptr);
-  if (const auto* event = Value(model).as<OrvantaEvent>()) {
-    if (const auto code = event->eventKey().get()) {
-      out << "  code " << *code << ", priority " << event->priority();
-    }
-  }
+  const ClassFacts facts(cls);
+  if (facts.eventCode) out << "  code " << *facts.eventCode;
+  if (facts.path)
+    out << "  " << *facts.method << ' ' << *facts.path << " -> " << facts.responseClass->name;
+  if ((facts.eventCode || facts.path) && facts.priority) out << ", priority " << *facts.priority;
   out << '\n';
   const std::vector<Line> lines = linesOf(cls);
   const auto width = [&](std::string Line::*column) {
@@ -116,7 +151,12 @@ ExitCode schema(const SchemaOptions& options, const Streams& streams) {
   if (options.json) {
     Array entries;
     for (const Class* cls : classes) entries.append(classEntry(*cls));
-    printJSON(Dictionary{{"format", 1}, {"classes", entries}}, streams.out, /*pretty=*/true);
+    Dictionary whole{{"format", 1}, {"classes", entries}};
+    if (options.className.empty()) {
+      whole.set("endpoints", endpoints());
+      whole.set("methods", methods());
+    }
+    printJSON(whole, streams.out, /*pretty=*/true);
     return ExitCode::done;
   }
   for (const Class* cls : classes) {

@@ -131,6 +131,24 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
                  "Print the document of the wire format, a section per class")
       ->excludes(json);
 
+  RequestOptions requestOptions;
+  CLI::App* requestCommand = app.add_subcommand(
+      "request", "Restore a request from its dictionary, and print the call that it makes.");
+  requestCommand
+      ->add_option("CLASS", requestOptions.className, "A request class, see `orvanta schema`")
+      ->required();
+  requestCommand->add_option("FILE", requestOptions.file, "JSON file")->capture_default_str();
+  requestCommand->add_flag("--text", requestOptions.text, "Print text for people instead of JSON");
+
+  BatchOptions batchOptions;
+  CLI::App* batchCommand = app.add_subcommand(
+      "batch",
+      "Fold stored event requests into batches of up to 100 events, as they would be sent, and "
+      "print one JSON line per batch. A line of input is one OrvantaEventRequest with its class "
+      "info; its number over all files is its storage id. A request that holds more events goes "
+      "alone.");
+  batchCommand->add_option("FILE", batchOptions.files, "JSON lines (standard input)");
+
   IdentifierOptions identifierOptions;
   CLI::App* identifierCommand =
       app.add_subcommand("identifier", "Make short identifiers, or tell what stands in one.");
@@ -155,14 +173,17 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
     return code == 0 ? ExitCode::done : ExitCode::usage;
   }
   if (app.get_subcommands().empty()) {
-    throw Failure(ExitCode::usage,
-                  "a command is needed: notify, model, schema or identifier; see --help");
+    throw Failure(
+        ExitCode::usage,
+        "a command is needed: notify, model, schema, request, batch or identifier; see --help");
   }
   OrvantaLogger::setLogLevel(logLevel);
   if (*notifyCommand) return notify(notifyOptions, streams);
   LoggingPlatform platform(streams.err);
   const PlatformOverride override(platform);
   if (*modelCommand) return model(modelOptions, streams);
+  if (*requestCommand) return request(requestOptions, streams);
+  if (*batchCommand) return batch(batchOptions, streams);
   if (*identifierCommand) return identifier(identifierOptions, streams);
   return schema(schemaOptions, streams);
 }

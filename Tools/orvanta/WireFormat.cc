@@ -1,11 +1,11 @@
 #include "WireFormat.h"
 
 #include <algorithm>
+#include <map>
 #include <ostream>
 #include <string>
 
-#include "Events/OrvantaEvent.h"
-#include "Mapping/OrvantaBaseModel.h"
+#include "ClassFacts.h"
 
 namespace orvanta::tool {
 
@@ -81,11 +81,14 @@ void printClass(const Class& cls, std::ostream& out) {
     out << "The root of all models.\n";
   } else {
     out << "Derives from " << link(cls.superclass->name) << ".";
-    const auto model = makeModel(cls, nullptr);
-    if (const auto* event = Value(model).as<OrvantaEvent>()) {
-      if (const auto code = event->eventKey().get()) {
-        out << " Event code `" << *code << "`, priority " << event->priority() << ".";
-      }
+    const ClassFacts facts(cls);
+    if (facts.eventCode) out << " Event code `" << *facts.eventCode << "`.";
+    if (facts.path) {
+      out << " Sent with " << *facts.method << " to `" << *facts.path << "`, answered with "
+          << link(facts.responseClass->name) << ".";
+    }
+    if ((facts.eventCode || facts.path) && facts.priority) {
+      out << " Priority " << *facts.priority << ".";
     }
     out << "\n";
   }
@@ -109,18 +112,31 @@ void printClass(const Class& cls, std::ostream& out) {
 }
 
 void printEventCodes(const std::vector<const Class*>& classes, std::ostream& out) {
-  out << "\n## Event codes\n\n| Code | Class | Priority |\n|---|---|---|\n";
   std::vector<std::string> rows;
   for (const Class* cls : classes) {
-    const auto model = makeModel(*cls, nullptr);
-    const auto* event = Value(model).as<OrvantaEvent>();
-    const auto code = event != nullptr ? event->eventKey() : nullptr;
-    if (!code) continue;
-    rows.push_back("| `" + std::string(*code.get()) + "` | " + link(cls->name) + " | " +
-                   std::to_string(event->priority()) + " |\n");
+    const ClassFacts facts(*cls);
+    if (!facts.eventCode) continue;
+    rows.push_back("| `" + *facts.eventCode + "` | " + link(cls->name) + " | " +
+                   std::to_string(*facts.priority) + " |\n");
   }
+  if (rows.empty()) return;
+  out << "\n## Event codes\n\n| Code | Class | Priority |\n|---|---|---|\n";
   std::sort(rows.begin(), rows.end());
   for (const std::string& row : rows) out << row;
+}
+
+void printEndpoints(const std::vector<const Class*>& classes, std::ostream& out) {
+  std::map<std::uint64_t, std::string> rows;
+  for (const Class* cls : classes) {
+    const ClassFacts facts(*cls);
+    if (!facts.path) continue;
+    rows[facts.pathCode] = "| " + std::to_string(facts.pathCode) + " | `" +
+                           std::string(*facts.path) + "` | " + link(cls->name) + " | " +
+                           link(facts.responseClass->name) + " |\n";
+  }
+  if (rows.empty()) return;
+  out << "\n## Endpoints\n\n| Code | Path | Request | Reply |\n|---|---|---|---|\n";
+  for (const auto& [code, row] : rows) out << row;
 }
 
 }  // namespace
@@ -128,6 +144,7 @@ void printEventCodes(const std::vector<const Class*>& classes, std::ostream& out
 void printWireFormat(const std::vector<const Class*>& classes, std::ostream& out) {
   out << kIntroduction;
   printEventCodes(classes, out);
+  printEndpoints(classes, out);
   out << "\n## Classes\n";
   for (const Class* cls : classes) printClass(*cls, out);
 }

@@ -1,0 +1,26 @@
+#include "ClassFacts.h"
+
+#include "Events/OrvantaEvent.h"
+#include "Requests/OrvantaEventRequest.h"
+
+namespace orvanta::tool {
+
+ClassFacts::ClassFacts(const Class& cls) {
+  const Value model = makeModel(cls, nullptr);
+  if (const auto* event = model.as<OrvantaEvent>()) {
+    isEvent = true;
+    const Held<String> code = event->eventKey();
+    if (code.get()) eventCode.emplace(*code.get());
+    priority = event->priority();
+  }
+  if (const auto* request = model.as<OrvantaBaseRequest>()) {
+    isRequest = true;
+    pathCode = request->path();
+    path = OrvantaRequestPathStringForType(pathCode);
+    method = OrvantaHTTPMethodStringForType(request->HTTPMethod());
+    responseClass = request->responseClass().get();
+    if (!cls.isSubclassOf(OrvantaEventRequest::classObject())) priority = request->priority();
+  }
+}
+
+}  // namespace orvanta::tool

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Mapping/Class.h"
+
+namespace orvanta::tool {
+
+/// What an event or request class says of all its objects, beside its tables.
+struct ClassFacts {
+  explicit ClassFacts(const Class& cls);
+
+  bool isEvent = false;
+  std::optional<std::string> eventCode;
+
+  bool isRequest = false;
+  std::uint64_t pathCode = 0;
+  std::optional<std::string_view> path;
+  std::optional<std::string_view> method;
+  const Class* responseClass = nullptr;
+
+  /// None also for batches, which are ranked by their events.
+  std::optional<std::int64_t> priority;
+};
+
+}  // namespace orvanta::tool

@@ -1,0 +1,45 @@
+#include <ostream>
+#include <sstream>
+
+#include "Commands.h"
+#include "Input.h"
+#include "Requests/OrvantaBaseRequest.h"
+#include "Text.h"
+
+namespace orvanta::tool {
+
+Dictionary specDictionary(const OrvantaRequestSpec& spec) {
+  const auto orNull = [](const Held<String>& text) { return text ? text.value() : Value::null(); };
+  return {{"baseURL", orNull(spec.baseURL)},
+          {"path", orNull(spec.path)},
+          {"HTTPMethod", orNull(spec.HTTPMethod)},
+          {"HTTPHeaders", spec.HTTPHeaders},
+          {"HTTPBody", spec.HTTPBody},
+          {"timeoutInterval", spec.timeoutInterval},
+          {"queuePriority", spec.queuePriority}};
+}
+
+ExitCode request(const RequestOptions& options, const Streams& streams) {
+  const Class& cls = classForArgument(options.className);
+  if (!cls.isSubclassOf(OrvantaBaseRequest::classObject())) {
+    throw Failure(ExitCode::usage, std::string(cls.name) + " is no request class");
+  }
+  const Input input = readInput(options.file, streams);
+  const RefusalRecorder recorder;
+  const auto model = makeModel(cls, &input.object);
+  const auto* request = Value(model).as<OrvantaBaseRequest>();
+  if (request == nullptr) throw Failure(ExitCode::notMade, refusalText(recorder, cls));
+  const auto spec = request->requestSpec();
+  if (options.text) {
+    std::istringstream lines(spec->description().substr(1));
+    for (std::string line; std::getline(lines, line);) streams.out << printable(line) << '\n';
+    return ExitCode::done;
+  }
+  Dictionary call = specDictionary(*spec);
+  const auto priority = request->priority();
+  call.set("priority", priority ? Value(*priority) : Value::null());
+  printJSON(call, streams.out, /*pretty=*/true);
+  return ExitCode::done;
+}
+
+}  // namespace orvanta::tool

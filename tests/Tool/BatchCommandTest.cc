@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include "support/ToolRunner.h"
+#include "support/Values.h"
+
+namespace orvanta::testing {
+namespace {
+
+using tool::ExitCode;
+
+std::string stored(std::size_t events, std::string_view identifiers = R"({"iid":"i"})") {
+  std::string line = R"({"events":[)";
+  for (std::size_t i = 0; i < events; ++i) {
+    line.append(i == 0 ? "" : ",").append(R"({"klazz":"OrvantaLoginEvent"})");
+  }
+  return line.append(R"(],"ids":)").append(identifiers).append("}\n");
+}
+
+TEST(BatchCommand, FoldsStoredRequests) {
+  const struct {
+    std::vector<std::size_t> lines;
+    std::string_view batches;  // leader, events, ids contained
+  } rows[] = {
+      {{}, ""},
+      {{1, 1, 1}, "1:3[2,3] "},
+      {{95, 10, 1}, "1:100[2] 2:6[3] "},  // what a merge leaves over leads the next batch
+      {{100, 1}, "1:100[] 2:1[] "},
+      {{130, 1}, "1:130[] 2:1[] "},
+      {{1, 250}, "1:100[2] 2:151[] "},
+  };
+  for (const auto& row : rows) {
+    std::string input;
+    for (const std::size_t events : row.lines) input += stored(events);
+    const ToolRun run = runTool({"batch"}, input);
+    EXPECT_EQ(run.exit, ExitCode::done);
+    std::string batches;
+    std::istringstream out(run.out);
+    for (std::string line; std::getline(out, line);) {
+      const Value batch = parsed(line);
+      ASSERT_NE(batch.dictionary(), nullptr) << line;
+      batches += describe((*batch.dictionary())["storageId"]) + ":" +
+                 describe((*batch.dictionary())["events"]) +
+                 written((*batch.dictionary())["idsContained"]) + " ";
+    }
+    EXPECT_EQ(batches, row.batches);
+  }
+}
+
+TEST(BatchCommand, KeepsTheIdentifiersOfWhatIsLeftOver) {
+  const ToolRun run = runTool({"batch"}, stored(99) + stored(2, R"({"iid":"i","sid":"2"})"));
+  const std::string second = run.out.substr(run.out.find('\n') + 1);
+  EXPECT_NE(second.find(R"("ids":{"iid":"i","sid":"2"})"), std::string::npos) << second;
+}
+
+TEST(BatchCommand, NamesTheLinesThatItLeavesOut) {
+  const ToolRun run = runTool(
+      {"batch"},
+      stored(1) + "{\n\n[]\n" + R"({"events":[]})" + "\n" + R"({"klazz":"OrvantaUser"})" + "\n" +
+          R"({"events":[{"klazz":"OrvantaLoginEvent","ts":"x"}]})" + "\n" +
+          R"({"events":[{"klazz":"OrvantaLoginEvent","revenue":"1e999"}]})" + "\n" + stored(1));
+  EXPECT_EQ(run.exit, ExitCode::notMade);
+  EXPECT_NE(run.out.find(R"({"storageId":1,"idsContained":[9],"events":2,)"), std::string::npos)
+      << run.out;
+  for (const std::string_view line :
+       {":2: column 2", ":4: the line is an array", ":5: \"events\"", ":6: \"klazz\"",
+        ":7: OrvantaEventRequest", ":8: it holds", "6 lines were left out"}) {
+    EXPECT_NE(run.err.find(line), std::string::npos) << line << "\n" << run.err;
+  }
+}
+
+TEST(RequestCommand, PrintsTheCallOfARequest) {
+  const ToolRun run = runTool({"request", "OrvantaFetchCouponRequest"}, R"({"page":2})");
+  EXPECT_EQ(run.exit, ExitCode::done);
+  EXPECT_EQ(
+      written(parsed(run.out), {.escapeSlashes = false}),
+      R"({"baseURL":null,"path":"/coupon/fetch","HTTPMethod":"POST","HTTPHeaders":{},)"
+      R"("HTTPBody":{"page":2,"max":0},"timeoutInterval":20,"queuePriority":0,"priority":1})");
+  EXPECT_NE(runTool({"request", "OrvantaFetchCouponRequest", "--text"}, "{}")
+                .out.find("Path : /coupon/fetch\n"),
+            std::string::npos);
+  EXPECT_EQ(runTool({"request", "OrvantaUser"}, "{}").exit, ExitCode::usage);
+  EXPECT_EQ(runTool({"request", "OrvantaFetchCouponRequest"}, R"({"ids":{"iid":1},"max":[]})").exit,
+            ExitCode::notMade);
+}
+
+}  // namespace
+}  // namespace orvanta::testing
