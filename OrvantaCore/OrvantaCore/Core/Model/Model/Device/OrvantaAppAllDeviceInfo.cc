@@ -1,0 +1,7 @@
+#include "Device/OrvantaAppAllDeviceInfo.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaAppAllDeviceInfo)
+
+}  // namespace orvanta

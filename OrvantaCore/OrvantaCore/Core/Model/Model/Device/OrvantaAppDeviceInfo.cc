@@ -1,0 +1,7 @@
+#include "Device/OrvantaAppDeviceInfo.h"
+
+namespace orvanta {
+
+ORVANTA_IMPLEMENTATION(OrvantaAppDeviceInfo)
+
+}  // namespace orvanta

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Mapping/OrvantaBaseModel.h"
+
+namespace orvanta {
+
+/// The short description of the device and the application that several requests carry.
+class OrvantaAppDeviceInfo : public OrvantaBaseModel {
+  ORVANTA_MODEL(OrvantaAppDeviceInfo, OrvantaBaseModel)
+
+  ORVANTA_PROPERTY("osV", copy, String, OSVersion, setOSVersion)
+  ORVANTA_PROPERTY("appV", copy, String, appVersion, setAppVersion)
+  ORVANTA_PROPERTY("oper", copy, String, carrierName, setCarrierName)
+  /// A localization of the bundle, such as "en" or "pt-BR".
+  ORVANTA_PROPERTY("lang", copy, String, locale, setLocale)
+  ORVANTA_PROPERTY("mnf", copy, String, manufacturer, setManufacturer)
+  ORVANTA_PROPERTY("mdl", copy, String, deviceModel, setDeviceModel)
+};
+
+}  // namespace orvanta
