@@ -27,7 +27,8 @@ constexpr const char* kFooter =
     "  orvanta notify payload.json\n"
     "  orvanta notify payload.json --json | less\n"
     "  echo '{\"aps\":{\"alert\":\"Hi\"}}' | orvanta model OrvantaPushObject\n"
-    "  orvanta schema OrvantaPushObject";
+    "  orvanta schema OrvantaPushObject\n"
+    "  orvanta device --all --device examples/devices/old-phone.json";
 
 /// The platform of a command that needs the clock and the log only.
 class LoggingPlatform final : public Platform {
@@ -123,6 +124,19 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
   schemaCommand->add_option("CLASS", schemaOptions.className, "Only this class");
   schemaCommand->add_flag("--json", schemaOptions.json, "Print JSON");
 
+  DeviceOptions deviceOptions;
+  CLI::App* deviceCommand = app.add_subcommand(
+      "device",
+      "Collect what the library reads about the device and the application, and print it as it "
+      "goes over the wire.");
+  deviceCommand->add_flag("--all", deviceOptions.all,
+                          "The full description instead of the short one that requests carry");
+  deviceCommand
+      ->add_option("--device", deviceOptions.device,
+                   "JSON profile of a device (see docs/devices.md; what it omits is read from this "
+                   "machine), or \"host\" for this machine alone (a current phone)")
+      ->option_text("FILE|host");
+
   for (CLI::App* command : app.get_subcommands({})) {
     command->fallthrough();
     command->footer("--log-level and the exit codes: see `orvanta --help`.");
@@ -135,10 +149,12 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
     return code == 0 ? ExitCode::done : ExitCode::usage;
   }
   if (app.get_subcommands().empty()) {
-    throw Failure(ExitCode::usage, "a command is needed: notify, model or schema; see --help");
+    throw Failure(ExitCode::usage,
+                  "a command is needed: notify, model, schema or device; see --help");
   }
   OrvantaLogger::setLogLevel(logLevel);
   if (*notifyCommand) return notify(notifyOptions, streams);
+  if (*deviceCommand) return device(deviceOptions, streams);
   LoggingPlatform platform(streams.err);
   const PlatformOverride override(platform);
   if (*modelCommand) return model(modelOptions, streams);
