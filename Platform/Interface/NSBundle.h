@@ -2,6 +2,9 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "Foundation/Dictionary.h"
 
 namespace orvanta {
 
@@ -12,6 +15,10 @@ class NSBundle {
   /// localizedStringForKey:value:table: with an empty default value and the default table: the
   /// text of a key in the bundle's strings, or the key itself. From any thread.
   virtual std::string localizedStringForKey(std::string_view key) = 0;
+  /// What the bundle says about the application ("CFBundleShortVersionString" and so on).
+  virtual Dictionary infoDictionary() { return {}; }
+  /// The bundle's localizations that the user prefers, best first: "en", "pt-BR".
+  virtual std::vector<std::string> preferredLocalizations() { return {}; }
 };
 
 }  // namespace orvanta

@@ -11,14 +11,20 @@
 
 namespace orvanta {
 
+class CTTelephonyNetworkInfo;
+class FileSystems;
 class Images;
 class Intents;
 class NSBundle;
 class NSFileManager;
+class NSProcessInfo;
 class NSURLSession;
 class RandomSource;
 class RuntimeClass;
+class SystemCalls;
 class TypeIdentifiers;
+class UIDevice;
+class UIScreen;
 class UNNotificationAttachmentFactory;
 class UNUserNotificationCenter;
 
@@ -56,8 +62,16 @@ class Platform {
   /// Without one of these two a notification does not become a communication notification.
   virtual Images* images() { return nullptr; }
   virtual Intents* intents() { return nullptr; }
-  /// None: every key stands for itself.
+  /// None: every key stands for itself, and there is no information about the application.
   virtual NSBundle* mainBundle() { return nullptr; }
+  /// What the device is like. Without one of these, OrvantaAppDeviceInfoUtil answers what it tells
+  /// for a missing fact.
+  virtual UIDevice* currentDevice() { return nullptr; }
+  virtual UIScreen* mainScreen() { return nullptr; }
+  virtual CTTelephonyNetworkInfo* telephonyNetworkInfo() { return nullptr; }
+  virtual NSProcessInfo* processInfo() { return nullptr; }
+  virtual FileSystems* fileSystems() { return nullptr; }
+  virtual SystemCalls* systemCalls() { return nullptr; }
   virtual OperatingSystemVersion operatingSystemVersion() { return {}; }
 
   /// The platform of the calling thread (see PlatformOverride), else the one of the process.

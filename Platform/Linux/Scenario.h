@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -47,13 +46,8 @@ struct Scenario {
   std::optional<double> expireAt;
   std::optional<Second> second;
 
-  /// Throws ScenarioError that names the key.
+  /// Throws InputError that names the key.
   static Scenario fromDictionary(const Dictionary& given);
-};
-
-class ScenarioError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
 };
 
 /// "17.0", "15", "15.4.1"; none for anything else.

@@ -59,6 +59,11 @@ struct IdentifierOptions {
   std::string decode;  // empty: make identifiers
 };
 ExitCode identifier(const IdentifierOptions& options, const Streams& streams);
+struct DeviceOptions {
+  std::string device;  // profile file, or "host"; empty for the built-in phone
+  bool all = false;
+};
+ExitCode device(const DeviceOptions& options, const Streams& streams);
 
 /// The model class of that name; throws a usage Failure that names the nearest one.
 const Class& classForArgument(const std::string& name);

@@ -16,6 +16,7 @@
 #include "Ledger.h"
 #include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
 #include "Platform/Linux/ClockAndLog.h"
+#include "Platform/Linux/KeyReaders.h"
 #include "Platform/Linux/NotificationHost.h"
 #include "Sheet.h"
 #include "Text.h"
@@ -116,7 +117,7 @@ Scenario scenarioFrom(const std::string& file, const Streams& streams) {
   const Input input = readInput(file, streams);
   try {
     return Scenario::fromDictionary(input.object);
-  } catch (const ScenarioError& error) {
+  } catch (const InputError& error) {
     throw Failure(ExitCode::unreadable, input.name + ": " + printable(error.what()));
   }
 }

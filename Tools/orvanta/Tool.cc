@@ -1,6 +1,8 @@
 #include "Tool.h"
 
 #include <CLI/CLI.hpp>
+#include <functional>
+#include <memory>
 #include <ostream>
 
 #include "Commands.h"
@@ -29,6 +31,9 @@ constexpr const char* kFooter =
     "  orvanta notify payload.json --json | less\n"
     "  echo '{\"aps\":{\"alert\":\"Hi\"}}' | orvanta model OrvantaPushObject\n"
     "  orvanta schema OrvantaPushObject\n"
+    "  orvanta request OrvantaFetchInboxRequest request.json\n"
+    "  orvanta batch examples/events/stored.jsonl\n"
+    "  orvanta device --all --device examples/devices/old-phone.json\n"
     "  orvanta identifier -n 3";
 
 /// The platform of a command that runs no notification.
@@ -45,6 +50,142 @@ class LoggingPlatform final : public Platform {
   SystemRandom random_;
 };
 
+CLI::App* addNotify(CLI::App& app, NotifyOptions& options) {
+  CLI::App* command = app.add_subcommand(
+      "notify",
+      "Run the notification service on a payload (\"aps\" at the top level) and show what happens: "
+      "whether the system starts the extension at all, each step, each delivery, and the "
+      "notification as the user sees it.");
+  command->add_option("PAYLOAD", options.payload, "JSON file")->capture_default_str();
+  command->add_flag("--json", options.json, "Print a ledger for programs instead");
+  command->add_option("--os-version", options.osVersion, "iOS version to simulate (17.0)")
+      ->option_text("V");
+  command
+      ->add_option("--resources", options.resources,
+                   "The bundle's resources: pictures and Localizable.strings")
+      ->option_text("DIR");
+  command
+      ->add_option(
+          "--state", options.state,
+          "Caches, registered categories and donations (a fresh folder, removed at the end)")
+      ->option_text("DIR");
+  command
+      ->add_option("--map-url", options.mapUrls,
+                   "Fetch URLs that begin with PREFIX from TARGET, a folder or another URL; "
+                   "repeatable, the longest prefix counts")
+      ->option_text("PREFIX=TARGET")
+      ->allow_extra_args(false);
+  command
+      ->add_option(
+          "--scenario", options.scenario,
+          "What the device does: replaced texts, answers, delays, faults, a second request")
+      ->option_text("FILE");
+  command
+      ->add_option("--time-budget", options.timeBudget,
+                   "Seconds from the request to the expiry (30)")
+      ->option_text("S")
+      ->check(CLI::Range(0.0, 1e9));
+  command->add_flag("--real-time", options.realTime, "Wait as long as the simulated device would");
+  command
+      ->add_option("--max-download", options.maxDownload, "End a download beyond this size (256M)")
+      ->option_text("BYTES");
+  return command;
+}
+
+CLI::App* addModel(CLI::App& app, ModelOptions& options) {
+  CLI::App* command = app.add_subcommand(
+      "model",
+      "Make a model of a class from a JSON object, and print it as the dictionary that goes over "
+      "the wire.");
+  command->add_option("CLASS", options.className, "See `orvanta schema`")->required();
+  auto* file = command->add_option("FILE", options.file, "JSON file")->capture_default_str();
+  command->add_flag("--init", options.init, "Read nothing: a new object with its defaults")
+      ->excludes(file);
+  command->add_option("--update", options.updates, "Then update it from this file; repeatable")
+      ->option_text("FILE")
+      ->allow_extra_args(false);
+  command->add_flag("--class-info", options.classInfo,
+                    "Name the class of every model under \"klazz\"");
+  command->add_flag("--pretty", options.pretty, "Indent the output");
+  return command;
+}
+
+CLI::App* addSchema(CLI::App& app, SchemaOptions& options) {
+  CLI::App* command = app.add_subcommand(
+      "schema", "Print the wire keys, properties and types of one model class, or of all.");
+  command->add_option("CLASS", options.className, "Only this class");
+  auto* json = command->add_flag("--json", options.json, "Print JSON");
+  command
+      ->add_flag("--markdown", options.markdown,
+                 "Print the document of the wire format, a section per class")
+      ->excludes(json);
+  return command;
+}
+
+CLI::App* addRequest(CLI::App& app, RequestOptions& options) {
+  CLI::App* command = app.add_subcommand(
+      "request", "Restore a request from its dictionary, and print the call that it makes.");
+  command->add_option("CLASS", options.className, "A request class, see `orvanta schema`")
+      ->required();
+  command->add_option("FILE", options.file, "JSON file")->capture_default_str();
+  command->add_flag("--text", options.text, "Print text for people instead of JSON");
+  return command;
+}
+
+CLI::App* addBatch(CLI::App& app, BatchOptions& options) {
+  CLI::App* command = app.add_subcommand(
+      "batch",
+      "Fold stored event requests into batches of up to 100 events, as they would be sent, and "
+      "print one JSON line per batch. A line of input is one OrvantaEventRequest with its class "
+      "info; its number over all files is its storage id. A request that holds more events goes "
+      "alone.");
+  command->add_option("FILE", options.files, "JSON lines (standard input)");
+  return command;
+}
+
+CLI::App* addIdentifier(CLI::App& app, IdentifierOptions& options) {
+  CLI::App* command =
+      app.add_subcommand("identifier", "Make short identifiers, or tell what stands in one.");
+  auto* count = command->add_option("-n", options.count, "How many (1)")
+                    ->option_text("N")
+                    ->check(CLI::PositiveNumber);
+  command
+      ->add_option("--decode", options.decode,
+                   "Show the number of this identifier, and the time and the random part in it")
+      ->option_text("TEXT")
+      ->excludes(count);
+  return command;
+}
+
+CLI::App* addDevice(CLI::App& app, DeviceOptions& options) {
+  CLI::App* command = app.add_subcommand(
+      "device",
+      "Collect what the library reads about the device and the application, and print it as it "
+      "goes over the wire.");
+  command->add_flag("--all", options.all,
+                    "The full description instead of the short one that requests carry");
+  command
+      ->add_option("--device", options.device,
+                   "JSON profile of a device (see docs/devices.md; what it omits is read from this "
+                   "machine), or \"host\" for this machine alone (a current phone)")
+      ->option_text("FILE|host");
+  return command;
+}
+
+/// A command with its options, and how it runs once they are parsed.
+struct Command {
+  CLI::App* parser;
+  std::function<ExitCode(const Streams&)> run;
+};
+
+template <class Options>
+Command command(CLI::App& app, CLI::App* (*add)(CLI::App&, Options&),
+                ExitCode (*run)(const Options&, const Streams&)) {
+  const auto options = std::make_shared<Options>();
+  return {add(app, *options),
+          [options, run](const Streams& streams) { return run(*options, streams); }};
+}
+
 ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
   CLI::App app(
       "Shows on a desk what a push payload does on a phone, and what the library's models make of "
@@ -59,111 +200,15 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
                  "0 and below: no log lines; 1: errors; 2 and more: progress as well")
       ->capture_default_str();
 
-  NotifyOptions notifyOptions;
-  CLI::App* notifyCommand = app.add_subcommand(
-      "notify",
-      "Run the notification service on a payload (\"aps\" at the top level) and show what happens: "
-      "whether the system starts the extension at all, each step, each delivery, and the "
-      "notification as the user sees it.");
-  notifyCommand->add_option("PAYLOAD", notifyOptions.payload, "JSON file")->capture_default_str();
-  notifyCommand->add_flag("--json", notifyOptions.json, "Print a ledger for programs instead");
-  notifyCommand
-      ->add_option("--os-version", notifyOptions.osVersion, "iOS version to simulate (17.0)")
-      ->option_text("V");
-  notifyCommand
-      ->add_option("--resources", notifyOptions.resources,
-                   "The bundle's resources: pictures and Localizable.strings")
-      ->option_text("DIR");
-  notifyCommand
-      ->add_option(
-          "--state", notifyOptions.state,
-          "Caches, registered categories and donations (a fresh folder, removed at the end)")
-      ->option_text("DIR");
-  notifyCommand
-      ->add_option("--map-url", notifyOptions.mapUrls,
-                   "Fetch URLs that begin with PREFIX from TARGET, a folder or another URL; "
-                   "repeatable, the longest prefix counts")
-      ->option_text("PREFIX=TARGET")
-      ->allow_extra_args(false);
-  notifyCommand
-      ->add_option(
-          "--scenario", notifyOptions.scenario,
-          "What the device does: replaced texts, answers, delays, faults, a second request")
-      ->option_text("FILE");
-  notifyCommand
-      ->add_option("--time-budget", notifyOptions.timeBudget,
-                   "Seconds from the request to the expiry (30)")
-      ->option_text("S")
-      ->check(CLI::Range(0.0, 1e9));
-  notifyCommand->add_flag("--real-time", notifyOptions.realTime,
-                          "Wait as long as the simulated device would");
-  notifyCommand
-      ->add_option("--max-download", notifyOptions.maxDownload,
-                   "End a download beyond this size (256M)")
-      ->option_text("BYTES");
-
-  ModelOptions modelOptions;
-  CLI::App* modelCommand = app.add_subcommand(
-      "model",
-      "Make a model of a class from a JSON object, and print it as the dictionary that goes over "
-      "the wire.");
-  modelCommand->add_option("CLASS", modelOptions.className, "See `orvanta schema`")->required();
-  auto* file =
-      modelCommand->add_option("FILE", modelOptions.file, "JSON file")->capture_default_str();
-  modelCommand
-      ->add_flag("--init", modelOptions.init, "Read nothing: a new object with its defaults")
-      ->excludes(file);
-  modelCommand
-      ->add_option("--update", modelOptions.updates, "Then update it from this file; repeatable")
-      ->option_text("FILE")
-      ->allow_extra_args(false);
-  modelCommand->add_flag("--class-info", modelOptions.classInfo,
-                         "Name the class of every model under \"klazz\"");
-  modelCommand->add_flag("--pretty", modelOptions.pretty, "Indent the output");
-
-  SchemaOptions schemaOptions;
-  CLI::App* schemaCommand = app.add_subcommand(
-      "schema", "Print the wire keys, properties and types of one model class, or of all.");
-  schemaCommand->add_option("CLASS", schemaOptions.className, "Only this class");
-  auto* json = schemaCommand->add_flag("--json", schemaOptions.json, "Print JSON");
-  schemaCommand
-      ->add_flag("--markdown", schemaOptions.markdown,
-                 "Print the document of the wire format, a section per class")
-      ->excludes(json);
-
-  RequestOptions requestOptions;
-  CLI::App* requestCommand = app.add_subcommand(
-      "request", "Restore a request from its dictionary, and print the call that it makes.");
-  requestCommand
-      ->add_option("CLASS", requestOptions.className, "A request class, see `orvanta schema`")
-      ->required();
-  requestCommand->add_option("FILE", requestOptions.file, "JSON file")->capture_default_str();
-  requestCommand->add_flag("--text", requestOptions.text, "Print text for people instead of JSON");
-
-  BatchOptions batchOptions;
-  CLI::App* batchCommand = app.add_subcommand(
-      "batch",
-      "Fold stored event requests into batches of up to 100 events, as they would be sent, and "
-      "print one JSON line per batch. A line of input is one OrvantaEventRequest with its class "
-      "info; its number over all files is its storage id. A request that holds more events goes "
-      "alone.");
-  batchCommand->add_option("FILE", batchOptions.files, "JSON lines (standard input)");
-
-  IdentifierOptions identifierOptions;
-  CLI::App* identifierCommand =
-      app.add_subcommand("identifier", "Make short identifiers, or tell what stands in one.");
-  auto* count = identifierCommand->add_option("-n", identifierOptions.count, "How many (1)")
-                    ->option_text("N")
-                    ->check(CLI::PositiveNumber);
-  identifierCommand
-      ->add_option("--decode", identifierOptions.decode,
-                   "Show the number of this identifier, and the time and the random part in it")
-      ->option_text("TEXT")
-      ->excludes(count);
-
-  for (CLI::App* command : app.get_subcommands({})) {
-    command->fallthrough();
-    command->footer("--log-level and the exit codes: see `orvanta --help`.");
+  const Command commands[] = {
+      command(app, addNotify, notify), command(app, addModel, model),
+      command(app, addSchema, schema), command(app, addRequest, request),
+      command(app, addBatch, batch),   command(app, addIdentifier, identifier),
+      command(app, addDevice, device),
+  };
+  for (const Command& each : commands) {
+    each.parser->fallthrough();
+    each.parser->footer("--log-level and the exit codes: see `orvanta --help`.");
   }
 
   try {
@@ -172,20 +217,15 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
     const int code = app.exit(error, streams.out, streams.err);
     return code == 0 ? ExitCode::done : ExitCode::usage;
   }
-  if (app.get_subcommands().empty()) {
-    throw Failure(
-        ExitCode::usage,
-        "a command is needed: notify, model, schema, request, batch or identifier; see --help");
-  }
   OrvantaLogger::setLogLevel(logLevel);
-  if (*notifyCommand) return notify(notifyOptions, streams);
   LoggingPlatform platform(streams.err);
   const PlatformOverride override(platform);
-  if (*modelCommand) return model(modelOptions, streams);
-  if (*requestCommand) return request(requestOptions, streams);
-  if (*batchCommand) return batch(batchOptions, streams);
-  if (*identifierCommand) return identifier(identifierOptions, streams);
-  return schema(schemaOptions, streams);
+  std::string names;
+  for (const Command& each : commands) {
+    if (each.parser->parsed()) return each.run(streams);
+    names.append(names.empty() ? "" : ", ").append(each.parser->get_name());
+  }
+  throw Failure(ExitCode::usage, "a command is needed, one of " + names + "; see --help");
 }
 
 }  // namespace

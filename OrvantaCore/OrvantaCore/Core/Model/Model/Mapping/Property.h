@@ -371,7 +371,7 @@ struct Reflect {
 /// A further wire key of a property that an ancestor declares.
 #define ORVANTA_FURTHER_KEY(key_, name_)                                          \
  protected:                                                                       \
-  static_assert(sizeof(std::declval<const Super&>().name_()) > 0);                \
+  static_assert(requires(const Super& ancestor) { ancestor.name_(); });           \
   ORVANTA_ROW_(key_, name_, nullptr,                                              \
                {#name_, {}, Ownership::assign, false, nullptr, nullptr, nullptr}) \
                                                                                   \
