@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -56,7 +57,7 @@ ExitCode batch(const BatchOptions& options, const Streams& streams);
 
 struct IdentifierOptions {
   std::uint64_t count = 1;
-  std::string decode;  // empty: make identifiers
+  std::optional<std::string> decode;  // none: make identifiers
 };
 ExitCode identifier(const IdentifierOptions& options, const Streams& streams);
 struct DeviceOptions {

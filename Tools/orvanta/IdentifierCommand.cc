@@ -34,7 +34,7 @@ DecimalNumber decoded(const std::string& text) {
 }  // namespace
 
 ExitCode identifier(const IdentifierOptions& options, const Streams& streams) {
-  if (options.decode.empty()) {
+  if (!options.decode) {
     for (std::uint64_t i = 0; i < options.count && streams.out; ++i) {
       streams.out << OrvantaIdentifierUtil::generateShortIdentifier() << '\n';
     }
@@ -43,14 +43,19 @@ ExitCode identifier(const IdentifierOptions& options, const Streams& streams) {
   // The random number, ten digits of seconds and nine of nanoseconds.
   constexpr std::size_t kSecondDigits = 10;
   constexpr std::size_t kNanosecondDigits = 9;
-  const std::string digits = decoded(options.decode).stringValue();
+  const std::string& text = *options.decode;
+  const DecimalNumber number = decoded(text);
+  if (OrvantaIdentifierUtil::base62String(number) != text) {
+    refuse(text, "it ends with the digit 0, which is \"a\"");
+  }
+  const std::string digits = number.stringValue();
   if (digits.size() <= kSecondDigits + kNanosecondDigits) {
-    refuse(options.decode, "its number, " + digits + ", has less than 20 digits");
+    refuse(text, "its number, " + digits + ", has less than 20 digits");
   }
   const std::size_t randomDigits = digits.size() - kSecondDigits - kNanosecondDigits;
   const std::string random = digits.substr(0, randomDigits);
   if (random.size() > 5 || std::stoul(random) > 65534) {
-    refuse(options.decode, "the random part of its number, " + digits + ", is beyond 65534");
+    refuse(text, "the random part of its number, " + digits + ", is beyond 65534");
   }
   const std::string seconds = digits.substr(randomDigits, kSecondDigits);
   const std::string day = Date{std::stod(seconds)}.description();

@@ -113,12 +113,13 @@ CLI::App* addModel(CLI::App& app, ModelOptions& options) {
 CLI::App* addSchema(CLI::App& app, SchemaOptions& options) {
   CLI::App* command = app.add_subcommand(
       "schema", "Print the wire keys, properties and types of one model class, or of all.");
-  command->add_option("CLASS", options.className, "Only this class");
+  auto* name = command->add_option("CLASS", options.className, "Only this class");
   auto* json = command->add_flag("--json", options.json, "Print JSON");
   command
       ->add_flag("--markdown", options.markdown,
                  "Print the document of the wire format, a section per class")
-      ->excludes(json);
+      ->excludes(json)
+      ->excludes(name);
   return command;
 }
 
@@ -146,9 +147,9 @@ CLI::App* addBatch(CLI::App& app, BatchOptions& options) {
 CLI::App* addIdentifier(CLI::App& app, IdentifierOptions& options) {
   CLI::App* command =
       app.add_subcommand("identifier", "Make short identifiers, or tell what stands in one.");
-  auto* count = command->add_option("-n", options.count, "How many (1)")
+  auto* count = command->add_option("-n", options.count, "How many, up to 1000000 (1)")
                     ->option_text("N")
-                    ->check(CLI::PositiveNumber);
+                    ->check(CLI::Range(1, 1000000));
   command
       ->add_option("--decode", options.decode,
                    "Show the number of this identifier, and the time and the random part in it")

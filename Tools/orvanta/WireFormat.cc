@@ -22,7 +22,8 @@ constexpr std::string_view kIntroduction =
     "under\n"
     "`aps`, and written as one flat key. A class has the keys of the class that it derives from\n"
     "besides its own. Dates are whole milliseconds since 1970-01-01 00:00 UTC. An integer of\n"
-    "9223372036854775807 is unset and is left out when written. [mapping.md](mapping.md) has the\n"
+    "9223372036854775807 is unset and is left out when written. An amount or interval of\n"
+    "9223372036854775808.0 was not given, or never elapses. [mapping.md](mapping.md) has the "
     "rules.\n";
 
 struct TypeName {
@@ -47,6 +48,41 @@ constexpr TypeName kTypeNames[] = {
     {"Q", "unsigned 64-bit integer"},
     {"f", "32-bit floating point"},
     {"d", "64-bit floating point"},
+};
+
+/// What the tables cannot say of a class.
+struct Note {
+  std::string_view className;
+  std::string_view words;
+};
+constexpr Note kNotes[] = {
+    {"OrvantaPushObject",
+     "The texts of the alert are read from `aps.alert`, a text or a dictionary. Written, they "
+     "stand "
+     "at the top level, under the object's own entries. `action` is made of `_ov.act` as well."},
+    {"OrvantaBaseProductEvent",
+     "The keys of `product` stand in the event's own dictionary; where both have a key, the "
+     "event's "
+     "entry is written."},
+    {"OrvantaBaseContentEvent",
+     "The keys of `content` stand in the event's own dictionary; where both have a key, the "
+     "event's "
+     "entry is written."},
+    {"OrvantaWebViewActionEvent",
+     "`eventData` is the whole dictionary that was read. Its entries stand in the event's own "
+     "dictionary, and over the event's, `code` among them."},
+    {"OrvantaErrorEvent",
+     "The event does not own its array and message: they are written while somebody else holds "
+     "them, and are nil when read from a dictionary."},
+    {"OrvantaPurchaseEvent", "Read from a dictionary, `items` are dictionaries still."},
+    {"OrvantaEventRequest",
+     "`events` are events again when each names its class under `klazz`, dictionaries otherwise."},
+    {"OrvantaFetchInboxRequest", "The keys of `filter` stand in the request's own dictionary."},
+    {"OrvantaFetchInboxCategoryRequest",
+     "The keys of `filter` stand in the request's own dictionary."},
+    {"OrvantaFetchInboxCountRequest",
+     "The keys of `filter` stand in the request's own dictionary."},
+    {"OrvantaFetchCouponRequest", "The keys of `filter` stand in the request's own dictionary."},
 };
 
 std::string link(std::string_view className) {
@@ -93,6 +129,9 @@ void printClass(const Class& cls, std::ostream& out) {
     out << "\n";
   }
   const KeyTable keys = cls.keyPathPropertySelectorMapping;
+  for (const Note& note : kNotes) {
+    if (note.className == cls.name) out << "\n" << note.words << "\n";
+  }
   if (keys.empty() && cls.properties.empty()) return;
   out << "\n| Key | Property | Type | |\n|---|---|---|---|\n";
   for (const Property& property : cls.properties) {

@@ -19,7 +19,7 @@ namespace orvanta::testing {
 
 /// A class of an application, derived from one of the library's.
 class PromotedCartAdd : public OrvantaCartAddProductEvent {
-  ORVANTA_MODEL(PromotedCartAdd, OrvantaCartAddProductEvent)
+  ORVANTA_EVENT(PromotedCartAdd, OrvantaCartAddProductEvent, "o:acp")
 };
 ORVANTA_IMPLEMENTATION(PromotedCartAdd)
 
@@ -123,7 +123,16 @@ TEST(OrvantaPurchaseEvent, CountsItsLineItems) {
     EXPECT_EQ(event->dictionaryValue()["el"], Value(9223372036854775808.0));
   }
   const auto event = OrvantaPurchaseEvent::eventWithSubTotal(1.0, 2.0, Array{item(2)});
+  event->setPaymentMethod("card");
+  event->setCoupon("AUTUMN");
+  event->setShippingCost(3.0);
+  event->setDiscount(4.0);
   const Dictionary written = event->dictionaryValue();
+  Dictionary fields = written;
+  fields.remove("items");
+  fields.remove("revenue");
+  EXPECT_EQ(Value(fields), parsed(R"({"code":"o:ph","er":1.0,"es":2.0,"ec":1,"fz":2,"em":"card",)"
+                                  R"("ep":3.0,"el":4.0,"ek":"AUTUMN"})"));
   EXPECT_EQ(written["items"], parsed(R"([{"ec":2,"ea":"p","eb":"n","eq":1.0}])"));
   // Read back, the items stay dictionaries.
   EXPECT_EQ(make<OrvantaPurchaseEvent>(written)->lineItems().value(), written["items"]);

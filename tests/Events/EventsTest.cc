@@ -140,6 +140,8 @@ TEST(OrvantaErrorEvent, DoesNotKeepWhatItReports) {
   EXPECT_EQ(message.use_count(), 1);
   EXPECT_EQ(events.use_count(), 1);
 
+  EXPECT_TRUE(OrvantaErrorEvent::eventWithErrorMessage(nullptr, nullptr));
+
   message.reset();
   EXPECT_FALSE(event->errorMessage());
   EXPECT_TRUE(event->eventArray());

@@ -8,6 +8,15 @@
 #include "support/ModelZoo.h"
 
 namespace orvanta::testing {
+
+/// A class of an application with an identity more.
+class ShopIdentifiers : public OrvantaIdentifiers {
+  ORVANTA_MODEL(ShopIdentifiers, OrvantaIdentifiers)
+
+  ORVANTA_PROPERTY("shop", copy, String, shopId, setShopId)
+};
+ORVANTA_IMPLEMENTATION(ShopIdentifiers)
+
 namespace {
 
 TEST(OrvantaIdentifiers, DropsWhatTheOtherHasTheSameOf) {
@@ -32,6 +41,12 @@ TEST(OrvantaIdentifiers, DropsWhatTheOtherHasTheSameOf) {
     own->removePropertiesSameWithIdentifiers(other.get());
     EXPECT_EQ(Value(own->dictionaryValue()), parsed(row.left)) << row.own;
   }
+}
+
+TEST(OrvantaIdentifiers, ComparesTheElevenInASubclassToo) {
+  const auto own = made<ShopIdentifiers>(R"({"shop":"s","iid":"i"})");
+  own->removePropertiesSameWithIdentifiers(made<OrvantaIdentifiers>(R"({"iid":"i"})").get());
+  EXPECT_EQ(written(own->dictionaryValue()), R"({"shop":"s"})");
 }
 
 TEST(OrvantaIdentifiers, DropsTheNamedPropertiesOnly) {
@@ -96,12 +111,19 @@ TEST(OrvantaIdentifierUtil, MakesNumbersOfAChanceAndATime) {
 
 TEST(OrvantaIdentifierUtil, WritesBase62Backwards) {
   const std::pair<std::string_view, std::string_view> rows[] = {
-      {"0", ""},         {"1", "b"},
-      {"26", "1"},       {"35", "0"},
-      {"36", "A"},       {"61", "Z"},
-      {"62", "ab"},      {"-1", ""},
-      {"no number", ""}, {"1e38", ""},
-      {"1e60", ""},      {"99999999999999999999999999999999999999", "nLWb0sl9zShYhaseY67Xrc"},
+      {"0", ""},
+      {"1", "b"},
+      {"26", "1"},
+      {"35", "0"},
+      {"36", "A"},
+      {"61", "Z"},
+      {"62", "ab"},
+      {"-1", ""},
+      {"1.5", ""},
+      {"no number", ""},
+      {"1e38", ""},
+      {"1e60", ""},
+      {"99999999999999999999999999999999999999", "nLWb0sl9zShYhaseY67Xrc"},
   };
   for (const auto& [number, text] : rows) {
     EXPECT_EQ(OrvantaIdentifierUtil::base62String(DecimalNumber::decimalNumberWithString(number)),

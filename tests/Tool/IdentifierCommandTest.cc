@@ -27,6 +27,8 @@ TEST(IdentifierCommand, DecodesOrTellsWhyNot) {
        "number  47111700000000123456789\n"
        "time    2023-11-14 22:13:20.123456789 UTC\n"
        "random  4711\n"},
+      {"", ExitCode::notMade, "less than 20 digits"},
+      {"FiNPDvMOVkwBoaa", ExitCode::notMade, "ends with the digit 0"},
       {"ab", ExitCode::notMade, "less than 20 digits"},
       {"a_b", ExitCode::notMade, "another character"},
       {std::string(22, 'Z'), ExitCode::notMade, "too long"},

@@ -14,7 +14,7 @@ class OrvantaErrorEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaErrorEvent, OrvantaEvent, "o:err")
 
   Held<Array> eventArray() const { return ownedElsewhere<Array>(eventArray_); }
-  void setEventArray(std::weak_ptr<const Array> eventArray) { eventArray_ = std::move(eventArray); }
+  void setEventArray(const std::shared_ptr<const Array>& eventArray) { eventArray_ = eventArray; }
   ORVANTA_COMPUTED(
       "evs", weak, "@\"NSArray\"", eventArray,
       [](const OrvantaBaseModel& o) { return static_cast<const Self&>(o).eventArray().value(); },
@@ -23,8 +23,8 @@ class OrvantaErrorEvent : public OrvantaEvent {
       })
 
   Held<String> errorMessage() const { return ownedElsewhere<String>(errorMessage_); }
-  void setErrorMessage(std::weak_ptr<const std::string> errorMessage) {
-    errorMessage_ = std::move(errorMessage);
+  void setErrorMessage(const std::shared_ptr<const std::string>& errorMessage) {
+    errorMessage_ = errorMessage;
   }
   ORVANTA_COMPUTED(
       "msg", weak, "@\"NSString\"", errorMessage,
@@ -32,6 +32,11 @@ class OrvantaErrorEvent : public OrvantaEvent {
       [](OrvantaBaseModel& o, const Value& /*unowned*/) {
         static_cast<Self&>(o).setErrorMessage({});
       })
+
+  bool initWithErrorMessage(const std::shared_ptr<const std::string>& errorMessage,
+                            const std::shared_ptr<const Array>& events);
+  static Ref<Self> eventWithErrorMessage(const std::shared_ptr<const std::string>& errorMessage,
+                                         const std::shared_ptr<const Array>& events);
 
  private:
   template <class T, class Owned>
@@ -41,10 +46,6 @@ class OrvantaErrorEvent : public OrvantaEvent {
   }
   std::weak_ptr<const Array> eventArray_;
   std::weak_ptr<const std::string> errorMessage_;
-
- public:
-  /// Both take a shared handle and keep it weakly.
-  ORVANTA_EVENT_INITIALISER(initWithErrorMessage, eventWithErrorMessage, errorMessage, eventArray)
 };
 
 }  // namespace orvanta

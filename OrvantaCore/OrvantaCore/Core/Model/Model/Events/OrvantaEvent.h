@@ -22,12 +22,13 @@ class OrvantaEvent : public OrvantaBaseModel {
   /// 2^63: no amount was given.
   static constexpr double kNoAmount = 9223372036854775808.0;
 
-  /// None: this class is abstract. Each subclass has a class method of its own.
+  /// None: this class is abstract. A subclass that opens with one of the macros below has a class
+  /// method of its own; further class methods that it inherits make objects of the ancestor.
   static Ref<OrvantaEvent> event() { return nullptr; }
   /// What every initialiser of an event begins with: `init`, and no revenue given. An event that is
   /// made in another way has a revenue of 0.0.
   bool initInternal();
-  /// 0 or, for the events that are to be sent soon, 1.
+  /// 0 or 1; the request that carries the event alone has the same.
   virtual std::int64_t priority() const { return 0; }
 };
 

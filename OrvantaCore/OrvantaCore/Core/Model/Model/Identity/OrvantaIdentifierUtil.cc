@@ -36,10 +36,12 @@ DecimalNumber OrvantaIdentifierUtil::generateShortIdentifierDecimalNumber() {
 
 std::string OrvantaIdentifierUtil::base62String(const DecimalNumber& number) {
   static const DecimalNumber kZero;
+  static const DecimalNumber kOne(1);
   static const DecimalNumber kBase(static_cast<std::int64_t>(kBase62Digits.size()));
   static const DecimalNumber kLimit = DecimalNumber(1).multiplyingByPowerOf10(38);
   std::string text;
   if (number < kZero || number >= kLimit) return text;  // NaN stands below every number
+  if (number != number.dividingByRoundingDown(kOne)) return text;
   for (DecimalNumber rest = number; rest != kZero;) {
     const DecimalNumber quotient = rest.dividingByRoundingDown(kBase);
     const DecimalNumber digit = rest.subtracting(quotient.multiplyingBy(kBase));

@@ -21,13 +21,13 @@ class OrvantaIdentifierUtil {
   /// "ASIdentifierManager". Whether the user allows tracking is not asked here.
   static std::optional<std::string> advertisingId();
 
-  /// A number of 20 to 24 digits: a random one from 1 to 65534 and behind it the nanoseconds since
-  /// 1970 with 19 digits, of the platform clock's steady wall time.
+  /// A random number from 1 to 65534 and behind it the nanoseconds since 1970 of the platform
+  /// clock's steady wall time: 20 to 24 digits in this century and the next two.
   static DecimalNumber generateShortIdentifierDecimalNumber();
   /// The number's digits of base 62, the least significant first. Zero has none. Takes an integer
   /// from 0 to below 10^38; empty for anything else.
   static std::string base62String(const DecimalNumber& number);
-  /// The text of a new number: 11 to 14 characters.
+  /// The text of a new number; 11 to 14 characters for those digits.
   static std::string generateShortIdentifier();
 };
 

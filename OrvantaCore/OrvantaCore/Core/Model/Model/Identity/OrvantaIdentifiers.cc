@@ -5,7 +5,7 @@ namespace orvanta {
 ORVANTA_IMPLEMENTATION(OrvantaIdentifiers)
 
 void OrvantaIdentifiers::removePropertiesSameWithIdentifiers(const OrvantaIdentifiers* other) {
-  for (const KeyEntry& entry : isa().keyPathPropertySelectorMapping) {
+  for (const KeyEntry& entry : keyPathPropertySelectorMapping()) {
     removePropertiesWithKeys({&entry.property, 1}, other);
   }
 }

@@ -21,7 +21,8 @@ class OrvantaIdentifiers : public OrvantaBaseModel {
   ORVANTA_PROPERTY("oid", copy, Number, abTestOptionId, setAbTestOptionId)
   ORVANTA_PROPERTY("slt", copy, Number, slotId, setSlotId)
 
-  /// Sets to nil whatever the other has the same of. Nothing changes when the other is nil.
+  /// Sets to nil whichever of these eleven the other has the same of. Nothing changes when the
+  /// other is nil.
   void removePropertiesSameWithIdentifiers(const OrvantaIdentifiers* other);
   /// The same for the properties of these names. A null object stays, and so does what differs.
   /// Throws the undefined-key exception for a name that is no property.

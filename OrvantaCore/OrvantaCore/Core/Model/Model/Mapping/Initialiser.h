@@ -15,7 +15,7 @@
 #define ORVANTA_EACH_STEP_(do_, first_, ...) \
   do_(first_) __VA_OPT__(, ORVANTA_EACH_AGAIN_ ORVANTA_PARENTHESES_(do_, __VA_ARGS__))
 #define ORVANTA_EACH_AGAIN_() ORVANTA_EACH_STEP_
-/// do_ of each name, separated by commas; up to nine.
+/// do_ of each name, separated by commas; nine at least.
 #define ORVANTA_EACH_(do_, ...) __VA_OPT__(ORVANTA_RESCAN_(ORVANTA_EACH_STEP_(do_, __VA_ARGS__)))
 
 #define ORVANTA_PARAMETER_(name_) decltype(name_##_) name_
