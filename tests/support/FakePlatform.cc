@@ -42,9 +42,10 @@ Ref<NSError> moveError(std::int64_t code, std::int64_t posixCode) {
 
 }  // namespace
 
-void FakePlatform::runNext() {
-  const std::function<void()> callback = std::move(pending_.front());
-  pending_.pop_front();
+void FakePlatform::run(std::size_t index) {
+  const auto at = pending_.begin() + static_cast<std::ptrdiff_t>(index);
+  const std::function<void()> callback = std::move(*at);
+  pending_.erase(at);
   callback();
 }
 

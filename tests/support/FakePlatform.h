@@ -59,7 +59,10 @@ class FakePlatform final : public Platform,
 
   // ---- What waits ----
 
-  void runNext();
+  std::size_t waiting() const { return pending_.size(); }
+  /// Runs one that waits; they stand in the order in which they came.
+  void run(std::size_t index);
+  void runNext() { run(0); }
   /// Runs until nothing waits.
   void runAll() {
     while (!pending_.empty()) runNext();
