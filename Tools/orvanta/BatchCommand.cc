@@ -36,7 +36,7 @@ Ref<OrvantaEventRequest> restored(const Lines& line, std::string& reason) {
   }
   const Value& klazz = (*dictionary)["klazz"];
   if (!klazz.isNil() && klazz != Value(cls.name)) {
-    return refuse("\"klazz\" is not \"" + std::string(cls.name) + "\"");
+    return refuse(R"("klazz" is not )" + std::string(cls.name));
   }
   const RefusalRecorder recorder;
   auto request = make<OrvantaEventRequest>(*dictionary);
