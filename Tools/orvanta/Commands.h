@@ -72,6 +72,9 @@ const Class& classForArgument(const std::string& name);
 /// Why a model of the class refused its dictionary, for a message.
 std::string refusalText(const RefusalRecorder& recorder, const Class& cls);
 
+/// Throws Failure that names the first entry of a model's dictionary that has no JSON text.
+void checkWritable(const Dictionary& dictionary, const Class& cls);
+
 /// A spec as a dictionary, with null for what is not set.
 Dictionary specDictionary(const OrvantaRequestSpec& spec);
 

@@ -13,7 +13,7 @@ Lines::Lines(std::vector<std::string> files, const Streams& streams)
     throw Failure(ExitCode::usage, "standard input can be read only once");
   }
   for (const std::string& file : files_) {
-    if (file != "-") openForReading(file);  // better now than half way
+    if (file != "-") checkReadable(file);  // better now than half way
   }
 }
 
@@ -30,23 +30,25 @@ bool Lines::next() {
       isInFile_ = true;
       lineInFile_ = 0;
     }
-    if (readLine(files_[opened_ - 1] == "-" ? standardIn_ : file_)) {
-      ++lineInFile_;
-      ++number_;
-      return true;
+    ++lineInFile_;
+    ++number_;
+    try {
+      if (readLine(*current().rdbuf())) return true;
+    } catch (const std::ios_base::failure&) {
+      throw Failure(ExitCode::unreadable, place() + ": reading failed");
     }
+    --number_;
     isInFile_ = false;
   }
 }
 
-bool Lines::readLine(std::istream& in) {
+bool Lines::readLine(std::streambuf& in) {
   text_.clear();
   isTooLong_ = false;
-  std::streambuf& buffer = *in.rdbuf();
   constexpr int kEnd = std::char_traits<char>::eof();
-  int next = buffer.sbumpc();
+  int next = in.sbumpc();
   if (next == kEnd) return false;
-  for (; next != kEnd && next != '\n'; next = buffer.sbumpc()) {
+  for (; next != kEnd && next != '\n'; next = in.sbumpc()) {
     isTooLong_ = text_.size() == kLongestLine;
     if (!isTooLong_) text_ += static_cast<char>(next);
   }

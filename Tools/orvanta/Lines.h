@@ -13,7 +13,7 @@ namespace orvanta::tool {
 /// that of the longest line, up to kLongestLine.
 class Lines {
  public:
-  static constexpr std::size_t kLongestLine = std::size_t{16} << 20U;
+  static constexpr std::size_t kLongestLine = std::size_t{256} << 10U;
 
   /// Throws Failure when one of the files cannot be read, or standard input is named twice.
   Lines(std::vector<std::string> files, const Streams& streams);
@@ -29,7 +29,9 @@ class Lines {
   std::string place() const;
 
  private:
-  bool readLine(std::istream& in);
+  std::istream& current() { return files_[opened_ - 1] == "-" ? standardIn_ : file_; }
+  /// False at the end of the stream.
+  bool readLine(std::streambuf& in);
 
   std::vector<std::string> files_;
   std::istream& standardIn_;

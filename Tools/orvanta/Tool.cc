@@ -139,7 +139,7 @@ CLI::App* addBatch(CLI::App& app, BatchOptions& options) {
       "Fold stored event requests into batches of up to 100 events, as they would be sent, and "
       "print one JSON line per batch. A line of input is one OrvantaEventRequest with its class "
       "info; its number over all files is its storage id. A request that holds more events goes "
-      "alone.");
+      "alone; one without events is left out.");
   command->add_option("FILE", options.files, "JSON lines (standard input)");
   return command;
 }
