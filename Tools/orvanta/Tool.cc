@@ -18,7 +18,7 @@ namespace {
 constexpr const char* kFooter =
     "Exit codes of all commands:\n"
     "  0  done\n"
-    "  1  an object could not be made, or there are findings\n"
+    "  1  an object could not be made, or lines were left out\n"
     "  2  wrong usage\n"
     "  3  input that cannot be read, or is no JSON object\n"
     "  4  an internal error\n"
