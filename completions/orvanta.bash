@@ -9,7 +9,7 @@ _orvanta_value_kind() {
     --resources | --state) kind=folders ;;
     --map-url) kind=mappings ;;
     --device) kind=devices ;;
-    --os-version | --time-budget | --max-download | --decode | -n) kind=text ;;
+    --os-version | --time-budget | --max-download | --decode | -n | --jobs) kind=text ;;
     *) kind= ;;
   esac
 }
@@ -18,7 +18,7 @@ _orvanta_value_kind() {
 _orvanta_argument_kind() {
   case $1:$2 in
     :*) kind=commands ;;
-    notify:0 | model:1 | request:1 | batch:*) kind=files ;;
+    notify:0 | model:1 | request:1 | replay:0 | batch:*) kind=files ;;
     model:0 | schema:0) kind=classes ;;
     request:0) kind=requests ;;
     *) kind=text ;;
@@ -80,13 +80,14 @@ _orvanta() {
     model) options='--init --update --class-info --pretty' ;;
     schema) options='--json --markdown' ;;
     request) options='--text' ;;
+    replay) options='--json --jobs' ;;
     identifier) options='-n --decode' ;;
     device) options='--all --device' ;;
   esac
   local choices=''
   case $kind in
     options) choices="$options --help --log-level" ;;
-    commands) choices='notify model schema request batch identifier device' ;;
+    commands) choices='notify model schema request batch replay identifier device' ;;
     classes) choices=$(_orvanta_classes .) ;;
     requests) choices=$(_orvanta_classes ' -> ') ;; # only requests have a reply
     levels) choices='0 1 2' ;;

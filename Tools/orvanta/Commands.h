@@ -55,6 +55,13 @@ struct BatchOptions {
 };
 ExitCode batch(const BatchOptions& options, const Streams& streams);
 
+struct ReplayOptions {
+  std::string file = "-";
+  bool json = false;
+  std::uint64_t jobs = 1;
+};
+ExitCode replay(const ReplayOptions& options, const Streams& streams);
+
 struct IdentifierOptions {
   std::uint64_t count = 1;
   std::optional<std::string> decode;  // none: make identifiers

@@ -1,6 +1,7 @@
 #include "Lines.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "Input.h"
 #include "Text.h"
@@ -33,7 +34,7 @@ bool Lines::next() {
     ++lineInFile_;
     ++number_;
     try {
-      if (readLine(*current().rdbuf())) return true;
+      if (readLine(files_[opened_ - 1] == "-" ? standardIn_ : file_)) return true;
     } catch (const std::ios_base::failure&) {
       throw Failure(ExitCode::unreadable, place() + ": reading failed");
     }
@@ -42,17 +43,20 @@ bool Lines::next() {
   }
 }
 
-bool Lines::readLine(std::streambuf& in) {
-  text_.clear();
-  isTooLong_ = false;
-  constexpr int kEnd = std::char_traits<char>::eof();
-  int next = in.sbumpc();
-  if (next == kEnd) return false;
-  for (; next != kEnd && next != '\n'; next = in.sbumpc()) {
-    isTooLong_ = text_.size() == kLongestLine;
-    if (!isTooLong_) text_ += static_cast<char>(next);
+bool Lines::readLine(std::istream& in) {
+  in.getline(buffer_.data(), static_cast<std::streamsize>(buffer_.size()));
+  auto length = static_cast<std::size_t>(in.gcount());
+  if (in.bad()) throw Failure(ExitCode::unreadable, place() + ": reading failed");
+  if (length == 0 && !in) return false;
+  isTooLong_ = in.fail();
+  if (isTooLong_) {
+    in.clear();
+    in.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+  } else if (!in.eof()) {
+    --length;  // the line end counts
   }
-  if (!text_.empty() && text_.back() == '\r') text_.pop_back();
+  if (length != 0 && buffer_[length - 1] == '\r') --length;
+  text_.assign(buffer_.data(), length);
   return true;
 }
 

@@ -29,9 +29,8 @@ class Lines {
   std::string place() const;
 
  private:
-  std::istream& current() { return files_[opened_ - 1] == "-" ? standardIn_ : file_; }
   /// False at the end of the stream.
-  bool readLine(std::streambuf& in);
+  bool readLine(std::istream& in);
 
   std::vector<std::string> files_;
   std::istream& standardIn_;
@@ -40,6 +39,7 @@ class Lines {
   bool isInFile_ = false;
   std::uint64_t lineInFile_ = 0;
   std::uint64_t number_ = 0;
+  std::vector<char> buffer_ = std::vector<char>(kLongestLine + 1);
   std::string text_;
   bool isTooLong_ = false;
 };

@@ -33,6 +33,7 @@ constexpr const char* kFooter =
     "  orvanta schema OrvantaPushObject\n"
     "  orvanta request OrvantaFetchInboxRequest request.json\n"
     "  orvanta batch examples/events/stored.jsonl\n"
+    "  orvanta replay recorded.jsonl --jobs 2\n"
     "  orvanta device --all --device examples/devices/old-phone.json\n"
     "  orvanta identifier -n 3";
 
@@ -144,6 +145,19 @@ CLI::App* addBatch(CLI::App& app, BatchOptions& options) {
   return command;
 }
 
+CLI::App* addReplay(CLI::App& app, ReplayOptions& options) {
+  CLI::App* command = app.add_subcommand(
+      "replay",
+      "Run recorded payloads, one JSON object a line, through the notification service on a device "
+      "where everything goes well and nothing is fetched, and count what came of them.");
+  command->add_option("FILE", options.file, "JSON lines")->capture_default_str();
+  command->add_flag("--json", options.json, "Print JSON");
+  command->add_option("--jobs", options.jobs, "Run on that many threads (1)")
+      ->option_text("N")
+      ->check(CLI::Range(1, 256));
+  return command;
+}
+
 CLI::App* addIdentifier(CLI::App& app, IdentifierOptions& options) {
   CLI::App* command =
       app.add_subcommand("identifier", "Make short identifiers, or tell what stands in one.");
@@ -205,7 +219,7 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
       command(app, addNotify, notify), command(app, addModel, model),
       command(app, addSchema, schema), command(app, addRequest, request),
       command(app, addBatch, batch),   command(app, addIdentifier, identifier),
-      command(app, addDevice, device),
+      command(app, addReplay, replay), command(app, addDevice, device),
   };
   for (const Command& each : commands) {
     each.parser->fallthrough();
