@@ -15,6 +15,9 @@ namespace orvanta {
 ///         };
 ///     }
 std::string describe(const Value& value);
+/// The same, cut after `most` bytes where it is longer; " …" then stands for the rest, which takes
+/// no time.
+std::string describe(const Dictionary& dictionary, std::size_t most);
 
 /// Replaces each "%@" of a format, in order, by the arguments' texts; there are as many.
 std::string formatted(std::string_view format, std::initializer_list<std::string_view> arguments);
