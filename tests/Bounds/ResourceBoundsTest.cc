@@ -107,8 +107,8 @@ const struct {
     {"models", push, 25, R"({"_ov":{"crsl":[)", R"({"klazz":"OrvantaReviewAction"})", ",", "]}}"},
     {"actions", push, 100, R"({"_ov":{"ia":[)", R"({"id":"a"})", ",", "]}}"},
     {"parts in an array", push, 50, R"({"_ov":[)", "{}", ",", "]}"},
-    {"names of a key path", path, 10, "", "a", ".", ""},
-    {"categories", categories, 25, "[", R"("c@")", ",", "]"},
+    {"names of a key path", path, 20, "", "a", ".", ""},
+    {"categories", categories, 30, "[", R"("c@")", ",", "]"},
 };
 
 TEST(ResourceBounds, MemoryIsBoundedByTheTextAndWorkGrowsNoFaster) {

@@ -225,7 +225,7 @@ TEST(OrvantaAppConfig, ForgetsTenPropertiesAndKeepsTheRest) {
   const Dictionary nothing;
   EXPECT_TRUE(config->updateWithDictionary(&nothing));
   Dictionary left = config->dictionaryValue();
-  for (const Dictionary::Entry& row : *parsed(kDefaults).dictionary()) {
+  for (const Dictionary::Entry& row : dictionaryOf(kDefaults)) {
     const bool isKept = row.key() == "bte" || row.key() == "btl" || row.key() == "ife" ||
                         row.key() == "ipe" || row.key() == "exe" || row.key() == "itd";
     EXPECT_EQ(left[row.key()], isKept ? (*all.dictionary())[row.key()] : row.value) << row.key();
