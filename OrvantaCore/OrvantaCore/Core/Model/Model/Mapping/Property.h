@@ -334,6 +334,12 @@ struct Reflect {
   void setter_(Stored<type_>::Field value) { name_##_ = std::move(value); } \
   ORVANTA_STORED_(key_, ownership_, type_, name_, false, nullptr, nullptr, __VA_ARGS__)
 
+/// A property whose accessors a protocol declares.
+#define ORVANTA_PROTOCOL_PROPERTY(key_, ownership_, type_, name_, setter_)           \
+  Stored<type_>::Read name_() const override { return name_##_; }                    \
+  void setter_(Stored<type_>::Field value) override { name_##_ = std::move(value); } \
+  ORVANTA_STORED_(key_, ownership_, type_, name_, false, nullptr, nullptr, )
+
 /// A property without a public setter; the mapping still fills it.
 #define ORVANTA_READONLY(key_, ownership_, type_, name_, ...) \
   Stored<type_>::Read name_() const { return name_##_; }      \

@@ -16,9 +16,9 @@ namespace orvanta {
 class OrvantaBaseRequest : public OrvantaBaseModel, public OrvantaPersistenceModel {
   ORVANTA_MODEL(OrvantaBaseRequest, OrvantaBaseModel)
 
-  ORVANTA_PROPERTY(kUnmapped, strong, Number, storageId, setStorageId)
+  ORVANTA_PROTOCOL_PROPERTY(kUnmapped, strong, Number, storageId, setStorageId)
   /// The storage ids of the records that were folded into this request; empty at first.
-  ORVANTA_PROPERTY(kUnmapped, strong, MutableArray, idsContained, setIdsContained)
+  ORVANTA_PROTOCOL_PROPERTY(kUnmapped, strong, MutableArray, idsContained, setIdsContained)
   /// OrvantaHTTPMethodType and OrvantaRequestPathType.
   ORVANTA_PROPERTY(kUnmapped, assign, std::uint64_t, HTTPMethod, setHTTPMethod)
   ORVANTA_PROPERTY(kUnmapped, assign, std::uint64_t, path, setPath)
