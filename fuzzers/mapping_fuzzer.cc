@@ -1,0 +1,157 @@
+#include <string>
+
+#include "Events/OrvantaErrorEvent.h"
+#include "Events/OrvantaWebViewActionEvent.h"
+#include "Foundation/JSON.h"
+#include "Mapping/RefusalRecorder.h"
+#include "Push/OrvantaPushObject.h"
+#include "Requests/OrvantaEventRequest.h"
+#include "fuzzers/fuzzer.h"
+
+// The input's first line names a model class (any other text picks one), the rest is the JSON text
+// of a dictionary.
+
+namespace orvanta::fuzzing {
+
+namespace {
+
+const Class& pickedClass(std::string_view line) {
+  if (const Class* named = modelClassNamed(line)) return *named;
+  const auto classes = modelClasses();
+  std::size_t sum = 0;
+  for (const char c : line) sum += static_cast<unsigned char>(c);
+  return *classes[sum % classes.size()];
+}
+
+/// Whether a model that a value holds, at any depth, fits; dictionaries hold none.
+template <class Fits>
+bool anyModel(const Value& value, const Fits& fits) {
+  if (const Array* array = value.array()) {
+    for (const Value& element : *array) {
+      if (anyModel(element, fits)) return true;
+    }
+  }
+  const auto* model = value.as<OrvantaBaseModel>();
+  if (model == nullptr) return false;
+  if (fits(*model)) return true;
+  for (const Class* cls = &model->isa(); cls->parent() != nullptr; cls = cls->parent()) {
+    for (const Property& property : cls->properties) {
+      if (anyModel(property.valueIn(*model), fits)) return true;
+    }
+  }
+  return false;
+}
+
+/// Whether a scalar holds the marker of an integer that was not given, which is not written, and
+/// a new object of the class holds something else.
+bool holdsMarker(const OrvantaBaseModel& model) {
+  const auto fresh = makeModel(model.isa(), nullptr);
+  for (const Class* cls = &model.isa(); cls->parent() != nullptr; cls = cls->parent()) {
+    for (const Property& property : cls->properties) {
+      const bool isScalar = property.encoding == "q" || property.encoding == "Q";
+      if (isScalar && isUnsetInteger(property.valueIn(model)) &&
+          !isUnsetInteger(property.valueIn(*fresh))) {
+        return true;
+      }
+    }
+  }
+  return false;
+}
+
+/// Dotted keys are written flat, an error event reads nothing, and the marker is lost.
+bool isLostInWriting(const OrvantaBaseModel& model) {
+  return model.isKindOf(OrvantaPushObject::classObject()) ||
+         model.isKindOf(OrvantaErrorEvent::classObject()) || holdsMarker(model);
+}
+
+/// The free fields of a web view's event may name a class that the event is not of.
+bool isNamedFreely(const OrvantaBaseModel& model) {
+  return model.isKindOf(OrvantaWebViewActionEvent::classObject());
+}
+
+/// A model of a dictionary, nil when that is refused. Only push objects may throw, and one thing.
+Ref<OrvantaBaseModel> read(const Class& cls, const Dictionary& dictionary) {
+  const RefusalRecorder recorder;
+  Ref<OrvantaBaseModel> model;
+  try {
+    model = makeModel(cls, &dictionary);
+  } catch (const Exception& exception) {
+    require(cls.isSubclassOf(OrvantaPushObject::classObject()) &&
+                exception.name() == Exception::kUndefinedKey,
+            "only a push object's undefined key is thrown");
+  }
+  require(model || recorder.refusal().has_value(), "what refuses a dictionary tells why");
+  if (!model) require(!recorder.refusal()->description().empty(), "a reason has a text");
+  return model;
+}
+
+void requireReadBack(const OrvantaBaseModel& model, const Dictionary& written) {
+  const auto back = read(model.isa(), written);
+  require(bool(back), "what was written can be read");
+  require(Value(back->dictionaryValue()) == Value(written), "what was read is written the same");
+  const auto copy = model.copyWithZone();
+  require(copy && model.isEqual(copy) && copy->isEqual(Value(&model)), "a copy is equal");
+  require(copy->hash() == model.hash(), "a copy hashes alike");
+}
+
+void requireReadBackWithClasses(const OrvantaBaseModel& model) {
+  const Dictionary written = model.dictionaryValueWithClassInfo();
+  require(written["klazz"] == Value(model.isa().name), "an object names its class");
+  const auto back = read(model.isa(), written);
+  require(back && Value(back->dictionaryValueWithClassInfo()) == Value(written),
+          "what was read is written the same, with classes");
+}
+
+std::size_t eventCount(const OrvantaEventRequest& request) {
+  const Array* events = request.events().get();
+  return events != nullptr ? events->size() : 0;
+}
+
+/// Folds a request of the same dictionary into the first.
+void requireMerged(OrvantaEventRequest& first, const Dictionary& dictionary) {
+  const auto second = read(first.isa(), dictionary);
+  auto& other = *second.get();
+  auto& folded = static_cast<OrvantaEventRequest&>(other);
+  const std::size_t before = eventCount(first);
+  bool limitReached = false;
+  first.mergeEventsFromEventRequest(folded, limitReached);
+  require(eventCount(first) + eventCount(folded) == 2 * before, "no event is lost");
+  require(limitReached == (eventCount(first) == OrvantaEventRequest::kBatchLimit),
+          "a full batch is told");
+  first.requestSpec();
+  first.priority();
+}
+
+}  // namespace
+
+void mapping(std::string_view input) {
+  const std::size_t line = input.find('\n');
+  if (line == std::string_view::npos) return;
+  const Value parsed = parseJSON(input.substr(line + 1));
+  const Dictionary* dictionary = parsed.dictionary();
+  if (dictionary == nullptr) return;
+  const auto model = read(pickedClass(input.substr(0, line)), *dictionary);
+  if (!model) return;
+
+  const Value value(model);
+  const Dictionary written = model->dictionaryValue();
+  if (!anyModel(value, isLostInWriting)) {
+    requireReadBack(*model, written);
+    if (!anyModel(value, isNamedFreely)) requireReadBackWithClasses(*model);
+  }
+  require(model->isEqual(value) && model->hash() == written.hash(), "an object equals itself");
+  model->copyWithZone();
+  model->description();
+  model->debugDescription();
+  if (auto* request = value.as<OrvantaBaseRequest>()) {
+    const auto spec = request->requestSpec();
+    require(bool(spec), "a request has a spec");
+    spec->description();
+    request->priority();
+  }
+  if (auto* request = value.as<OrvantaEventRequest>()) requireMerged(*request, *dictionary);
+}
+
+}  // namespace orvanta::fuzzing
+
+ORVANTA_FUZZER(mapping)
