@@ -42,26 +42,32 @@ bool anyModel(const Value& value, const Fits& fits) {
   return false;
 }
 
-/// Whether a scalar holds the marker of an integer that was not given, which is not written, and
-/// a new object of the class holds something else.
-bool holdsMarker(const OrvantaBaseModel& model) {
+/// Whether a property's value is written as something else than what it was read from: the marker
+/// of an integer that was not given is left out, and a date may lose a millisecond, since it is
+/// kept in seconds and truncated.
+bool isLost(const Property& property, const OrvantaBaseModel& model,
+            const OrvantaBaseModel& fresh) {
+  const Value value = property.valueIn(model);
+  if (const auto date = value.date()) {
+    return Date::fromMilliseconds(date->milliseconds()).milliseconds() != date->milliseconds();
+  }
+  const bool isScalar = property.encoding == "q" || property.encoding == "Q";
+  return isScalar && isUnsetInteger(value) && !isUnsetInteger(property.valueIn(fresh));
+}
+
+/// Dotted keys are written flat, and an error event reads nothing.
+bool isLostInWriting(const OrvantaBaseModel& model) {
+  if (model.isKindOf(OrvantaPushObject::classObject()) ||
+      model.isKindOf(OrvantaErrorEvent::classObject())) {
+    return true;
+  }
   const auto fresh = makeModel(model.isa(), nullptr);
   for (const Class* cls = &model.isa(); cls->parent() != nullptr; cls = cls->parent()) {
     for (const Property& property : cls->properties) {
-      const bool isScalar = property.encoding == "q" || property.encoding == "Q";
-      if (isScalar && isUnsetInteger(property.valueIn(model)) &&
-          !isUnsetInteger(property.valueIn(*fresh))) {
-        return true;
-      }
+      if (isLost(property, model, *fresh)) return true;
     }
   }
   return false;
-}
-
-/// Dotted keys are written flat, an error event reads nothing, and the marker is lost.
-bool isLostInWriting(const OrvantaBaseModel& model) {
-  return model.isKindOf(OrvantaPushObject::classObject()) ||
-         model.isKindOf(OrvantaErrorEvent::classObject()) || holdsMarker(model);
 }
 
 /// The free fields of a web view's event may name a class that the event is not of.
@@ -110,8 +116,7 @@ std::size_t eventCount(const OrvantaEventRequest& request) {
 /// Folds a request of the same dictionary into the first.
 void requireMerged(OrvantaEventRequest& first, const Dictionary& dictionary) {
   const auto second = read(first.isa(), dictionary);
-  auto& other = *second.get();
-  auto& folded = static_cast<OrvantaEventRequest&>(other);
+  auto& folded = static_cast<OrvantaEventRequest&>(*second);
   const std::size_t before = eventCount(first);
   bool limitReached = false;
   first.mergeEventsFromEventRequest(folded, limitReached);

@@ -92,7 +92,7 @@ class Run {
   }
   /// The text up to a bar.
   std::string argument() {
-    const std::string text(script_.substr(0, script_.find('|')));
+    std::string text(script_.substr(0, script_.find('|')));
     script_.remove_prefix(std::min(text.size() + 1, script_.size()));
     return text;
   }

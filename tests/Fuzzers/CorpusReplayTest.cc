@@ -45,6 +45,7 @@ struct Target {
   std::string payloadLine;
   std::string eventLine;
 };
+void PrintTo(const Target& target, std::ostream* out) { *out << target.name; }
 
 class CorpusReplayTest : public ::testing::TestWithParam<Target> {
  protected:
