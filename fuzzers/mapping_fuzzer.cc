@@ -1,11 +1,13 @@
 #include <string>
 
 #include "Events/OrvantaErrorEvent.h"
+#include "Events/OrvantaPushOpenedEvent.h"
 #include "Events/OrvantaWebViewActionEvent.h"
 #include "Foundation/JSON.h"
 #include "Mapping/RefusalRecorder.h"
 #include "Push/OrvantaPushObject.h"
 #include "Requests/OrvantaEventRequest.h"
+#include "Responses/OrvantaInboxCountResponse.h"
 #include "fuzzers/fuzzer.h"
 
 // The input's first line names a model class (any other text picks one), the rest is the JSON text
@@ -127,6 +129,21 @@ void requireMerged(OrvantaEventRequest& first, const Dictionary& dictionary) {
   first.priority();
 }
 
+/// What some classes do with what they hold.
+void use(const Value& value) {
+  if (const auto* request = value.as<OrvantaBaseRequest>()) {
+    const auto spec = request->requestSpec();
+    require(bool(spec), "a request has a spec");
+    spec->description();
+    request->priority();
+  }
+  if (auto* push = value.as<OrvantaPushObject>()) {
+    push->setInteractiveActionIdentifier("a");
+    OrvantaPushOpenedEvent::eventWithPushObject(push)->dictionaryValue();
+  }
+  if (const auto* counts = value.as<OrvantaInboxCountResponse>()) counts->countForStatus(7);
+}
+
 }  // namespace
 
 void mapping(std::string_view input) {
@@ -148,12 +165,7 @@ void mapping(std::string_view input) {
   model->copyWithZone();
   model->description();
   model->debugDescription();
-  if (auto* request = value.as<OrvantaBaseRequest>()) {
-    const auto spec = request->requestSpec();
-    require(bool(spec), "a request has a spec");
-    spec->description();
-    request->priority();
-  }
+  use(value);
   if (auto* request = value.as<OrvantaEventRequest>()) requireMerged(*request, *dictionary);
 }
 
