@@ -56,7 +56,7 @@ std::vector<SystemCalls::InterfaceAddress> readInterfaces(const Value& value) {
   for (const Value& element : *value.array()) {
     if (element.dictionary() == nullptr || !element.dictionary()->contains("name")) refuse(needed);
     SystemCalls::InterfaceAddress address{.name = {}, .family = kIPv4};
-    readAll(*element.dictionary(), "interfaces.",
+    readAll(*element.dictionary(), "interfaces[" + std::to_string(addresses.size()) + "].",
             {{"name", [&](const Value& v) { address.name = text(v); }},
              {"ipv4", [&](const Value& v) { address.family = flag(v) ? kIPv4 : kIPv6; }}});
     addresses.push_back(std::move(address));

@@ -1,7 +1,10 @@
+#include <algorithm>
 #include <ostream>
 
 #include "Commands.h"
+#include "Events/OrvantaEvent.h"
 #include "Foundation/JSON.h"
+#include "Input.h"
 #include "Lines.h"
 #include "Requests/OrvantaEventRequest.h"
 #include "Text.h"
@@ -13,6 +16,17 @@ namespace {
 std::size_t eventCount(const OrvantaEventRequest& request) {
   const Array* events = request.events().get();
   return events != nullptr ? events->size() : 0;
+}
+
+/// A value in a message.
+std::string shown(const Value& value) {
+  constexpr std::size_t kLongest = 80;
+  std::string text;
+  const bool isScalar = value.array() == nullptr && value.dictionary() == nullptr;
+  if (!isScalar || !writeJSON(value, text, {.escapeSlashes = false})) {
+    return value.isNil() ? "missing" : std::string(value.kindName());
+  }
+  return text.size() > kLongest ? text.substr(0, kLongest) + "…" : text;
 }
 
 /// The request of a line, or why there is none.
@@ -36,17 +50,40 @@ Ref<OrvantaEventRequest> restored(const Lines& line, std::string& reason) {
   }
   const Value& klazz = (*dictionary)["klazz"];
   if (!klazz.isNil() && klazz != Value(cls.name)) {
-    return refuse("\"klazz\" is not \"" + std::string(cls.name) + "\"");
+    return refuse("\"klazz\" is " + shown(klazz) + ", not " + std::string(cls.name));
   }
   const RefusalRecorder recorder;
   auto request = make<OrvantaEventRequest>(*dictionary);
   if (!request) return refuse(refusalText(recorder, cls));
-  if (eventCount(*request) == 0) return refuse("\"events\" holds no event");
+  if (eventCount(*request) == 0) {
+    const Value& events = (*dictionary)["events"];
+    return refuse("\"events\" is " + (events.array() != nullptr ? "empty" : shown(events)) +
+                  ", not an array of events");
+  }
   if (!isValidJSONObject(request->dictionaryValue())) {
     return refuse("it holds a number without a JSON text, such as an infinite one");
   }
   request->setStorageId(line.number());
   return request;
+}
+
+/// Tells what is taken as it stands, but may be meant in another way.
+void warn(const Lines& line, const OrvantaEventRequest& request, std::ostream& err) {
+  const auto tell = [&](const std::string& text) {
+    err << "orvanta: " << line.place() << ": warning: " << text << '\n';
+  };
+  if (const std::string duplicate = duplicateKeyWarning(line.text()); !duplicate.empty()) {
+    tell(duplicate);
+  }
+  const Array& events = *request.events().get();
+  const auto strangers = std::count_if(events.begin(), events.end(), [](const Value& element) {
+    return element.as<OrvantaEvent>() == nullptr;
+  });
+  if (strangers != 0) {
+    tell(std::to_string(strangers) +
+         " of \"events\" name no event class under \"klazz\": they are sent as they stand, under "
+         "the identifiers of the batch");
+  }
 }
 
 /// Folds requests into the leading one, and prints it when it is full.
@@ -87,6 +124,7 @@ class Folding {
                            {"spec", specDictionary(*leader_->requestSpec())}};
     leader_ = nullptr;
     printJSON(batch, out_, /*pretty=*/false);
+    out_.flush();  // whoever follows a growing file waits for it
   }
 
   std::ostream& out_;
@@ -103,6 +141,7 @@ ExitCode batch(const BatchOptions& options, const Streams& streams) {
     if (lines.text().find_first_not_of(" \t") == std::string::npos) continue;
     std::string reason;
     if (auto request = restored(lines, reason)) {
+      warn(lines, *request, streams.err);
       folding.take(std::move(request));
     } else {
       streams.err << "orvanta: " << lines.place() << ": " << printable(reason) << '\n';

@@ -55,6 +55,13 @@ struct BatchOptions {
 };
 ExitCode batch(const BatchOptions& options, const Streams& streams);
 
+struct ReplayOptions {
+  std::string file = "-";
+  bool json = false;
+  std::uint64_t jobs = 1;
+};
+ExitCode replay(const ReplayOptions& options, const Streams& streams);
+
 struct IdentifierOptions {
   std::uint64_t count = 1;
   std::optional<std::string> decode;  // none: make identifiers
@@ -71,6 +78,9 @@ const Class& classForArgument(const std::string& name);
 
 /// Why a model of the class refused its dictionary, for a message.
 std::string refusalText(const RefusalRecorder& recorder, const Class& cls);
+
+/// Throws Failure that names the first entry of a model's dictionary that has no JSON text.
+void checkWritable(const Dictionary& dictionary, const Class& cls);
 
 /// A spec as a dictionary, with null for what is not set.
 Dictionary specDictionary(const OrvantaRequestSpec& spec);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 
@@ -60,6 +61,20 @@ void warnOfDuplicates(const Input& input, std::ostream& err) {
 }
 
 }  // namespace
+
+void checkReadable(const std::string& file) {
+  std::error_code ignored;
+  if (access(file.c_str(), R_OK) != 0 || std::filesystem::is_directory(file, ignored)) {
+    openForReading(file);  // tells the reason
+  }
+}
+
+std::string duplicateKeyWarning(const std::string& text) {
+  const std::vector<DuplicateKey> duplicates = findDuplicateKeys(text);
+  if (duplicates.empty()) return {};
+  return "the key \"" + printable(duplicates.front().key) +
+         "\" stands twice; its last value counts";
+}
 
 std::ifstream openForReading(const std::string& file) {
   errno = 0;

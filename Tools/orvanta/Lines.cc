@@ -1,6 +1,7 @@
 #include "Lines.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "Input.h"
 #include "Text.h"
@@ -13,7 +14,7 @@ Lines::Lines(std::vector<std::string> files, const Streams& streams)
     throw Failure(ExitCode::usage, "standard input can be read only once");
   }
   for (const std::string& file : files_) {
-    if (file != "-") openForReading(file);  // better now than half way
+    if (file != "-") checkReadable(file);  // better now than half way
   }
 }
 
@@ -30,27 +31,32 @@ bool Lines::next() {
       isInFile_ = true;
       lineInFile_ = 0;
     }
-    if (readLine(files_[opened_ - 1] == "-" ? standardIn_ : file_)) {
-      ++lineInFile_;
-      ++number_;
-      return true;
+    ++lineInFile_;
+    ++number_;
+    try {
+      if (readLine(files_[opened_ - 1] == "-" ? standardIn_ : file_)) return true;
+    } catch (const std::ios_base::failure&) {
+      throw Failure(ExitCode::unreadable, place() + ": reading failed");
     }
+    --number_;
     isInFile_ = false;
   }
 }
 
 bool Lines::readLine(std::istream& in) {
-  text_.clear();
-  isTooLong_ = false;
-  std::streambuf& buffer = *in.rdbuf();
-  constexpr int kEnd = std::char_traits<char>::eof();
-  int next = buffer.sbumpc();
-  if (next == kEnd) return false;
-  for (; next != kEnd && next != '\n'; next = buffer.sbumpc()) {
-    isTooLong_ = text_.size() == kLongestLine;
-    if (!isTooLong_) text_ += static_cast<char>(next);
+  in.getline(buffer_.data(), static_cast<std::streamsize>(buffer_.size()));
+  auto length = static_cast<std::size_t>(in.gcount());
+  if (in.bad()) throw Failure(ExitCode::unreadable, place() + ": reading failed");
+  if (length == 0 && !in) return false;
+  isTooLong_ = in.fail();
+  if (isTooLong_) {
+    in.clear();
+    in.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+  } else if (!in.eof()) {
+    --length;  // the line end counts
   }
-  if (!text_.empty() && text_.back() == '\r') text_.pop_back();
+  if (length != 0 && buffer_[length - 1] == '\r') --length;
+  text_.assign(buffer_.data(), length);
   return true;
 }
 

@@ -13,7 +13,7 @@ namespace orvanta::tool {
 /// that of the longest line, up to kLongestLine.
 class Lines {
  public:
-  static constexpr std::size_t kLongestLine = std::size_t{16} << 20U;
+  static constexpr std::size_t kLongestLine = std::size_t{256} << 10U;
 
   /// Throws Failure when one of the files cannot be read, or standard input is named twice.
   Lines(std::vector<std::string> files, const Streams& streams);
@@ -29,6 +29,7 @@ class Lines {
   std::string place() const;
 
  private:
+  /// False at the end of the stream.
   bool readLine(std::istream& in);
 
   std::vector<std::string> files_;
@@ -38,6 +39,7 @@ class Lines {
   bool isInFile_ = false;
   std::uint64_t lineInFile_ = 0;
   std::uint64_t number_ = 0;
+  std::vector<char> buffer_ = std::vector<char>(kLongestLine + 1);
   std::string text_;
   bool isTooLong_ = false;
 };

@@ -26,6 +26,16 @@ std::string refusalText(const RefusalRecorder& recorder, const Class& cls) {
                             : std::string(cls.name) + " refused without a reason";
 }
 
+void checkWritable(const Dictionary& dictionary, const Class& cls) {
+  for (const Dictionary::Entry& entry : dictionary) {
+    if (!isValidJSONObject(Array{entry.value})) {
+      throw Failure(ExitCode::notMade, std::string(cls.name) + " \"" + printable(entry.key()) +
+                                           "\": " + std::string(entry.value.kindName()) +
+                                           " without a JSON text, such as an infinite number");
+    }
+  }
+}
+
 namespace {
 
 /// What an update answered, or that an error left it.
@@ -74,13 +84,7 @@ ExitCode model(const ModelOptions& options, const Streams& streams) {
     if (updated == Outcome::thrown) return ExitCode::notMade;
   }
   const Dictionary result = object->dictionaryValueWithPolicy(options.classInfo);
-  for (const Dictionary::Entry& entry : result) {
-    if (!isValidJSONObject(Array{entry.value})) {
-      throw Failure(ExitCode::notMade, std::string(cls.name) + " \"" + printable(entry.key()) +
-                                           "\": " + std::string(entry.value.kindName()) +
-                                           " without a JSON text, such as an infinite number");
-    }
-  }
+  checkWritable(result, cls);
   printJSON(result, streams.out, options.pretty);
   return ExitCode::done;
 }

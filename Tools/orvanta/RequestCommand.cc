@@ -35,6 +35,7 @@ ExitCode request(const RequestOptions& options, const Streams& streams) {
     for (std::string line; std::getline(lines, line);) streams.out << printable(line) << '\n';
     return ExitCode::done;
   }
+  checkWritable(spec->HTTPBody, cls);
   Dictionary call = specDictionary(*spec);
   const auto priority = request->priority();
   call.set("priority", priority ? Value(*priority) : Value::null());

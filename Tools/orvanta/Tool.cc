@@ -18,7 +18,7 @@ namespace {
 constexpr const char* kFooter =
     "Exit codes of all commands:\n"
     "  0  done\n"
-    "  1  an object could not be made, or there are findings\n"
+    "  1  an object could not be made, or lines were left out\n"
     "  2  wrong usage\n"
     "  3  input that cannot be read, or is no JSON object\n"
     "  4  an internal error\n"
@@ -33,6 +33,7 @@ constexpr const char* kFooter =
     "  orvanta schema OrvantaPushObject\n"
     "  orvanta request OrvantaFetchInboxRequest request.json\n"
     "  orvanta batch examples/events/stored.jsonl\n"
+    "  orvanta replay recorded.jsonl --jobs 2\n"
     "  orvanta device --all --device examples/devices/old-phone.json\n"
     "  orvanta identifier -n 3";
 
@@ -139,8 +140,21 @@ CLI::App* addBatch(CLI::App& app, BatchOptions& options) {
       "Fold stored event requests into batches of up to 100 events, as they would be sent, and "
       "print one JSON line per batch. A line of input is one OrvantaEventRequest with its class "
       "info; its number over all files is its storage id. A request that holds more events goes "
-      "alone.");
+      "alone; one without events is left out.");
   command->add_option("FILE", options.files, "JSON lines (standard input)");
+  return command;
+}
+
+CLI::App* addReplay(CLI::App& app, ReplayOptions& options) {
+  CLI::App* command = app.add_subcommand(
+      "replay",
+      "Run recorded payloads, one JSON object a line, through the notification service on a device "
+      "where everything goes well and nothing is fetched, and count what came of them.");
+  command->add_option("FILE", options.file, "JSON lines")->capture_default_str();
+  command->add_flag("--json", options.json, "Print JSON");
+  command->add_option("--jobs", options.jobs, "Run on that many threads (1)")
+      ->option_text("N")
+      ->check(CLI::Range(1, 256));
   return command;
 }
 
@@ -205,7 +219,7 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
       command(app, addNotify, notify), command(app, addModel, model),
       command(app, addSchema, schema), command(app, addRequest, request),
       command(app, addBatch, batch),   command(app, addIdentifier, identifier),
-      command(app, addDevice, device),
+      command(app, addReplay, replay), command(app, addDevice, device),
   };
   for (const Command& each : commands) {
     each.parser->fallthrough();

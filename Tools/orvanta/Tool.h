@@ -9,7 +9,7 @@ namespace orvanta::tool {
 /// The exit codes of all commands.
 enum class ExitCode : int {
   done = 0,
-  notMade = 1,     // an object could not be made, or there are findings
+  notMade = 1,     // an object could not be made, or lines were left out
   usage = 2,       // wrong arguments
   unreadable = 3,  // input that cannot be read, or is no JSON object
   internal = 4,

@@ -77,12 +77,6 @@ constexpr Note kNotes[] = {
     {"OrvantaPurchaseEvent", "Read from a dictionary, `items` are dictionaries still."},
     {"OrvantaEventRequest",
      "`events` are events again when each names its class under `klazz`, dictionaries otherwise."},
-    {"OrvantaFetchInboxRequest", "The keys of `filter` stand in the request's own dictionary."},
-    {"OrvantaFetchInboxCategoryRequest",
-     "The keys of `filter` stand in the request's own dictionary."},
-    {"OrvantaFetchInboxCountRequest",
-     "The keys of `filter` stand in the request's own dictionary."},
-    {"OrvantaFetchCouponRequest", "The keys of `filter` stand in the request's own dictionary."},
 };
 
 std::string link(std::string_view className) {
@@ -131,6 +125,9 @@ void printClass(const Class& cls, std::ostream& out) {
   const KeyTable keys = cls.keyPathPropertySelectorMapping;
   for (const Note& note : kNotes) {
     if (note.className == cls.name) out << "\n" << note.words << "\n";
+  }
+  if (cls.property("filter") != nullptr) {
+    out << "\nThe keys of `filter` stand in the request's own dictionary, over its entries.\n";
   }
   if (keys.empty() && cls.properties.empty()) return;
   out << "\n| Key | Property | Type | |\n|---|---|---|---|\n";

@@ -1,5 +1,11 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <algorithm>
+#include <fstream>
+#include <thread>
+
+#include "support/TemporaryFolder.h"
 #include "support/ToolRunner.h"
 #include "support/Values.h"
 
@@ -62,10 +68,32 @@ TEST(BatchCommand, NamesTheLinesThatItLeavesOut) {
   EXPECT_NE(run.out.find(R"({"storageId":1,"idsContained":[9],"events":2,)"), std::string::npos)
       << run.out;
   for (const std::string_view line :
-       {":2: column 2", ":4: the line is an array", ":5: \"events\"", ":6: \"klazz\"",
-        ":7: OrvantaEventRequest", ":8: it holds", "6 lines were left out"}) {
+       {":2: column 2", ":4: the line is an array", ":5: \"events\" is empty",
+        ":6: \"klazz\" is \"OrvantaUser\"", ":7: OrvantaEventRequest", ":8: it holds",
+        "6 lines were left out"}) {
     EXPECT_NE(run.err.find(line), std::string::npos) << line << "\n" << run.err;
   }
+}
+
+TEST(BatchCommand, LosesNothingOfAPipe) {
+  const TemporaryFolder folder;
+  const std::string pipe = (folder.path() / "pipe").string();
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  const std::string example = std::string(ORVANTA_SOURCE_DIR) + "/examples/events/stored.jsonl";
+  std::thread writer([&] { std::ofstream(pipe) << std::ifstream(example).rdbuf(); });
+  const ToolRun run = runTool({"batch", pipe});
+  writer.join();
+  EXPECT_EQ(run.exit, ExitCode::done);
+  EXPECT_EQ(run.out, runTool({"batch", example}).out);
+  EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '\n'), 3);
+}
+
+TEST(BatchCommand, WarnsOfWhatItTakesAsItStands) {
+  const ToolRun run = runTool({"batch"}, R"({"events":[{}],"events":[{"code":"o:oa"}]})");
+  EXPECT_EQ(run.exit, ExitCode::done);
+  EXPECT_NE(run.err.find("standard input:1: warning: the key \"events\" stands twice"),
+            std::string::npos);
+  EXPECT_NE(run.err.find("1 of \"events\" name no event class"), std::string::npos);
 }
 
 TEST(RequestCommand, PrintsTheCallOfARequest) {

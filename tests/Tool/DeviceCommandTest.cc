@@ -37,7 +37,7 @@ TEST(DeviceCommand, NamesTheKeyAndTheValueOfAProfileThatIsWrong) {
       {R"({"screen":{"width":1}})",
        R"("screen" is {"width":1}, but width, height and scale are needed)"},
       {R"({"interfaces":[{"name":"en0","ipv4":1}]})",
-       R"("interfaces.ipv4" is 1, but true or false is needed)"},
+       R"("interfaces[0].ipv4" is 1, but true or false is needed)"},
   };
   for (const auto& [profile, told] : rows) {
     const ToolRun run = runTool({"device", "--device", "-"}, profile);

@@ -71,6 +71,28 @@ TEST(SchemaCommand, TellsEventsFromOtherClasses) {
   EXPECT_TRUE(entryOf("OrvantaProduct")["eventKey"].isNil());
 }
 
+TEST(SchemaCommand, TellsTheEndpointsOfRequests) {
+  const Value whole = parsed(runTool({"schema", "--json"}).out);
+  EXPECT_EQ((*whole.dictionary())["endpoints"].array()->size(), 21U);
+  EXPECT_EQ((*(*whole.dictionary())["endpoints"].array())[2],
+            parsed(R"({"code":3,"path":"/event/fire","class":"OrvantaEventRequest"})"));
+  EXPECT_EQ((*(*whole.dictionary())["methods"].array())[1], parsed(R"({"code":1,"method":"GET"})"));
+  const std::pair<const char*, Value> priorities[] = {
+      {"OrvantaBaseRequest", Value::null()},
+      {"OrvantaAddTestDeviceRequest", Value::null()},
+      {"OrvantaEventRequest", Value::null()},
+      {"OrvantaFetchCouponRequest", 1}};
+  for (const auto& [name, priority] : priorities) {
+    EXPECT_EQ(entryOf(name)["priority"], priority) << name;
+  }
+  EXPECT_EQ(entryOf("OrvantaBaseRequest")["request"],
+            parsed(R"({"code":0,"path":null,"method":"POST",)"
+                   R"("responseClass":"OrvantaBaseResponseModel"})"));
+  EXPECT_EQ(entryOf("OrvantaFetchCouponRequest")["request"],
+            parsed(R"({"code":21,"path":"/coupon/fetch","method":"POST",)"
+                   R"("responseClass":"OrvantaFetchCouponResponse"})"));
+}
+
 TEST(SchemaCommand, MarkdownIsTheDocumentedWireFormat) {
   std::stringstream document;
   document << std::ifstream(std::string(ORVANTA_SOURCE_DIR) + "/docs/wire-format.md").rdbuf();

@@ -24,7 +24,8 @@ class OrvantaEventRequest : public OrvantaBaseRequest {
 
   /// Moves the first events of the other request behind this one's, as many as the batch limit
   /// leaves room for; with more than that here already, all of them. A moved event without
-  /// identifiers gets the other request's, the same object. The other's storage id is added to the
+  /// identifiers gets the other request's, the same object: a spec of this one strips that too, so
+  /// give the other a copy first if it goes on. The other's storage id is added to the
   /// ids contained in any case. `limitReached` tells whether there are now exactly kBatchLimit.
   void mergeEventsFromEventRequest(OrvantaEventRequest& other, bool& limitReached);
 

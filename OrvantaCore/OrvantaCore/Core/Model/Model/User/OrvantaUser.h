@@ -30,7 +30,7 @@ class OrvantaUser : public OrvantaBaseModel {
   ORVANTA_PROPERTY("pn", copy, String, favouriteTeam, setFavouriteTeam)
   ORVANTA_PROPERTY("pc", copy, Array, externalSegments, setExternalSegments)
 
-  /// Marks the three codes and counts as not given, then reads.
+  /// Marks the two codes and the count as not given, then reads.
   bool updateWithDictionary(const Dictionary* dictionary) override;
 };
 

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <memory>
+
+#include "Platform/Interface/Images.h"
+#include "Platform/Interface/Intents.h"
+#include "Platform/Interface/NSBundle.h"
+#include "Platform/Interface/NSFileManager.h"
+#include "Platform/Interface/NSURLSession.h"
+#include "Platform/Interface/Platform.h"
+#include "Platform/Interface/TypeIdentifiers.h"
+#include "Platform/Interface/UserNotifications.h"
+
+namespace orvanta {
+
+/// A platform on which everything goes well at once and nothing leaves the memory, for running
+/// many notifications: every download is a small JPEG picture, every sender's picture exists, and
+/// what is registered or donated is forgotten. Callbacks wait until `runAll`. For one thread.
+class ReplayPlatform final : public Platform {
+ public:
+  ReplayPlatform();
+  ~ReplayPlatform() override;
+
+  /// Runs what waits, until nothing does.
+  void runAll();
+
+  std::shared_ptr<UNUserNotificationCenter> currentNotificationCenter() override;
+  NSURLSession* sharedSession() override;
+  NSFileManager* defaultManager() override;
+  TypeIdentifiers* typeIdentifiers() override;
+  UNNotificationAttachmentFactory* attachments() override;
+  Images* images() override;
+  Intents* intents() override;
+  NSBundle* mainBundle() override;
+  OperatingSystemVersion operatingSystemVersion() override { return {17, 0, 0}; }
+
+ private:
+  struct Services;
+  std::unique_ptr<Services> services_;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,116 @@
+#include "Replay.h"
+
+#include <cmath>
+
+#include "Foundation/Exception.h"
+#include "Foundation/JSON.h"
+#include "Mapping/RefusalRecorder.h"
+#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
+#include "Platform/Linux/RemoteNotification.h"
+#include "Text.h"
+
+namespace orvanta::tool {
+
+namespace {
+
+constexpr std::size_t kMostBadLines = 10;
+constexpr std::size_t kMostKeys = 1000;  // "klazz" entries can nest in more ways than these
+
+/// The way to the key that refused.
+std::string keyOf(const RefusalRecorder& recorder) {
+  std::string key;
+  if (!recorder.refusal()) return key;
+  for (const Refusal::Step& step : recorder.refusal()->steps) {
+    if (step.keyPath.empty()) continue;
+    key.append(key.empty() ? "" : " > ").append(step.keyPath);
+  }
+  return key;
+}
+
+}  // namespace
+
+void ReplayCounts::add(const ReplayCounts& other) {
+  payloads += other.payloads;
+  deliveries += other.deliveries;
+  plain += other.plain;
+  buttons += other.buttons;
+  media += other.media;
+  icon += other.icon;
+  undefinedKey += other.undefinedKey;
+  refused += other.refused;
+  for (const auto& [key, count] : other.refusedBy) refusedBy[key] += count;
+  badLines += other.badLines;
+  firstBadLines.insert(other.firstBadLines.begin(), other.firstBadLines.end());
+  while (firstBadLines.size() > kMostBadLines) firstBadLines.erase(std::prev(firstBadLines.end()));
+  for (std::size_t i = 0; i < sizes.size(); ++i) sizes[i] += other.sizes[i];
+}
+
+std::uint64_t ReplayCounts::sizeAt(double share) const {
+  const auto wanted = static_cast<std::uint64_t>(std::ceil(share * static_cast<double>(payloads)));
+  std::uint64_t seen = 0;
+  for (std::size_t size = 0; size < sizes.size(); ++size) {
+    seen += sizes[size];
+    if (seen != 0 && seen >= wanted) return size;
+  }
+  return 0;
+}
+
+void Replay::refuse(const ReplayLine& line, const std::string& reason) {
+  ++counts_.badLines;
+  // A job sees its lines in their order, so its first ten hold all that can be among the first.
+  if (counts_.firstBadLines.size() < kMostBadLines) {
+    counts_.firstBadLines.emplace(line.number, line.place + ": " + printable(reason));
+  }
+}
+
+void Replay::run(const ReplayLine& line) {
+  if (line.isTooLong) {
+    return refuse(line, "more than " + std::to_string(Lines::kLongestLine) + " bytes");
+  }
+  JSONError error;
+  const Value value = parseJSON(line.text, &error);
+  const Dictionary* payload = value.dictionary();
+  if (value.isNil()) {
+    return refuse(line,
+                  "column " + std::to_string(error.offset + 1) + ": " + std::string(error.reason));
+  }
+  if (payload == nullptr) return refuse(line, "is " + std::string(value.kindName()));
+  ++counts_.payloads;
+  ++counts_.sizes[line.text.size()];
+
+  const PlatformOverride override(platform_);
+  RefusalRecorder recorder;
+  Ref<OrvantaPushObject> push;
+  try {
+    push = make<OrvantaPushObject>(*payload);
+    if (!push) {
+      ++counts_.refused;
+      const std::string key = keyOf(recorder);
+      const bool isNew = !counts_.refusedBy.contains(key);
+      ++counts_.refusedBy[isNew && counts_.refusedBy.size() >= kMostKeys ? "other keys" : key];
+    }
+  } catch (const Exception&) {
+    ++counts_.undefinedKey;
+  }
+  if (push) {
+    const bool hasButtons = bool(interactiveCategory(*push));
+    const bool hasMedia = push->mediaAttachmentURL().get() != nullptr;
+    const bool hasIcon = pushIcon(*push).has_value();
+    counts_.buttons += hasButtons ? 1 : 0;
+    counts_.media += hasMedia ? 1 : 0;
+    counts_.icon += hasIcon ? 1 : 0;
+    counts_.plain += hasButtons || hasMedia || hasIcon ? 0 : 1;
+  }
+
+  const auto extension = std::make_shared<OrvantaNotificationServiceExtension>();
+  extension->didReceiveNotificationRequest(
+      {.identifier = "replay",
+       .content = std::make_shared<const UNNotificationContent>(
+           contentForPayload(*payload, *platform_.mainBundle()))},
+      [this](const std::shared_ptr<const UNNotificationContent>& /*content*/) {
+        ++counts_.deliveries;
+      });
+  platform_.runAll();
+}
+
+}  // namespace orvanta::tool
