@@ -53,8 +53,8 @@ bool isLost(const Property& property, const OrvantaBaseModel& model,
   if (const auto date = value.date()) {
     return Date::fromMilliseconds(date->milliseconds()).milliseconds() != date->milliseconds();
   }
-  const bool isScalar = property.encoding == "q" || property.encoding == "Q";
-  return isScalar && isUnsetInteger(value) && !isUnsetInteger(property.valueIn(fresh));
+  const Value initial = property.valueIn(fresh);
+  return isUnsetInteger(value) && !isUnsetInteger(initial) && !initial.isNil();
 }
 
 /// Dotted keys are written flat, and an error event reads nothing.
