@@ -34,6 +34,7 @@ char32_t takeCharacter(std::string_view& text) {
 
 class Describer {
  public:
+  explicit Describer(std::size_t limit) : limit_(limit) {}
   std::string take() { return std::move(out_); }
 
   void describe(const Value& value) {
@@ -41,6 +42,8 @@ class Describer {
       describe(*dictionary);
     } else if (const Array* array = value.array()) {
       describe(*array);
+    } else if (const auto text = value.string()) {
+      quote(*text);
     } else {
       quote(orvanta::describe(value));
     }
@@ -55,6 +58,7 @@ class Describer {
               [](const auto* a, const auto* b) { return a->key() < b->key(); });
     open('{');
     for (const Dictionary::Entry* entry : entries) {
+      if (isFull()) return;
       indent();
       quote(entry->key());
       out_ += " = ";
@@ -67,6 +71,7 @@ class Describer {
   void describe(const Array& array) {
     open('(');
     for (const Value& element : array) {
+      if (isFull()) return;
       indent();
       nested(element);
       out_ += &element + 1 == array.end() ? "\n" : ",\n";
@@ -79,12 +84,14 @@ class Describer {
     describe(value);
   }
 
+  bool isFull() const { return out_.size() > limit_; }
   void open(char bracket) {
     out_ += bracket;
     out_ += '\n';
     ++level_;
   }
   void close(char bracket) {
+    if (isFull()) return;
     --level_;
     indent();
     out_ += bracket;
@@ -98,7 +105,7 @@ class Describer {
       return;
     }
     out_ += '"';
-    while (!text.empty()) escape(takeCharacter(text));
+    while (!text.empty() && !isFull()) escape(takeCharacter(text));
     out_ += '"';
   }
 
@@ -125,13 +132,14 @@ class Describer {
   }
   static char digit(char32_t value) { return "0123456789abcdef"[value]; }
 
+  std::size_t limit_;
   std::string out_;
   std::size_t level_ = 0;
 };
 
 }  // namespace
 
-std::string describe(const Value& value) {
+std::string describe(const Value& value, std::size_t limit) {
   switch (value.kind()) {
     case Kind::nil:
       return "(null)";
@@ -157,7 +165,7 @@ std::string describe(const Value& value) {
     case Kind::dictionary:
       break;
   }
-  Describer describer;
+  Describer describer(limit);
   describer.describe(value);
   return describer.take();
 }

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <cstddef>
+#include <initializer_list>
+#include <limits>
 #include <string>
+#include <string_view>
 
 #include "Foundation/Value.h"
 
@@ -14,7 +18,12 @@ namespace orvanta {
 ///             title = "Hello!";
 ///         };
 ///     }
-std::string describe(const Value& value);
+///
+/// Of a collection, what lies beyond `limit` bytes is not made: the text is longer than the limit
+/// then, by little, and ends anywhere. Indentation makes the whole text of a deep one far longer
+/// than its JSON.
+std::string describe(const Value& value,
+                     std::size_t limit = std::numeric_limits<std::size_t>::max());
 
 /// Replaces each "%@" of a format, in order, by the arguments' texts; there are as many.
 std::string formatted(std::string_view format, std::initializer_list<std::string_view> arguments);

@@ -144,10 +144,11 @@ class UpdateScope {
   inline static thread_local std::size_t updates_ = 0;
 };
 
-/// A text for the log, which a hostile payload would otherwise fill: nested models that fail each
-/// write the whole of theirs.
-std::string shortened(std::string text) {
+/// A dictionary for the log, which a hostile payload would otherwise fill: nested models that fail
+/// each write the whole of theirs.
+std::string shortened(const Dictionary& dictionary) {
   constexpr std::size_t kLongest = 65536;
+  std::string text = describe(dictionary, kLongest);
   if (text.size() > kLongest) text.replace(kLongest, std::string::npos, " …");
   return text;
 }
@@ -175,7 +176,7 @@ bool OrvantaBaseModel::updateWithDictionary(const Dictionary* dictionary) {
     if (error.data() != nullptr) {
       logError(kUpdateFailed, [&] {
         return formatted("*** Caught exception deserializing dictionary '%@' to class '%@' : %@",
-                         {shortened(describe(payload)), isa().name, error});
+                         {shortened(payload), isa().name, error});
       });
     }
     return false;
