@@ -76,7 +76,7 @@ TEST(Description, AWideCollectionInADeepOneIsMadeUpToTheLimit) {
     const std::string text = describe(value, limit);
     EXPECT_GT(text.size(), limit);
     EXPECT_LT(text.size(), limit + 4096);
-    EXPECT_TRUE(whole.starts_with(text));
+    EXPECT_TRUE(whole.starts_with(text.substr(0, limit)));
   }
   EXPECT_EQ(describe(value, whole.size()), whole);
   EXPECT_EQ(describe(Array{std::string(100, '-')}, 10), "(\n    \"----\"\n");

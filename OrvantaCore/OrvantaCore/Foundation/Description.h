@@ -19,9 +19,9 @@ namespace orvanta {
 ///         };
 ///     }
 ///
-/// Of a collection, what lies beyond `limit` bytes is not made: the text is longer than the limit
-/// then, by little, and ends anywhere. Indentation makes the whole text of a deep one far longer
-/// than its JSON.
+/// Of a collection, what lies beyond `limit` bytes is not made: the text is then longer than the
+/// limit, by little, and its first `limit` bytes are those of the whole. Indentation makes the
+/// whole text of a deep one far longer than its JSON.
 std::string describe(const Value& value,
                      std::size_t limit = std::numeric_limits<std::size_t>::max());
 
