@@ -1,9 +1,9 @@
 #include "OrvantaNotificationServiceExtension/NotificationHelper.h"
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
+#include "Foundation/Number.h"
 #include "Notifications/OrvantaUserNotificationCategory.h"
 #include "Platform/Interface/NSBundle.h"
 #include "Platform/Interface/Platform.h"
@@ -43,14 +43,13 @@ void NotificationHelper::setNotificationCategories(
   center->getNotificationCategories(
       [categories, center, completion](const UNNotificationCategorySet& registered) {
         std::vector<UNNotificationCategory> merged;
+        Dictionary places;  // by identifier, where it stands in the merged ones
         const auto enter = [&](const UNNotificationCategory& category) {
-          const auto same = std::find_if(merged.begin(), merged.end(), [&](const auto& present) {
-            return present.identifier == category.identifier;
-          });
-          if (same == merged.end()) {
-            merged.push_back(category);
+          if (const auto place = places[category.identifier].number()) {
+            merged[place->unsignedLongLongValue()] = category;
           } else {
-            *same = category;
+            places.set(category.identifier, merged.size());
+            merged.push_back(category);
           }
         };
         for (const UNNotificationCategory& category : registered) enter(category);

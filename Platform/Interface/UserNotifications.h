@@ -193,13 +193,13 @@ struct UNNotificationCategory {
 };
 
 /// A set of categories in the order of insertion; equal ones stand in it once, but it may hold
-/// several of one identifier.
+/// several of one identifier. Inserting takes time by the category's own size only.
 class UNNotificationCategorySet {
  public:
   void insert(UNNotificationCategory category) {
-    for (const UNNotificationCategory& present : categories_) {
-      if (present == category) return;
-    }
+    const std::string fields = fieldsOf(category);
+    if (present_.contains(fields)) return;
+    present_.set(fields, true);
     categories_.push_back(std::move(category));
   }
   std::size_t size() const { return categories_.size(); }
@@ -207,7 +207,25 @@ class UNNotificationCategorySet {
   auto end() const { return categories_.end(); }
 
  private:
+  /// A text that equal categories share and no others.
+  static std::string fieldsOf(const UNNotificationCategory& category) {
+    std::string text;
+    const auto add = [&text](std::string_view field) {
+      text.append(std::to_string(field.size())).append(":").append(field);
+    };
+    add(category.identifier);
+    add(std::to_string(reinterpret_cast<std::uintptr_t>(category.platformObject.get())));
+    for (const Ref<UNNotificationAction>& action : category.actions) {
+      add(action->takesText() ? "text" : "");
+      add(action->identifier());
+      add(action->title());
+      add(std::to_string(action->options()));
+    }
+    return text;
+  }
+
   std::vector<UNNotificationCategory> categories_;
+  Dictionary present_;
 };
 
 /// The application's notification center.

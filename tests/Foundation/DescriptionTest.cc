@@ -66,22 +66,6 @@ TEST(Description, QuotesWhatIsNotLettersAndDigits) {
   }
 }
 
-TEST(Description, AWideCollectionInADeepOneIsMadeUpToTheLimit) {
-  std::string wide = "1";
-  for (int i = 0; i < 1000; ++i) wide += ",1";
-  const Value value = parsed(nested(500, "[", "]", wide));
-  const std::string whole = describe(value);
-  EXPECT_GT(whole.size(), 2'000'000U);
-  for (const std::size_t limit : {0U, 10U, 1'000'000U}) {
-    const std::string text = describe(value, limit);
-    EXPECT_GT(text.size(), limit);
-    EXPECT_LT(text.size(), limit + 4096);
-    EXPECT_TRUE(whole.starts_with(text.substr(0, limit)));
-  }
-  EXPECT_EQ(describe(value, whole.size()), whole);
-  EXPECT_EQ(describe(Array{std::string(100, '-')}, 10), "(\n    \"----\"\n");
-}
-
 TEST(Description, FormatsReplacePlaceholdersInOrder) {
   EXPECT_EQ(formatted("%@ and %@", {"one", "two"}), "one and two");
   EXPECT_EQ(formatted("%@", {"%@"}), "%@");

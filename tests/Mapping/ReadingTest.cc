@@ -106,6 +106,23 @@ TEST(Reading, ADottedPropertyPathAssignsInsideANestedObject) {
   EXPECT_FALSE(update(*model, R"({"n": 1})"));
   model->setKeyPathPropertyDictionary({{"n", "leaf.name.first"}});
   EXPECT_FALSE(update(*model, R"({"n": 1})"));  // a text has no keys to write to
+  EXPECT_EQ(thrown([&] { model->setValueForKeyPath(1, "leaf.name.first"); }),
+            "NSUnknownKeyException: [<NSString> setValue:forUndefinedKey:]: this class is not key "
+            "value coding-compliant for the key first.");
+}
+
+TEST(Reading, ADottedPropertyPathConvertsLikeTheNestedObject) {
+  const auto model = make<NestingModel>();
+  model->setFree(make<ObjectModel>());
+  model->setKeyPathPropertyDictionary({{"u", "free.url"}});
+  EXPECT_TRUE(update(*model, R"({"u": "https://shop.example.com/"})"));
+  EXPECT_NE(model->free().value().as<ObjectModel>()->url().get(), nullptr);
+  EXPECT_FALSE(update(*model, R"({"u": 5})"));
+}
+
+TEST(Reading, ASetterOfTheClassGetsContainersToo) {
+  EXPECT_EQ(made<SetterModel>(R"({"text": {"a": 1}})")->before().get(), "another kind");
+  EXPECT_EQ(made<SetterModel>(R"({"text": [1]})")->before().get(), "another kind");
 }
 
 TEST(Reading, AnUpdateMayComeFromTheObjectItself) {

@@ -96,7 +96,7 @@ class DescendantModel : public AncestorModel {
 };
 
 /// A setter of its own that throws what the text names: "known", "unknown key", "standard" or
-/// "memory"; "tables" replaces the object's key table.
+/// "memory"; "tables" replaces the object's key table. A value that is no text is told in `before`.
 class SetterModel : public OrvantaBaseModel {
   ORVANTA_MODEL(SetterModel, OrvantaBaseModel)
 

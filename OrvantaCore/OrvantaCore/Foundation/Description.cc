@@ -34,8 +34,12 @@ char32_t takeCharacter(std::string_view& text) {
 
 class Describer {
  public:
-  explicit Describer(std::size_t limit) : limit_(limit) {}
-  std::string take() { return std::move(out_); }
+  explicit Describer(std::size_t most = std::string::npos) : most_(most) {}
+
+  std::string take() {
+    if (isFull()) out_.replace(most_, std::string::npos, " …");
+    return std::move(out_);
+  }
 
   void describe(const Value& value) {
     if (const Dictionary* dictionary = value.dictionary()) {
@@ -48,15 +52,20 @@ class Describer {
       quote(orvanta::describe(value));
     }
   }
-
- private:
   void describe(const Dictionary& dictionary) {
+    open('{');
+    if (isFull()) return;
     std::vector<const Dictionary::Entry*> entries;
     entries.reserve(dictionary.size());
     for (const Dictionary::Entry& entry : dictionary) entries.push_back(&entry);
-    std::sort(entries.begin(), entries.end(),
-              [](const auto* a, const auto* b) { return a->key() < b->key(); });
-    open('{');
+    const auto byKey = [](const auto* a, const auto* b) { return a->key() < b->key(); };
+    constexpr std::size_t kShortestEntry = 8;  // so no more than these are shown
+    if (const std::size_t shown = most_ / kShortestEntry + 1; shown < entries.size()) {
+      const auto last = entries.begin() + static_cast<std::ptrdiff_t>(shown);
+      std::nth_element(entries.begin(), last, entries.end(), byKey);
+      entries.erase(last, entries.end());
+    }
+    std::sort(entries.begin(), entries.end(), byKey);
     for (const Dictionary::Entry* entry : entries) {
       if (isFull()) return;
       indent();
@@ -79,19 +88,20 @@ class Describer {
     close(')');
   }
 
+ private:
+  bool isFull() const { return out_.size() > most_; }
+
   void nested(const Value& value) {
     if (value.dictionary() != nullptr || value.array() != nullptr) indent();
     describe(value);
   }
 
-  bool isFull() const { return out_.size() > limit_; }
   void open(char bracket) {
     out_ += bracket;
     out_ += '\n';
     ++level_;
   }
   void close(char bracket) {
-    if (isFull()) return;
     --level_;
     indent();
     out_ += bracket;
@@ -100,6 +110,7 @@ class Describer {
 
   /// Appends a text, in quotes unless it has letters and digits only.
   void quote(std::string_view text) {
+    text = text.substr(0, most_);
     if (!text.empty() && std::all_of(text.begin(), text.end(), isAlphanumeric)) {
       out_ += text;
       return;
@@ -132,14 +143,14 @@ class Describer {
   }
   static char digit(char32_t value) { return "0123456789abcdef"[value]; }
 
-  std::size_t limit_;
+  std::size_t most_;
   std::string out_;
   std::size_t level_ = 0;
 };
 
 }  // namespace
 
-std::string describe(const Value& value, std::size_t limit) {
+std::string describe(const Value& value) {
   switch (value.kind()) {
     case Kind::nil:
       return "(null)";
@@ -165,8 +176,14 @@ std::string describe(const Value& value, std::size_t limit) {
     case Kind::dictionary:
       break;
   }
-  Describer describer(limit);
+  Describer describer;
   describer.describe(value);
+  return describer.take();
+}
+
+std::string describe(const Dictionary& dictionary, std::size_t most) {
+  Describer describer(most);
+  describer.describe(dictionary);
   return describer.take();
 }
 

@@ -1,10 +1,6 @@
 #pragma once
 
-#include <cstddef>
-#include <initializer_list>
-#include <limits>
 #include <string>
-#include <string_view>
 
 #include "Foundation/Value.h"
 
@@ -18,12 +14,10 @@ namespace orvanta {
 ///             title = "Hello!";
 ///         };
 ///     }
-///
-/// Of a collection, what lies beyond `limit` bytes is not made: the text is then longer than the
-/// limit, by little, and its first `limit` bytes are those of the whole. Indentation makes the
-/// whole text of a deep one far longer than its JSON.
-std::string describe(const Value& value,
-                     std::size_t limit = std::numeric_limits<std::size_t>::max());
+std::string describe(const Value& value);
+/// The same, cut after `most` bytes where it is longer; " …" then stands for the rest, which takes
+/// no time.
+std::string describe(const Dictionary& dictionary, std::size_t most);
 
 /// Replaces each "%@" of a format, in order, by the arguments' texts; there are as many.
 std::string formatted(std::string_view format, std::initializer_list<std::string_view> arguments);

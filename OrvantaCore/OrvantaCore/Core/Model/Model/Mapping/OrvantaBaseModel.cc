@@ -1,5 +1,6 @@
 #include "Mapping/OrvantaBaseModel.h"
 
+#include <algorithm>
 #include <new>
 
 #include "Foundation/Description.h"
@@ -121,11 +122,15 @@ class Lookup {
 };
 
 /// Counts the updates of one thread that run inside one another and all that an outermost one has
-/// led to, so that no payload, however its "klazz" entries nest, takes unbounded time or stack.
+/// led to, so that no payload, however its "klazz" entries nest, takes unbounded time, stack or
+/// space in the log.
 class UpdateScope {
  public:
   UpdateScope() noexcept {
-    if (depth_ == 0) updates_ = 0;
+    if (depth_ == 0) {
+      updates_ = 0;
+      describable_ = kMostDescribed;
+    }
     ++depth_;
     ++updates_;
   }
@@ -138,20 +143,20 @@ class UpdateScope {
       throw Exception(Exception::kInvalidArgument, "too many models in one dictionary");
     }
   }
+  /// The text of a dictionary for the log. Nested models that fail each write the whole of theirs,
+  /// so one outermost update has a share for all.
+  static std::string described(const Dictionary& dictionary) {
+    std::string text = describe(dictionary, describable_);
+    describable_ -= std::min(describable_, text.size());
+    return text;
+  }
 
  private:
+  static constexpr std::size_t kMostDescribed = 65536;
   inline static thread_local std::size_t depth_ = 0;
   inline static thread_local std::size_t updates_ = 0;
+  inline static thread_local std::size_t describable_ = 0;
 };
-
-/// A dictionary for the log, which a hostile payload would otherwise fill: nested models that fail
-/// each write the whole of theirs.
-std::string shortened(const Dictionary& dictionary) {
-  constexpr std::size_t kLongest = 65536;
-  std::string text = describe(dictionary, kLongest);
-  if (text.size() > kLongest) text.replace(kLongest, std::string::npos, " …");
-  return text;
-}
 
 constexpr LogSite kUpdateFailed{"-[OrvantaBaseModel updateWithDictionary:]", "OrvantaBaseModel",
                                 81};
@@ -176,7 +181,7 @@ bool OrvantaBaseModel::updateWithDictionary(const Dictionary* dictionary) {
     if (error.data() != nullptr) {
       logError(kUpdateFailed, [&] {
         return formatted("*** Caught exception deserializing dictionary '%@' to class '%@' : %@",
-                         {shortened(payload), isa().name, error});
+                         {UpdateScope::described(payload), isa().name, error});
       });
     }
     return false;
@@ -358,7 +363,8 @@ void OrvantaBaseModel::setValueForKeyPath(const Value& value, std::string_view k
 
 namespace {
 
-/// What stands at a path, or the first value on the way that has no keys.
+/// What stands at a path, or the first value on the way that has no keys. An array on the way
+/// stands for the array of what its elements have.
 Value reachedAt(const Value& from, std::span<const Value> path, std::string& keyless) {
   if (path.empty()) return from;
   if (const Array* array = from.array()) {
@@ -366,11 +372,10 @@ Value reachedAt(const Value& from, std::span<const Value> path, std::string& key
       Value reached = reachedAt(element, path, keyless);
       if (!keyless.empty()) return reached;
     }
+    return from;
   }
   try {
-    const Value next = valueForKeyPath(from, path.first(1));
-    return from.array() != nullptr ? valueForKeyPath(from, path)
-                                   : reachedAt(next, path.subspan(1), keyless);
+    return reachedAt(valueForKeyPath(from, path.first(1)), path.subspan(1), keyless);
   } catch (const Exception&) {
     keyless = std::string("which has no key \"").append(*path.front().string()).append("\"");
     return from;

@@ -52,7 +52,8 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
   ///
   /// Answers NO for a value that a converter refuses and for an undefined key, silently; for any
   /// other error after an error line in the log. std::bad_alloc passes. Models nested deeper than
-  /// kMostNestedModels, or more than kMostModels in all, are such an error.
+  /// kMostNestedModels, or more than kMostModels in all, are such an error. The lines of an update
+  /// and of those inside it show 64 KB of dictionaries in all.
   bool updateWithDictionary(const Dictionary* dictionary) override;
 
   /// A nested dictionary as a model: of the class declared for the property, else of the one that

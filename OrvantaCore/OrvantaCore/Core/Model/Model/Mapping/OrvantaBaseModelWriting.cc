@@ -1,7 +1,7 @@
+#include <algorithm>
 #include <new>
 
 #include "Foundation/Description.h"
-#include "Foundation/JSON.h"
 #include "Foundation/KeyPath.h"
 #include "Mapping/OrvantaBaseModel.h"
 
@@ -28,8 +28,8 @@ Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
     Value value = readForWriting(entry);
     if (const auto* model = value.as<OrvantaBaseModel>()) {
       value = model->dictionaryValueWithPolicy(classInfo);
-    } else if (value.array() != nullptr && !isValidJSONObject(value)) {
-      value = JSONValidValueForArray(*value.array(), classInfo);
+    } else if (const Array* array = value.array()) {
+      value = JSONValidValueForArray(*array, classInfo);
     } else if (isUnsetInteger(value)) {
       continue;
     }
@@ -41,13 +41,18 @@ Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
 }
 
 Array OrvantaBaseModel::JSONValidValueForArray(const Array& array, bool classInfo) {
+  // Nothing to convert is the common case; the array is then shared as it is.
+  const auto mayChange = [](const Value& element) {
+    return element.array() != nullptr || element.object() != nullptr;
+  };
+  if (std::none_of(array.begin(), array.end(), mayChange)) return array;
   Array result;
   result.reserve(array.size());
   for (const Value& element : array) {
     if (const auto* model = element.as<OrvantaBaseModel>()) {
       result.append(model->dictionaryValueWithPolicy(classInfo));
-    } else if (element.array() != nullptr && !isValidJSONObject(element)) {
-      result.append(JSONValidValueForArray(*element.array(), classInfo));
+    } else if (const Array* nested = element.array()) {
+      result.append(JSONValidValueForArray(*nested, classInfo));
     } else {
       result.append(element);
     }

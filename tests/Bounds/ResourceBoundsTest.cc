@@ -1,0 +1,187 @@
+#include <gtest/gtest.h>
+#include <malloc.h>
+
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <new>
+
+#include "Mapping/RefusalRecorder.h"
+#include "OrvantaNotificationServiceExtension/NotificationHelper.h"
+#include "support/FakePlatform.h"
+#include "support/ModelZoo.h"
+
+// Hostile texts. What is asked of the heap is counted, at a size and at twice that; the times are
+// shown by scripts/measure-bounds.
+
+static thread_local struct Heap { std::size_t live, peak, total, calls; } heap;
+
+void* operator new(std::size_t bytes) {
+  void* memory = std::malloc(bytes);
+  if (memory == nullptr) throw std::bad_alloc();
+  const std::size_t size = malloc_usable_size(memory);
+  heap.peak = std::max(heap.peak, heap.live += size);
+  heap.total += size, ++heap.calls;
+  return memory;
+}
+void operator delete(void* memory) noexcept {
+  heap.live -= malloc_usable_size(memory);
+  std::free(memory);
+}
+void operator delete(void* memory, std::size_t /*bytes*/) noexcept { operator delete(memory); }
+
+namespace orvanta::testing {
+namespace {
+
+/// What this thread's work asks of the heap; the peak is the highest growth.
+Heap used(const std::function<void()>& work) {
+  constexpr std::size_t kBase = std::size_t{1} << 60U;  // it may give back more than it took
+  heap = {kBase, kBase, 0, 0};
+  work();
+  return {heap.live, heap.peak - kBase, heap.total, heap.calls};
+}
+
+/// The item n times; "@" is another text each time, all alike to a hash that multiplies by 31.
+std::string textOf(std::size_t n, std::string_view open, std::string_view item,
+                   std::string_view separator, std::string_view close) {
+  std::string text(open);
+  for (std::size_t i = 0; i < n; ++i) {
+    text += i == 0 ? "" : separator;
+    for (const char c : item) {
+      if (c != '@') text += c;
+      for (unsigned bit = 0; c == '@' && bit < 21; ++bit) text += (i >> bit & 1) != 0 ? "Aa" : "BB";
+    }
+  }
+  return text.append(close);
+}
+
+void read(const std::string& text) { parseJSON(text); }
+void tell(const std::string& text) { findDuplicateKeys(text); }
+void write(const std::string& text) {
+  Value value = parsed(text);
+  pretty(value);
+  describe(value);
+  value.editArray().append(1);  // copies an array
+}
+void push(const std::string& text) {
+  const RefusalRecorder recorder;
+  const auto object = made<OrvantaPushObject>(text);
+  if (object) object->copyWithZone(), object->debugDescription(), pretty(object->dictionaryValue());
+}
+void path(const std::string& text) {
+  const auto model = make<LeafModel>();
+  model->setKeyPathPropertyDictionary({{text, "name"}});
+  update(*model, nested(500, R"({"a":)", "}", "1"));
+}
+void categories(const std::string& text) {
+  FakePlatform platform;
+  UNNotificationCategorySet& set = platform.center->registered;
+  const Value names = parsed(text);
+  for (const Value& name : *names.array()) set.insert({std::string(*name.string()), {}});
+  NotificationHelper::setNotificationCategories(set, platform.center, {});
+  platform.runAll();
+}
+
+const struct {
+  const char* name;
+  void (*work)(const std::string& text);
+  std::size_t most;  // bytes of memory for a byte of the text
+  std::string_view open, item, separator, close;
+} kRows[] = {
+    {"one text, 100 n", read, 3, "\"", "@@sixteen bytes...", "", "\""},
+    {"one text of escapes", read, 5, "\"", "\\u00e9", "", "\""},
+    {"elements", read, 35, "[", "1", ",", "]"},
+    {"empty dictionaries", read, 40, "[", "{}", ",", "]"},
+    {"keys of one prefix", read, 5, "{", R"("pppppppppp@":1)", ",", "}"},
+    {"keys of one weak hash", read, 5, "{", R"("@":1)", ",", "}"},
+    {"equal keys", read, 20, "{", R"("a":1)", ",", "}"},
+    {"equal keys told", tell, 20, "{", R"("a":1)", ",", "}"},
+    {"different keys told", tell, 5, "{", R"("@":1)", ",", "}"},
+    {"arrays in arrays", read, 3, "", "[", "", "1"},
+    {"digits", read, 3, "0.", "7", "", ""},
+    {"digits before the dot", read, 3, "", "7", "", ".5"},
+    {"elements written", write, 35, "[", "1", ",", "]"},
+    {"keys written", write, 10, "{", R"("pppppppppp@":1)", ",", "}"},
+    {"a URL", push, 10, R"({"_ov":{"mu":")", "u", "", R"("}})"},
+    {"a deep link", push, 15, R"({"_ov":{"act":{"uri":")", "/", "", R"("}}})"},
+    {"models", push, 25, R"({"_ov":{"crsl":[)", R"({"klazz":"OrvantaReviewAction"})", ",", "]}}"},
+    {"actions", push, 100, R"({"_ov":{"ia":[)", R"({"id":"a"})", ",", "]}}"},
+    {"parts in an array", push, 50, R"({"_ov":[)", "{}", ",", "]}"},
+    {"names of a key path", path, 10, "", "a", ".", ""},
+    {"categories", categories, 25, "[", R"("c@")", ",", "]"},
+};
+
+TEST(ResourceBounds, MemoryIsBoundedByTheTextAndWorkGrowsNoFaster) {
+  const char* asked = std::getenv("ORVANTA_BOUNDS");
+  const std::size_t n = asked != nullptr ? std::strtoul(asked, nullptr, 10) : 5000;
+  for (const auto& row : kRows) {
+    SCOPED_TRACE(row.name);
+    const RecordingPlatform platform;
+    const auto work = [&](const std::string& text) { return used([&] { row.work(text); }); };
+    const std::string text = textOf(n, row.open, row.item, row.separator, row.close);
+    work(textOf(1, row.open, row.item, row.separator, row.close));  // makes what is made once
+    const auto begin = std::chrono::steady_clock::now();
+    const Heap once = work(text);
+    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - begin;
+    if (asked != nullptr) {
+      std::printf("%-23s %9zu bytes %8.3f s %12zu bytes of memory\n", row.name, text.size(),
+                  seconds.count(), once.peak);
+    }
+    const Heap twice = work(textOf(2 * n, row.open, row.item, row.separator, row.close));
+    constexpr std::size_t kLargestBlock = std::size_t{1} << 20U;  // that an arena adds
+    EXPECT_LE(once.peak, row.most * text.size() + kLargestBlock);
+    EXPECT_LE(twice.total, once.total * 9 / 4 + kLargestBlock);
+    EXPECT_LE(twice.calls, once.calls * 2 + 100);
+  }
+}
+
+TEST(ResourceBounds, StoredCategoriesWereComparedEachWithEach) {
+  static int comparisons = 0;
+  struct Counted : UNNotificationAction {
+    explicit Counted(unsigned options) : UNNotificationAction("id", "", options) {}
+    bool isEqual(const Value& /*other*/) const override { return ++comparisons == 0; }
+  };
+  UNNotificationCategorySet set;
+  for (unsigned i = 0; i < 2000; ++i) set.insert({"same", {Ref<Counted>::adopt(new Counted(i))}});
+  EXPECT_LE(comparisons, static_cast<int>(set.size()));
+}
+
+std::string deepAndWide(std::string_view open, std::string_view item) {
+  return std::string(open) + nested(500, "[", "]", textOf(2000, "", item, ",", "")) + "}";
+}
+
+// Lines are indented by their depth: what is shown of this one was a thousand times its text.
+TEST(ResourceBounds, ADeepPayloadWasDescribedAsAWholeForALineOfTheLog) {
+  RecordingPlatform platform;
+  const Dictionary payload = dictionaryOf(deepAndWide(R"({"size":)", "1"));
+  EXPECT_LT(used([&] { EXPECT_FALSE(make<LeafModel>(payload)); }).peak, 1'000'000U);
+  EXPECT_GT(platform.log.at(0).size(), 65536U);
+}
+
+// Each of these holds its action twice, so the innermost is made 2^9 times, and refuses.
+TEST(ResourceBounds, ModelsThatFailedByTheThousandFilledTheLog) {
+  std::string text = R"({"klazz":"OrvantaPushObject","_ov":{"pt":null},"x":")";
+  text.append(2000, 'x').append("\"}");
+  for (int i = 0; i < 9; ++i) {
+    text = std::string(R"({"klazz":"OrvantaPushObject","_ov":{"act":)")
+               .append(R"({"klazz":"OrvantaPushObjectAction","uri":)")
+               .append(text)
+               .append("}}}");
+  }
+  RecordingPlatform platform;
+  made<OrvantaPushObject>(text);
+  ASSERT_EQ(platform.log.size(), 512U);
+  EXPECT_LT(platform.log.back().size(), 400U);
+}
+
+TEST(ResourceBounds, TellingWhyADeepArrayWasRefusedWalkedItAtEveryLevel) {
+  const RecordingPlatform platform;
+  const Dictionary payload = dictionaryOf(deepAndWide(R"({"aps":)", "{}"));
+  const auto refused = [&] { EXPECT_FALSE(make<DottedModel>(payload)); };
+  const std::size_t unasked = used(refused).total;
+  const RefusalRecorder recorder;
+  EXPECT_LT(used(refused).total, 2 * unasked);
+}
+
+}  // namespace
+}  // namespace orvanta::testing
