@@ -28,7 +28,9 @@ TEST(ClassTables, AnObjectsOwnKeyTableServesBothDirections) {
 
 TEST(ClassTables, AnObjectsOwnClassTableDecidesWhatIsMade) {
   const auto model = make<NestingModel>();
-  model->setKeyPathClassDictionary({{"free", leafClass()}, {"list", "not a class"}});
+  const Value noModel(&Plain::classObject());
+  model->setKeyPathClassDictionary(
+      {{"free", leafClass()}, {"list", "not a class"}, {"leaf", noModel}});
   EXPECT_TRUE(update(*model, R"({"free": {"name": "a"}, "leaf": {}, "list": [{}]})"));
   EXPECT_NE(model->free().value().as<LeafModel>(), nullptr);
   EXPECT_NE(model->leaf().value().dictionary(), nullptr);

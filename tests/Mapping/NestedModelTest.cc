@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "Mapping/RefusalRecorder.h"
 #include "support/ModelZoo.h"
 
 namespace orvanta::testing {
@@ -49,6 +50,9 @@ TEST(NestedModel, ArraysKeepOrderAndCountAndAreConvertedAtEveryDepth) {
   EXPECT_EQ(name((*inner[1].array())[0]), "c");
   EXPECT_TRUE(inner[2].isNull());
   EXPECT_EQ(name(leaves[3]), "d");
+
+  const auto nested = made<NestingModel>(R"({"leaves": [[{"name": "only arrays here"}]]})");
+  EXPECT_EQ(classOrKind((*(*nested->leaves().get())[0].array())[0]), "LeafModel");
 
   const Array& list = *model->list().get();
   EXPECT_EQ(classOrKind(list[0]), "OrvantaPushStyle");
@@ -104,8 +108,13 @@ TEST(NestedModel, TheNumberOfModelsInOneDictionaryHasALimit) {
     RecordingPlatform platform;
     Array leaves;
     while (leaves.size() + 1 < models) leaves.append(Dictionary());
+    const RefusalRecorder recorder;
     const auto owner = make<NestingModel>(Dictionary{{"leaves", leaves}});
     EXPECT_EQ(!owner, models > kMost);
+    EXPECT_EQ(recorder.refusal() ? recorder.refusal()->description() : "taken",
+              models > kMost ? R"(NestingModel "leaves" (leaves) > LeafModel: a dictionary, )"
+                               "too many models in one dictionary"
+                             : "taken");
     EXPECT_EQ(platform.log.size(), models > kMost ? 2U : 0U);
     EXPECT_TRUE(made<NestingModel>(R"({"leaves": [{}]})"));  // each update counts anew
   }
