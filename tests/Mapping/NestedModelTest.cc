@@ -123,6 +123,7 @@ TEST(NestedModel, TheNumberOfModelsInOneDictionaryHasALimit) {
 TEST(NestedModel, AnUndefinedKeyFromAnInitialiserRefusesTheOwnerSilently) {
   RecordingPlatform platform;
   const auto holder = make<PushHolderModel>();
+  ASSERT_TRUE(holder);
   EXPECT_FALSE(update(*holder, R"({"push": {"aps": 1}, "after": "x"})"));
   EXPECT_FALSE(holder->after());
   EXPECT_TRUE(platform.log.empty());

@@ -221,6 +221,7 @@ template <class Work>
 void runTogether(const Work& work) {
   std::atomic<int> waiting{4};
   std::vector<std::thread> threads;
+  threads.reserve(4);
   for (int i = 0; i < 4; ++i) {
     threads.emplace_back([&work, &waiting, number = i] {
       static_cast<void>(number);  // not every work takes it
