@@ -118,6 +118,7 @@ ReplayCounts replayAll(Lines& lines, Progress& progress, std::uint64_t jobs) {
   } else {
     Chunks chunks(2 * jobs);
     std::vector<std::jthread> threads;
+    threads.reserve(replays.size());
     for (Replay& replay : replays) {
       threads.emplace_back([&] {
         Chunk chunk;
@@ -170,7 +171,7 @@ void printText(const ReplayCounts& counts, std::ostream& out) {
   row("  sender icon asked for", counts.icon);
   row("  without a push object", counts.refused);
   for (const auto& [key, count] : counts.refusedBy) row("    " + printable(key), count);
-  row("  \"aps\" or \"_ov\" is no dictionary", counts.undefinedKey);
+  row(R"(  "aps" or "_ov" is no dictionary)", counts.undefinedKey);
   row("bytes: half of the payloads up to", counts.sizeAt(0.50));
   row("  90 % up to", counts.sizeAt(0.90));
   row("  99 % up to", counts.sizeAt(0.99));

@@ -75,6 +75,7 @@ TEST(NestedModel, OneThatRefusesItsDictionaryBecomesNil) {
 TEST(NestedModel, AnElementThatRefusesEndsTheUpdate) {
   RecordingPlatform platform;
   const auto model = make<NestingModel>();
+  ASSERT_TRUE(model);
   EXPECT_FALSE(update(*model, R"({"leaves": [{}, {"size": null}], "free": 1, "leaf": {}})"));
   EXPECT_TRUE(model->leaf());
   EXPECT_FALSE(model->leaves());

@@ -127,6 +127,7 @@ TEST(Reading, ASetterOfTheClassGetsContainersToo) {
 
 TEST(Reading, AnUpdateMayComeFromTheObjectItself) {
   const auto model = make<ObjectModel>();
+  ASSERT_TRUE(model);
   update(*model, R"({"any": {"any": {"x": "the last holder of this dictionary"}, "leaf": 1}})");
   ASSERT_TRUE(model->updateWithDictionary(model->any().value().dictionary()));
   EXPECT_EQ(model->any().value(), Value(Dictionary({{"x", "the last holder of this dictionary"}})));

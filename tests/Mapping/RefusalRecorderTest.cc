@@ -54,6 +54,7 @@ TEST(RefusalRecorder, OnceResetTellsAboutTheNextUpdate) {
   const LogLevel silent(0);
   RefusalRecorder recorder;
   const auto model = make<ScalarModel>();
+  ASSERT_TRUE(model);
   EXPECT_FALSE(update(*model, R"({"i": null})"));
   recorder.reset();
   EXPECT_FALSE(update(*model, R"({"q": []})"));

@@ -68,8 +68,8 @@ TEST(BatchCommand, NamesTheLinesThatItLeavesOut) {
   EXPECT_NE(run.out.find(R"({"storageId":1,"idsContained":[9],"events":2,)"), std::string::npos)
       << run.out;
   for (const std::string_view line :
-       {":2: column 2", ":4: the line is an array", ":5: \"events\" is empty",
-        ":6: \"klazz\" is \"OrvantaUser\"", ":7: OrvantaEventRequest", ":8: it holds",
+       {":2: column 2", ":4: the line is an array", R"(:5: "events" is empty)",
+        R"(:6: "klazz" is "OrvantaUser")", ":7: OrvantaEventRequest", ":8: it holds",
         "6 lines were left out"}) {
     EXPECT_NE(run.err.find(line), std::string::npos) << line << "\n" << run.err;
   }
