@@ -19,7 +19,7 @@ void* counted(void* memory, std::size_t bytes) {
 orvanta::benchmarks::Allocations orvanta::benchmarks::allocations() { return total; }
 
 extern "C" {
-// NOLINTBEGIN(bugprone-reserved-identifier): the C library's names
+// NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming): the C library's names
 void* __libc_malloc(std::size_t bytes);
 void* __libc_calloc(std::size_t count, std::size_t bytes);
 void* __libc_realloc(void* memory, std::size_t bytes);
@@ -39,5 +39,5 @@ int posix_memalign(void** memory, std::size_t alignment, std::size_t bytes) {
   *memory = counted(__libc_memalign(alignment, bytes), bytes);
   return *memory != nullptr ? 0 : ENOMEM;
 }
-// NOLINTEND(bugprone-reserved-identifier)
+// NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
 }

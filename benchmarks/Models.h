@@ -175,6 +175,8 @@ struct Field {
   std::string_view property;
   T Owner::*member;
 };
+template <class Owner, class T>
+Field(std::string_view, std::string_view, T Owner::*) -> Field<Owner, T>;
 
 template <class T>
 struct Fields;

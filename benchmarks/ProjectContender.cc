@@ -140,6 +140,7 @@ std::vector<Operation> operations(const Workloads& workloads) {
       {"dictionary to push",
        [payload] { return static_cast<bool>(make<OrvantaPushObject>(*payload.dictionary())); },
        {}},
+      {"events to dictionary", [request] { return !request->requestSpec()->HTTPBody.empty(); }, {}},
       {"push to dictionary", [push] { return !push->dictionaryValue().empty(); }, {}},
       {"push to text",
        [push] {

@@ -54,9 +54,12 @@ class Source {
     return static_cast<double>(100 * lowest + below(100 * (highest - lowest))) / 100.0;
   }
   std::string word() {
-    constexpr std::string_view kWords[] = {"summer", "sale",  "running", "shoes",  "leather",
-                                           "café",   "größe", "limited", "order",  "discount",
-                                           "señor",  "white", "jacket",  "parcel", "members"};
+    constexpr std::string_view kWords[] = {
+        "summer",  "sale",    "running", "shoes",   "discount", "delivery", "today",   "basket",
+        "only",    "special", "offer",   "members", "size",     "colour",   "café",    "señor",
+        "größe",   "naïve",   "order",   "shipped", "track",    "parcel",   "new",     "arrivals",
+        "jacket",  "leather", "cotton",  "blue",    "black",    "white",    "gift",    "card",
+        "limited", "stock",   "last",    "chance",  "free",     "returns",  "weekend", "waiting"};
     return std::string(kWords[below(std::size(kWords))]);
   }
   std::string words(int count) {
@@ -80,10 +83,11 @@ class Source {
   }
 
  private:
-  std::minstd_rand random_{20240607};
+  std::mt19937 random_{20240607};
 };
 
 Product productOf(Source& source) {
+  constexpr std::string_view kVariants[] = {"S", "M", "L", "XL"};
   const auto word = [&] { return source.word(); };
   return {.productId = "sku-" + std::to_string(10'000'000 + source.below(90'000'000)),
           .productName = source.words(4) + " \"" + source.word() + '"',
@@ -92,7 +96,7 @@ Product productOf(Source& source) {
           .price = source.amount(5, 900),
           .brandId = source.numbered("b", 100),
           .brandName = source.word(),
-          .variant = "XL",
+          .variant = std::string(kVariants[source.below(4)]),
           .keywords = source.list(4, word)};
 }
 

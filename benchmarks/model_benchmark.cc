@@ -74,17 +74,16 @@ int run(int argc, char** argv) {
   if (argc == 4 && std::string_view(argv[1]) == "repeat") {
     return repeat(all, argv[2], std::atol(argv[3]));
   }
-  if (argc == 3 && std::string_view(argv[1]) == "text") {
-    std::fputs((std::string_view(argv[2]) == "inbox" ? workloads.inbox : workloads.push).c_str(),
-               stdout);
+  if (argc == 2 && std::string_view(argv[1]) == "inbox") {
+    std::fputs(workloads.inbox.c_str(), stdout);
     return 0;
   }
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
   compare(all);
-  for (const auto& [name, operation] : all) {
-    benchmark::RegisterBenchmark(name.c_str(),
-                                 [&](benchmark::State& state) { measure(state, operation); });
+  for (const Row& row : all) {
+    benchmark::RegisterBenchmark(row.name.c_str(),
+                                 [&](benchmark::State& state) { measure(state, row.operation); });
   }
   benchmark::RunSpecifiedBenchmarks();
   return 0;

@@ -16,10 +16,15 @@ namespace {
 
 namespace od = simdjson::ondemand;
 
+struct Entry;
 struct Tree {
   using List = std::vector<Tree>;
-  using Map = std::vector<std::pair<std::string, Tree>>;
+  using Map = std::vector<Entry>;
   std::variant<std::monostate, bool, std::int64_t, double, std::string, List, Map> held;
+};
+struct Entry {
+  std::string key;
+  Tree value;
 };
 
 }  // namespace
@@ -80,7 +85,7 @@ Tree treeOf(od::value value) {
       Tree::Map map;
       for (auto entry : value.get_object().value_unsafe()) {
         std::string key(entry.unescaped_key().value_unsafe());
-        map.emplace_back(std::move(key), treeOf(entry.value().value_unsafe()));
+        map.push_back({std::move(key), treeOf(entry.value().value_unsafe())});
       }
       return {std::move(map)};
     }
@@ -254,6 +259,7 @@ class Writer {
     // An amount has three decimals at most, and many are not given.
     if (number == kNoAmount) return raw("9223372036854775808");
     if (number >= 0 && number < 1e12) {
+      // NOLINTNEXTLINE(bugprone-incorrect-roundings): what is rounded wrongly is found out
       const auto thousandths = static_cast<std::uint64_t>(number * 1000 + 0.5);
       if (static_cast<double>(thousandths) / 1000 == number) {
         digits(thousandths / 1000);

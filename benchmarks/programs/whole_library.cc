@@ -1,6 +1,7 @@
 // All of core and extension in an otherwise empty program:
 //
 //     whole_library               does nothing
+//     whole_library all           makes the extension and an object of every class
 //     whole_library resident      the resident size of that, in KiB
 //     whole_library push FILE     nanoseconds of CPU that a process's first push takes
 //     whole_library inbox FILE    what an inbox reply adds to the resident size, in KiB; the text
@@ -9,6 +10,7 @@
 #include <string>
 
 #include "Foundation/JSON.h"
+#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
 #include "ProcessFigures.h"
 #include "Push/OrvantaPushObject.h"
 #include "Responses/OrvantaInboxResponse.h"
@@ -37,10 +39,23 @@ bool read(const std::string& text) {
   return parsed.dictionary() != nullptr && orvanta::make<M>(*parsed.dictionary());
 }
 
+bool makeAll() {
+  bool made = true;
+  for (const orvanta::Class* cls : orvanta::modelClasses()) {
+    const auto model = orvanta::makeModel(*cls, nullptr);
+    std::string text;
+    made = model && orvanta::writeJSON(model->dictionaryValue(), text) && made;
+  }
+  orvanta::OrvantaNotificationServiceExtension extension;
+  extension.serviceExtensionTimeWillExpire();
+  return made;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   using orvanta::benchmarks::peakResidentKiB;
+  if (argc == 2 && std::strcmp(argv[1], "all") == 0) return makeAll() ? 0 : 1;
   if (argc == 2) std::printf("%ld\n", peakResidentKiB());
   if (argc != 3) return 0;
   const std::string text = contentsOf(argv[2]);
