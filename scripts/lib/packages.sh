@@ -7,6 +7,8 @@ run_packages=(ca-certificates g++ cmake ninja-build libcli11-dev libcurl4-openss
 test_packages=(libgtest-dev libbenchmark-dev libcpp-httplib-dev)
 # shellcheck disable=SC2034
 check_packages=(git python3 clang clang-format clang-tidy libclang-rt-14-dev valgrind)
+# shellcheck disable=SC2034
+bench_packages=(libsimdjson-dev rapidjson-dev nlohmann-json3-dev)
 
 # ensure_packages PACKAGE...: silent, and no apt call, when every package is installed.
 ensure_packages() {

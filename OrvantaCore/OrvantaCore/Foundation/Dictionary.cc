@@ -99,9 +99,13 @@ const Value& Dictionary::valueForKey(const Value& key) const noexcept {
 }
 
 void Dictionary::detach(std::size_t capacity) {
-  if (node_ != nullptr && node_->isUnshared() && node_->capacity() >= capacity) return;
+  const bool isOwn = node_ != nullptr && node_->isUnshared();
+  if (isOwn && node_->capacity() >= capacity) return;
   DictionaryNode* own = DictionaryNode::create(std::max(capacity, size()), nullptr);
-  for (const Entry& entry : *this) own->push(Value(entry.keyValue), Value(entry.value));
+  for (const Entry& entry : *this) {
+    Entry copy = isOwn ? std::move(const_cast<Entry&>(entry)) : entry;
+    own->push(std::move(copy.keyValue), std::move(copy.value));
+  }
   *this = Dictionary();
   node_ = own;
 }
@@ -122,11 +126,10 @@ void Dictionary::set(const Value& key, Value value) {
   append(key, std::move(value));
 }
 
-void Dictionary::append(const Value& key, Value value) {
-  Value ownKey = key;  // which may lie in the entries that detaching lets go of
+void Dictionary::appendWithRoom(Value key, Value&& value) {
   const bool full = node_ == nullptr || size() == node_->capacity();
   detach(full ? std::max<std::size_t>(4, 2 * size()) : size() + 1);
-  const_cast<DictionaryNode*>(node_)->push(std::move(ownKey), std::move(value));
+  const_cast<DictionaryNode*>(node_)->push(std::move(key), std::move(value));
 }
 
 void Dictionary::remove(std::string_view key) {

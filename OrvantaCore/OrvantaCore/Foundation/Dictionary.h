@@ -49,7 +49,7 @@ class Dictionary {
   /// Stores a value; a nil removes the key.
   void set(const Value& key, Value value);
   /// Stores a value that is not nil under a key that is known to be new; faster.
-  void append(const Value& key, Value value);
+  inline void append(const Value& key, Value&& value);
   void remove(std::string_view key);
   /// Stores every entry of the other dictionary over this one's.
   void addEntries(const Dictionary& other);
@@ -62,6 +62,7 @@ class Dictionary {
   friend class Value;
   friend class TreeBuilder;
   void detach(std::size_t capacity);
+  void appendWithRoom(Value key, Value&& value);
 
   const DictionaryNode* node_ = nullptr;
 };
@@ -85,8 +86,9 @@ class DictionaryNode : public Node {
     return const_cast<Entry*>(static_cast<const DictionaryNode*>(this)->find(key));
   }
   /// Appends an entry whose key is known to be new.
-  void push(Value&& key, Value&& value) {
-    new (entries() + size_) Entry{std::move(key), std::move(value)};
+  template <class Key>
+  void push(Key&& key, Value&& value) {
+    new (entries() + size_) Entry{std::forward<Key>(key), std::move(value)};
     if (++size_ >= kIndexedSize) enterNewest();
   }
   void erase(Entry* entry) noexcept;
@@ -111,6 +113,13 @@ inline std::size_t Dictionary::size() const noexcept {
 }
 inline const Dictionary::Entry* Dictionary::begin() const noexcept {
   return node_ == nullptr ? nullptr : node_->entries();
+}
+
+inline void Dictionary::append(const Value& key, Value&& value) {
+  if (node_ == nullptr || !node_->isUnshared() || size() == node_->capacity()) {
+    return appendWithRoom(key, std::move(value));
+  }
+  const_cast<DictionaryNode*>(node_)->push(key, std::move(value));
 }
 
 inline const Value& Dictionary::valueForKey(const Value& key, std::size_t& hint) const noexcept {

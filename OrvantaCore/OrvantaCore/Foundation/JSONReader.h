@@ -202,37 +202,44 @@ bool JSONReader<Client>::readWord(std::string_view word) {
 template <class Client>
 bool JSONReader<Client>::readNumber() {
   const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-  const char* first = at_;
-  const bool negative = *at_ == '-';
-  if (negative) ++at_;
-  if (atEnd() || !isDigit(*at_))
-    return fail(negative ? "expected a digit" : "expected a value", at_);
-  const char* digits = at_;
+  const char* const first = at_;
+  const char* const end = end_;
+  if (end - first > 1 && isDigit(*first) && (first[1] == ',' || first[1] == '}')) {
+    at_ = first + 1;
+    client_.integer(*first - '0', offset(first));
+    return true;
+  }
+  const char* at = first;
+  const bool negative = *at == '-';
+  if (negative) ++at;
+  if (at == end || !isDigit(*at))
+    return fail(negative ? "expected a digit" : "expected a value", at);
+  const char* const digits = at;
   std::uint64_t magnitude = 0;
   bool fits = true;
-  for (; !atEnd() && isDigit(*at_); ++at_) {
-    const auto digit = static_cast<std::uint64_t>(*at_ - '0');
-    if (at_ - digits >= 19 &&
-        magnitude > (std::numeric_limits<std::uint64_t>::max() - digit) / 10) {
+  for (; at != end && isDigit(*at); ++at) {
+    const auto digit = static_cast<std::uint64_t>(*at - '0');
+    if (at - digits >= 19 && magnitude > (std::numeric_limits<std::uint64_t>::max() - digit) / 10) {
       fits = false;
     }
     magnitude = magnitude * 10 + digit;
   }
-  if (*digits == '0' && at_ - digits > 1) return fail("a number with a leading zero", first);
+  if (*digits == '0' && at - digits > 1) return fail("a number with a leading zero", first);
   bool fraction = false;
-  if (!atEnd() && *at_ == '.') {
+  if (at != end && *at == '.') {
     fraction = true;
-    ++at_;
-    if (atEnd() || !isDigit(*at_)) return fail("expected a digit", at_);
-    while (!atEnd() && isDigit(*at_)) ++at_;
+    ++at;
+    if (at == end || !isDigit(*at)) return fail("expected a digit", at);
+    while (at != end && isDigit(*at)) ++at;
   }
-  if (!atEnd() && (*at_ == 'e' || *at_ == 'E')) {
+  if (at != end && (*at == 'e' || *at == 'E')) {
     fraction = true;
-    ++at_;
-    if (!atEnd() && (*at_ == '+' || *at_ == '-')) ++at_;
-    if (atEnd() || !isDigit(*at_)) return fail("expected a digit", at_);
-    while (!atEnd() && isDigit(*at_)) ++at_;
+    ++at;
+    if (at != end && (*at == '+' || *at == '-')) ++at;
+    if (at == end || !isDigit(*at)) return fail("expected a digit", at);
+    while (at != end && isDigit(*at)) ++at;
   }
+  at_ = at;
   constexpr std::uint64_t kSignedLimit = std::uint64_t{1} << 63U;
   if (fraction || !fits || (negative && (magnitude > kSignedLimit || magnitude == 0))) {
     return readReal(first);

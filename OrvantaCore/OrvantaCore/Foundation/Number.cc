@@ -226,11 +226,6 @@ std::size_t Number::hash() const noexcept {
   return std::isnan(value) ? 0 : std::hash<double>{}(value);
 }
 
-bool isUnsetInteger(const Value& value) noexcept {
-  return (value.kind() == Kind::integer || value.kind() == Kind::unsignedInteger) &&
-         Number(value).unsignedLongLongValue() == static_cast<std::uint64_t>(kUnsetInteger);
-}
-
 bool booleanReading(std::string_view text) noexcept {
   text = withoutLeadingSpace(text);
   takeSign(text);

@@ -47,7 +47,10 @@ inline std::optional<Number> Value::number() const noexcept {
 /// Marks an integer that was not given; a property that holds it is left out when written. Any
 /// integer kind counts, a double of 2^63 does not.
 inline constexpr std::int64_t kUnsetInteger = 9223372036854775807;
-bool isUnsetInteger(const Value& value) noexcept;
+inline bool isUnsetInteger(const Value& value) noexcept {
+  return (value.kind() == Kind::integer || value.kind() == Kind::unsignedInteger) &&
+         Number(value).unsignedLongLongValue() == static_cast<std::uint64_t>(kUnsetInteger);
+}
 
 // ---- Readings of a value for a scalar property ----------------------------
 //

@@ -68,11 +68,6 @@ void Value::destroyNode() const noexcept {
 
 const Url* Value::url() const noexcept { return payloadIf<Url>(Kind::url); }
 
-Object* Value::object() const noexcept {
-  if (kind() != Kind::object) return nullptr;
-  return const_cast<Object*>(static_cast<const Object*>(node()));
-}
-
 const ClassObject* Value::classObject() const noexcept {
   return kind() == Kind::classObject ? std::bit_cast<const ClassObject*>(word(1)) : nullptr;
 }

@@ -13,6 +13,7 @@
 
 #include "Foundation/Date.h"
 #include "Foundation/Object.h"
+#include "Foundation/TextScan.h"
 
 namespace orvanta {
 
@@ -86,8 +87,10 @@ class Value {
   explicit Value(const ClassObject* cls) noexcept;
 
   Value(const Value& other) noexcept {
+    // The other one is asked, since this one's bits would be read in other pieces than they were
+    // just written in, which processors are slow at.
     copyBits(other);
-    if (isShared()) node()->retain();
+    if (other.isShared()) other.node()->retain();
   }
   Value(Value&& other) noexcept {
     copyBits(other);
@@ -114,7 +117,7 @@ class Value {
   bool isString() const noexcept { return kind() == Kind::string; }
 
   // The value as one kind, or nothing when it is of another. Pointers and texts live as long as
-  // this value stays as it is.
+  // this value stays as it is. Eight bytes can be read where a text begins, however short it is.
   std::optional<std::string_view> string() const noexcept {
     if (!isString()) return std::nullopt;
     return text();
@@ -127,7 +130,10 @@ class Value {
   inline const Array* array() const noexcept;            // Array.h
   inline const Dictionary* dictionary() const noexcept;  // Dictionary.h
   const Url* url() const noexcept;
-  Object* object() const noexcept;
+  Object* object() const noexcept {
+    if (kind() != Kind::object) return nullptr;
+    return const_cast<Object*>(static_cast<const Object*>(node()));
+  }
   const ClassObject* classObject() const noexcept;
   /// The object as a T, or nullptr when it is none; T names its class with `classObject()`.
   template <class T>
@@ -194,27 +200,15 @@ class Value {
     std::uint64_t first = 0;   // the text's bytes 0 to 7
     std::uint64_t second = 0;  // and 8 to 13
     if (size >= 8) {
-      first = load<std::uint64_t>(at);
-      if (size > 8) second = load<std::uint64_t>(at + size - 8) >> (8 * (16 - size));
-    } else if (size >= 4) {
-      first = load<std::uint32_t>(at) | std::uint64_t{load<std::uint32_t>(at + size - 4)}
-                                            << (8 * (size - 4));
-    } else if (size > 0) {
-      first = load<std::uint8_t>(at) |
-              std::uint64_t{load<std::uint8_t>(at + size / 2)} << (8 * (size / 2)) |
-              std::uint64_t{load<std::uint8_t>(at + size - 1)} << (8 * (size - 1));
+      first = loadAs<std::uint64_t>(at);
+      if (size > 8) second = loadAs<std::uint64_t>(at + size - 8) >> (8 * (16 - size));
+    } else {
+      first = loadUpToSeven(at, size);
     }
     return {{static_cast<std::uint64_t>(Kind::string) | size << 8U | first << 16U,
              first >> 48U | second << 16U}};
   }
   static Value inlineString(std::string_view text) noexcept { return Value(inlineBits(text)); }
-  template <class T>
-  static T load(const char* at) noexcept {
-    T loaded;
-    std::memcpy(&loaded, at, sizeof loaded);
-    return loaded;
-  }
-
   std::uint64_t word(int index) const noexcept {
     std::uint64_t bits;
     std::memcpy(&bits, bytes_ + std::ptrdiff_t{8} * index, sizeof bits);

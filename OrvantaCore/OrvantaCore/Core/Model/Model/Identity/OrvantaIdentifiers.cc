@@ -5,8 +5,14 @@ namespace orvanta {
 ORVANTA_IMPLEMENTATION(OrvantaIdentifiers)
 
 void OrvantaIdentifiers::removePropertiesSameWithIdentifiers(const OrvantaIdentifiers* other) {
-  for (const KeyEntry& entry : keyPathPropertySelectorMapping()) {
-    removePropertiesWithKeys({&entry.property, 1}, other);
+  if (other == nullptr) return;
+  const auto held = [](const OrvantaIdentifiers* identifiers, const Property& property) -> Value& {
+    return *static_cast<Value*>(property.field(const_cast<OrvantaIdentifiers&>(*identifiers)));
+  };
+  for (const Property& property : kClass.properties) {  // stored objects, all of them
+    Value& own = held(this, property);
+    if (own.isNil() || own.isNull()) continue;
+    if (own == held(other, property)) own = Value();
   }
 }
 

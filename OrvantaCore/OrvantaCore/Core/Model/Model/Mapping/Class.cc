@@ -8,27 +8,6 @@
 
 namespace orvanta {
 
-Value Property::valueIn(const OrvantaBaseModel& object) const {
-  if (get != nullptr) return get(object);
-  const void* at = field(const_cast<OrvantaBaseModel&>(object));
-  switch (encoding.front()) {
-    case 'B':
-      return *static_cast<const bool*>(at);
-    case 'i':
-      return *static_cast<const std::int32_t*>(at);
-    case 'q':
-      return *static_cast<const std::int64_t*>(at);
-    case 'Q':
-      return *static_cast<const std::uint64_t*>(at);
-    case 'f':
-      return *static_cast<const float*>(at);
-    case 'd':
-      return *static_cast<const double*>(at);
-    default:
-      return *static_cast<const Value*>(at);
-  }
-}
-
 void Property::assignTo(OrvantaBaseModel& object, const Value& value) const {
   if (set != nullptr) return set(object, value);
   if (field == nullptr) throw Exception::undefinedKey(object.isa().name, name, /*writing=*/true);

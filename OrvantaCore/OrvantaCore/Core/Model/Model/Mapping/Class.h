@@ -31,12 +31,33 @@ struct Property {
   Value (*get)(const OrvantaBaseModel&);
   void (*set)(OrvantaBaseModel&, const Value&);
 
-  Value valueIn(const OrvantaBaseModel& object) const;
+  [[gnu::always_inline]] inline Value valueIn(const OrvantaBaseModel& object) const;
   /// Scalars take the value's numeric reading, which throws the invalid-argument exception when
   /// there is none.
   void assignTo(OrvantaBaseModel& object, const Value& value) const;
   void assignTo(OrvantaBaseModel& object, Value&& value) const;
 };
+
+inline Value Property::valueIn(const OrvantaBaseModel& object) const {
+  if (get != nullptr) return get(object);
+  const void* at = field(const_cast<OrvantaBaseModel&>(object));
+  switch (encoding.front()) {
+    case 'B':
+      return *static_cast<const bool*>(at);
+    case 'i':
+      return *static_cast<const std::int32_t*>(at);
+    case 'q':
+      return *static_cast<const std::int64_t*>(at);
+    case 'Q':
+      return *static_cast<const std::uint64_t*>(at);
+    case 'f':
+      return *static_cast<const float*>(at);
+    case 'd':
+      return *static_cast<const double*>(at);
+    default:
+      return *static_cast<const Value*>(at);
+  }
+}
 
 /// Wire key path to property name.
 struct KeyEntry {

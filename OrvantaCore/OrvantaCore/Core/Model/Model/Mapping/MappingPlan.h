@@ -28,7 +28,8 @@ struct MappingEntry {
 struct MappingPlan {
   std::vector<MappingEntry> entries;
 
-  MappingPlan(const Class& cls, const Dictionary& keyTable, const Dictionary& classTable);
+  [[gnu::cold]] MappingPlan(const Class& cls, const Dictionary& keyTable,
+                            const Dictionary& classTable);
 };
 
 }  // namespace orvanta

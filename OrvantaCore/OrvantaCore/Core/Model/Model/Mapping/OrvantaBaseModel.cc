@@ -205,16 +205,15 @@ bool OrvantaBaseModel::updateWithDictionary(const Dictionary* dictionary) {
   }
 }
 
+static bool isFullContainer(const Value& value) {
+  const Array* array = value.array();
+  return value.dictionary() != nullptr || (array != nullptr && !array->empty());
+}
+
 bool OrvantaBaseModel::apply(const MappingEntry& entry, const Value& found) {
   Value made;
-  const Value* value = &found;
-  if (const Dictionary* dictionary = found.dictionary()) {
-    made = component(*dictionary, entry.model);
-    value = &made;
-  } else if (const Array* array = found.array()) {
-    made = component(*array, entry.model);
-    value = &made;
-  }
+  const bool isMade = isFullContainer(found) && component(found, entry.model, made);
+  const Value* value = isMade ? &made : &found;
   const bool isPath = entry.propertyPath.size() > 1;
   if (entry.converter != Converter::none || isPath) {
     if (value == &found) made = found;
@@ -236,44 +235,55 @@ bool OrvantaBaseModel::apply(const MappingEntry& entry, const Value& found) {
   return true;
 }
 
-Value OrvantaBaseModel::component(const Dictionary& dictionary, const Class* declared) {
+bool OrvantaBaseModel::component(const Value& value, const Class* declared, Value& made) {
   static const Value kKlazz = "klazz";
-  if (declared == nullptr) {
-    if (const auto name = dictionary.valueForKey(kKlazz).string())
-      declared = modelClassNamed(*name);
+  if (const Dictionary* dictionary = value.dictionary()) {
+    if (declared == nullptr) {
+      if (const auto name = dictionary->valueForKey(kKlazz).string())
+        declared = modelClassNamed(*name);
+    }
+    if (declared == nullptr) return false;
+    made = makeModel(*declared, dictionary);
+    return true;
   }
-  if (declared == nullptr) return dictionary;
-  return makeModel(*declared, &dictionary);
+  const Array* array = value.array();
+  if (array == nullptr) return false;
+  // Nothing to convert is the common case; the array is then shared as it is.
+  Array converted;
+  bool isConverted = false;
+  for (const Value& element : *array) {
+    if (!isFullContainer(element)) {
+      if (isConverted) converted.append(element);
+      continue;
+    }
+    Value madeElement;
+    const bool isMade = component(element, declared, madeElement);
+    if (isMade && !isConverted) {
+      isConverted = true;
+      converted.reserve(array->size());
+      for (const Value* before = array->begin(); before != &element; ++before) {
+        converted.append(*before);
+      }
+    }
+    if (isConverted) converted.append(isMade ? std::move(madeElement) : element);
+  }
+  if (isConverted) made = std::move(converted);
+  return isConverted;
 }
 
-Array OrvantaBaseModel::component(const Array& array, const Class* declared) {
-  // Nothing to convert is the common case; the array is then shared as it is.
-  const auto isContainer = [](const Value& element) {
-    return element.dictionary() != nullptr || element.array() != nullptr;
-  };
-  if (std::none_of(array.begin(), array.end(), isContainer)) return array;
-  Array converted;
-  converted.reserve(array.size());
-  for (const Value& element : array) {
-    if (const Dictionary* dictionary = element.dictionary()) {
-      converted.append(component(*dictionary, declared));
-    } else if (const Array* nested = element.array()) {
-      converted.append(component(*nested, declared));
-    } else {
-      converted.append(element);
-    }
-  }
-  return converted;
+Value OrvantaBaseModel::componentOf(const Value& value, std::string_view property) const {
+  Value made;
+  return component(value, modelClassIn(keyPathClassDictionary()[property]), made) ? made : value;
 }
 
 Value OrvantaBaseModel::valueForDictionaryComponent(const Dictionary& dictionary,
                                                     std::string_view property) const {
-  return component(dictionary, modelClassIn(keyPathClassDictionary()[property]));
+  return componentOf(dictionary, property);
 }
 
 Array OrvantaBaseModel::valueForArrayComponent(const Array& array,
                                                std::string_view property) const {
-  return component(array, modelClassIn(keyPathClassDictionary()[property]));
+  return *componentOf(array, property).array();
 }
 
 // ---- Converters -----------------------------------------------------------
@@ -365,7 +375,8 @@ namespace {
 
 /// What stands at a path, or the first value on the way that has no keys. An array on the way
 /// stands for the array of what its elements have.
-Value reachedAt(const Value& from, std::span<const Value> path, std::string& keyless) {
+[[gnu::cold]] Value reachedAt(const Value& from, std::span<const Value> path,
+                              std::string& keyless) {
   if (path.empty()) return from;
   if (const Array* array = from.array()) {
     for (const Value& element : *array) {

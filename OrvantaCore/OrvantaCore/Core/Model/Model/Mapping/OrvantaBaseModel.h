@@ -125,13 +125,14 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
  private:
   struct OwnTables;
 
-  static Value component(const Dictionary& dictionary, const Class* declared);
-  static Array component(const Array& array, const Class* declared);
+  /// Whether there is something in the value to make a model of; `made` is then what stands for it.
+  static bool component(const Value& value, const Class* declared, Value& made);
+  Value componentOf(const Value& value, std::string_view property) const;
   static bool convert(Value& value, Converter converter);
   /// The plan of tables that were set on this object; empty when the class's own counts.
   std::shared_ptr<const MappingPlan> ownPlan() const;
   bool apply(const MappingEntry& entry, const Value& found);
-  void recordRefusal(const MappingEntry& entry, const Dictionary& dictionary) const;
+  [[gnu::cold]] void recordRefusal(const MappingEntry& entry, const Dictionary& dictionary) const;
   Value readForWriting(const MappingEntry& entry) const;
 
   mutable std::recursive_mutex writeLock_;

@@ -18,22 +18,32 @@ Value OrvantaBaseModel::readForWriting(const MappingEntry& entry) const {
   }
 }
 
+/// Nothing to convert is the common case; an array is then shared as it is.
+static bool mayChange(const Array& array) {
+  return std::any_of(array.begin(), array.end(), [](const Value& element) {
+    return element.array() != nullptr || element.object() != nullptr;
+  });
+}
+
 Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
   const std::lock_guard guard(writeLock_);
   const auto ownPlan = this->ownPlan();  // a getter may replace the tables
   const MappingPlan& plan = ownPlan != nullptr ? *ownPlan : isa().plan();
   Dictionary result;
-  result.reserve(plan.entries.size() + (classInfo ? 1 : 0));
   for (const MappingEntry& entry : plan.entries) {
-    Value value = readForWriting(entry);
+    const Property* property = entry.property;
+    const bool isStored = property != nullptr && property->get == nullptr;
+    Value value = isStored ? property->valueIn(*this) : readForWriting(entry);
+    if (value.isNil() || isUnsetInteger(value)) continue;
     if (const auto* model = value.as<OrvantaBaseModel>()) {
       value = model->dictionaryValueWithPolicy(classInfo);
-    } else if (const Array* array = value.array()) {
-      value = JSONValidValueForArray(*array, classInfo);
-    } else if (isUnsetInteger(value)) {
+    } else if (value.array() != nullptr && mayChange(*value.array())) {
+      value = JSONValidValueForArray(*value.array(), classInfo);
+    }
+    if (entry.converter != Converter::none && (!convert(value, entry.converter) || value.isNil())) {
       continue;
     }
-    if (value.isNil() || !convert(value, entry.converter) || value.isNil()) continue;
+    if (result.empty()) result.reserve(plan.entries.size() + (classInfo ? 1 : 0));
     result.append(entry.key, std::move(value));
   }
   if (classInfo) result.set("klazz", isa().name);
@@ -41,11 +51,7 @@ Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
 }
 
 Array OrvantaBaseModel::JSONValidValueForArray(const Array& array, bool classInfo) {
-  // Nothing to convert is the common case; the array is then shared as it is.
-  const auto mayChange = [](const Value& element) {
-    return element.array() != nullptr || element.object() != nullptr;
-  };
-  if (std::none_of(array.begin(), array.end(), mayChange)) return array;
+  if (!mayChange(array)) return array;
   Array result;
   result.reserve(array.size());
   for (const Value& element : array) {

@@ -12,9 +12,9 @@ bool OrvantaPushObjectAction::initWithValue(const Value& value) {
 }
 
 void OrvantaPushObjectAction::setDeeplinkURLAsURL() {
+  static constexpr CharacterSet kAllowed = CharacterSet::urlHostAllowed();
   const auto text = deeplinkURLString_.get();
-  const auto url =
-      text ? Url::parse(percentEncoded(*text, CharacterSet::urlHostAllowed())) : std::nullopt;
+  const auto url = text ? Url::parse(percentEncoded(*text, kAllowed)) : std::nullopt;
   deeplinkURL_ = url ? Held<Url>(*url) : nullptr;
 }
 

@@ -1,0 +1,71 @@
+// All of core and extension in an otherwise empty program:
+//
+//     whole_library               does nothing
+//     whole_library all           makes the extension and an object of every class
+//     whole_library resident      the resident size of that, in KiB
+//     whole_library push FILE     nanoseconds of CPU that a process's first push takes
+//     whole_library inbox FILE    what an inbox reply adds to the resident size, in KiB; the text
+//                                 itself does not count
+#include <ctime>
+#include <string>
+
+#include "Foundation/JSON.h"
+#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
+#include "ProcessFigures.h"
+#include "Push/OrvantaPushObject.h"
+#include "Responses/OrvantaInboxResponse.h"
+
+namespace {
+
+std::string contentsOf(const char* path) {
+  std::string text;
+  std::FILE* file = std::fopen(path, "rb");
+  if (file == nullptr) return text;
+  char part[65536];
+  while (const std::size_t bytes = std::fread(part, 1, sizeof part, file)) text.append(part, bytes);
+  std::fclose(file);
+  return text;
+}
+
+double nanoseconds() {
+  timespec now{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+  return 1e9 * static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec);
+}
+
+template <class M>
+bool read(const std::string& text) {
+  const orvanta::Value parsed = orvanta::parseJSON(text);
+  return parsed.dictionary() != nullptr && orvanta::make<M>(*parsed.dictionary());
+}
+
+bool makeAll() {
+  bool made = true;
+  for (const orvanta::Class* cls : orvanta::modelClasses()) {
+    const auto model = orvanta::makeModel(*cls, nullptr);
+    std::string text;
+    made = model && orvanta::writeJSON(model->dictionaryValue(), text) && made;
+  }
+  orvanta::OrvantaNotificationServiceExtension extension;
+  extension.serviceExtensionTimeWillExpire();
+  return made;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  using orvanta::benchmarks::peakResidentKiB;
+  if (argc == 2 && std::strcmp(argv[1], "all") == 0) return makeAll() ? 0 : 1;
+  if (argc == 2) std::printf("%ld\n", peakResidentKiB());
+  if (argc != 3) return 0;
+  const std::string text = contentsOf(argv[2]);
+  const long residentBefore = peakResidentKiB();
+  const double begin = nanoseconds();
+  if (std::strcmp(argv[1], "push") == 0) {
+    if (!read<orvanta::OrvantaPushObject>(text)) return 1;
+    std::printf("%.0f\n", nanoseconds() - begin);
+  } else {
+    if (!read<orvanta::OrvantaInboxResponse>(text)) return 1;
+    std::printf("%ld\n", peakResidentKiB() - residentBefore);
+  }
+}
