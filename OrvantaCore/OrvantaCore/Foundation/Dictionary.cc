@@ -103,8 +103,8 @@ void Dictionary::detach(std::size_t capacity) {
   if (isOwn && node_->capacity() >= capacity) return;
   DictionaryNode* own = DictionaryNode::create(std::max(capacity, size()), nullptr);
   for (const Entry& entry : *this) {
-    Entry copy = isOwn ? std::move(const_cast<Entry&>(entry)) : entry;
-    own->push(std::move(copy.keyValue), std::move(copy.value));
+    Value value = isOwn ? std::move(const_cast<Value&>(entry.value)) : Value(entry.value);
+    own->push(entry.keyValue, std::move(value));
   }
   *this = Dictionary();
   node_ = own;

@@ -265,7 +265,7 @@ bool OrvantaBaseModel::component(const Value& value, const Class* declared, Valu
         converted.append(*before);
       }
     }
-    if (isConverted) converted.append(isMade ? std::move(madeElement) : element);
+    if (isConverted) converted.append(isMade ? std::move(madeElement) : Value(element));
   }
   if (isConverted) made = std::move(converted);
   return isConverted;
