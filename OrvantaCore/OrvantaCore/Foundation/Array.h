@@ -59,8 +59,9 @@ class ArrayNode : public Node {
   std::size_t capacity() const noexcept { return capacity_; }
   Value* elements() noexcept { return reinterpret_cast<Value*>(this + 1); }
   const Value* elements() const noexcept { return reinterpret_cast<const Value*>(this + 1); }
-  void push(Value element) noexcept {
-    new (elements() + size_) Value(std::move(element));
+  template <class V>
+  void push(V&& element) noexcept {
+    new (elements() + size_) Value(std::forward<V>(element));
     ++size_;
   }
   void removeFirst(std::size_t count) noexcept;

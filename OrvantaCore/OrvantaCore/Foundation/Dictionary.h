@@ -50,6 +50,9 @@ class Dictionary {
   void set(const Value& key, Value value);
   /// Stores a value that is not nil under a key that is known to be new; faster.
   inline void append(const Value& key, Value&& value);
+  /// The same with room that `reserve` made just now, in a dictionary without a copy.
+  template <class V>
+  inline void appendInReserve(const Value& key, V&& value);
   void remove(std::string_view key);
   /// Stores every entry of the other dictionary over this one's.
   void addEntries(const Dictionary& other);
@@ -86,9 +89,9 @@ class DictionaryNode : public Node {
     return const_cast<Entry*>(static_cast<const DictionaryNode*>(this)->find(key));
   }
   /// Appends an entry whose key is known to be new.
-  template <class Key>
-  void push(Key&& key, Value&& value) {
-    new (entries() + size_) Entry{std::forward<Key>(key), std::move(value)};
+  template <class Key, class V>
+  void push(Key&& key, V&& value) {
+    new (entries() + size_) Entry{Value(std::forward<Key>(key)), Value(std::forward<V>(value))};
     if (++size_ >= kIndexedSize) enterNewest();
   }
   void erase(Entry* entry) noexcept;
@@ -120,6 +123,11 @@ inline void Dictionary::append(const Value& key, Value&& value) {
     return appendWithRoom(key, std::move(value));
   }
   const_cast<DictionaryNode*>(node_)->push(key, std::move(value));
+}
+
+template <class V>
+inline void Dictionary::appendInReserve(const Value& key, V&& value) {
+  const_cast<DictionaryNode*>(node_)->push(key, std::forward<V>(value));
 }
 
 inline const Value& Dictionary::valueForKey(const Value& key, std::size_t& hint) const noexcept {

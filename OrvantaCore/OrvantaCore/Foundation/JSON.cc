@@ -46,14 +46,14 @@ class TreeBuilder {
       const std::uint64_t bit = std::uint64_t{1} << signature(item.key);
       if ((seen & bit) != 0 && replace(*node, item)) continue;
       seen |= bit;
-      node->push(Value(item.key), Value(item.value));
+      node->push(item.key, item.value);
     }
     finish(Value::sharedBits(Kind::dictionary, node), items.size());
   }
   void endArray(std::size_t /*offset*/) {
     const std::span<const Item> items = close();
     ArrayNode* node = ArrayNode::create(items.size(), arena_);
-    for (const Item& item : items) node->push(Value(item.value));
+    for (const Item& item : items) node->push(item.value);
     finish(Value::sharedBits(Kind::array, node), items.size());
   }
   void string(std::string_view text, std::size_t /*offset*/) { add(carved(text)); }

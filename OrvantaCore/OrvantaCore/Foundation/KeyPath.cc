@@ -1,5 +1,7 @@
 #include "Foundation/KeyPath.h"
 
+#include <algorithm>
+
 #include "Foundation/Array.h"
 #include "Foundation/Dictionary.h"
 #include "Foundation/Exception.h"
@@ -8,6 +10,7 @@ namespace orvanta {
 
 std::vector<Value> splitKeyPath(std::string_view path) {
   std::vector<Value> names;
+  names.reserve(1 + static_cast<std::size_t>(std::count(path.begin(), path.end(), '.')));
   for (;;) {
     const auto dot = path.find('.');
     names.emplace_back(path.substr(0, dot));

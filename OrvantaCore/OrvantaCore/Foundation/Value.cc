@@ -50,7 +50,8 @@ Value::Value(const ClassObject* cls) noexcept {
   setWord(1, std::bit_cast<std::uint64_t>(cls));
 }
 
-void Value::destroyNode() const noexcept {
+void Value::releaseNode() const noexcept {
+  if (!node()->release()) return;
   switch (kind()) {
     case Kind::array:
       static_cast<const ArrayNode*>(node())->destroy();

@@ -87,8 +87,7 @@ class Value {
   explicit Value(const ClassObject* cls) noexcept;
 
   Value(const Value& other) noexcept {
-    // The other one is asked, since this one's bits would be read in other pieces than they were
-    // just written in, which processors are slow at.
+    // The other one is asked: bits that were just written are slow to read in other pieces.
     copyBits(other);
     if (other.isShared()) other.node()->retain();
   }
@@ -160,6 +159,7 @@ class Value {
 
  private:
   friend class Array;
+  friend class ArrayNode;
   friend class Dictionary;
   friend class DictionaryNode;
   friend class Number;
@@ -217,7 +217,12 @@ class Value {
   void setWord(int index, std::uint64_t bits) noexcept {
     std::memcpy(bytes_ + std::ptrdiff_t{8} * index, &bits, sizeof bits);
   }
-  void copyBits(const Value& other) noexcept { std::memcpy(bytes_, other.bytes_, sizeof bytes_); }
+  /// Word by word, as values are made.
+  void copyBits(const Value& other) noexcept {
+    const Bits taken = other.bits();
+    setWord(0, taken.words[0]);
+    setWord(1, taken.words[1]);
+  }
   bool hasSameBits(const Value& other) const noexcept {
     return word(0) == other.word(0) && word(1) == other.word(1);
   }
@@ -225,10 +230,7 @@ class Value {
   const Node* node() const noexcept { return std::bit_cast<const Node*>(word(1)); }
   /// Becomes nil and gives nothing back.
   void forget() noexcept { std::memset(bytes_, 0, sizeof bytes_); }
-  void releaseNode() const noexcept {
-    if (node()->release()) destroyNode();
-  }
-  void destroyNode() const noexcept;
+  void releaseNode() const noexcept;
   /// The text of a value that is known to be a string or a URL.
   std::string_view text() const noexcept;
   template <class T>
