@@ -6,13 +6,10 @@ ORVANTA_IMPLEMENTATION(OrvantaIdentifiers)
 
 void OrvantaIdentifiers::removePropertiesSameWithIdentifiers(const OrvantaIdentifiers* other) {
   if (other == nullptr) return;
-  const auto held = [](const OrvantaIdentifiers* identifiers, const Property& property) -> Value& {
-    return *static_cast<Value*>(property.field(const_cast<OrvantaIdentifiers&>(*identifiers)));
-  };
   for (const Property& property : kClass.properties) {  // stored objects, all of them
-    Value& own = held(this, property);
+    Value& own = *static_cast<Value*>(property.field(*this));
     if (own.isNil() || own.isNull()) continue;
-    if (own == held(other, property)) own = Value();
+    if (own == *static_cast<const Value*>(property.field(*other))) own = Value();
   }
 }
 

@@ -10,7 +10,7 @@ namespace orvanta {
 
 void Property::assignTo(OrvantaBaseModel& object, const Value& value) const {
   if (set != nullptr) return set(object, value);
-  if (field == nullptr) throw Exception::undefinedKey(object.isa().name, name, /*writing=*/true);
+  if (!isStored()) throw Exception::undefinedKey(object.isa().name, name, /*writing=*/true);
   void* at = field(object);
   switch (encoding.front()) {
     case 'B':
@@ -37,8 +37,7 @@ void Property::assignTo(OrvantaBaseModel& object, const Value& value) const {
 }
 
 void Property::assignTo(OrvantaBaseModel& object, Value&& value) const {
-  const bool isScalar = encoding.front() != '@' && encoding.front() != '#';
-  if (isScalar || set != nullptr || field == nullptr) return assignTo(object, value);
+  if (isScalar() || set != nullptr || !isStored()) return assignTo(object, value);
   *static_cast<Value*>(field(object)) = std::move(value);
 }
 
@@ -51,8 +50,23 @@ const Property* Class::property(std::string_view wanted) const {
   return nullptr;
 }
 
+std::string_view Class::encoding(std::string_view wanted) const {
+  std::string_view found;
+  for (const Class* cls = this; cls != nullptr; cls = cls->parent()) {
+    for (const Property& property : cls->properties) {
+      if (property.name == wanted) found = property.encoding;
+    }
+  }
+  return found;
+}
+
 Dictionary Class::mergedKeyTable() const {
+  std::size_t most = 0;
+  for (const Class* cls = this; cls != nullptr; cls = cls->parent()) {
+    most += cls->keyPathPropertySelectorMapping.size();
+  }
   Dictionary merged;
+  merged.reserve(most);
   for (const Class* cls = this; cls != nullptr; cls = cls->parent()) {
     for (const KeyEntry& entry : cls->keyPathPropertySelectorMapping) {
       merged.set(entry.keyPath, entry.property);
@@ -76,7 +90,6 @@ struct Class::Resolved {
   std::recursive_mutex lock;
   std::optional<const Dictionary> typeCache;
   std::optional<const MappingPlan> plan;
-  std::atomic<const MappingPlan*> readyPlan{nullptr};
 };
 
 Class::Resolved& Class::resolved() const {
@@ -103,12 +116,11 @@ const Dictionary& Class::propertyTypeEncodingCache() const {
   return *state.typeCache;
 }
 
-const MappingPlan& Class::plan() const {
+const MappingPlan& Class::makePlan() const {
   Resolved& state = resolved();
-  if (const MappingPlan* ready = state.readyPlan.load(std::memory_order_acquire)) return *ready;
   const std::lock_guard guard(state.lock);
   if (!state.plan) state.plan.emplace(*this, mergedKeyTable(), mergedClassTable());
-  state.readyPlan.store(&*state.plan, std::memory_order_release);
+  plan_.store(&*state.plan, std::memory_order_release);
   return *state.plan;
 }
 
@@ -127,25 +139,36 @@ Converter converterFor(std::string_view encoding) {
 
 MappingPlan::MappingPlan(const Class& cls, const Dictionary& keyTable,
                          const Dictionary& classTable) {
-  const Dictionary& encodings = cls.propertyTypeEncodingCache();
   entries.reserve(keyTable.size());
   for (const Dictionary::Entry& row : keyTable) {
-    const std::string_view name = row.value.string().value_or("");
-    const auto encoding = encodings[name].string();
+    const bool isNamed = row.value.isString();
+    const std::string_view name = isNamed ? *row.value.string() : "";
+    const Property* property = cls.property(name);
+    const bool isReadFromField = property != nullptr && property->get == nullptr;
     MappingEntry entry{
         .key = row.keyValue,
-        .path = splitKeyPath(row.key()),
-        .sharesParent = false,
-        .propertyName = name,
-        .propertyPath = splitKeyPath(name),
-        .property = cls.property(name),
-        .converter = encoding ? converterFor(*encoding) : Converter::none,
+        .property = property,
         .model = modelClassIn(classTable[name]),
+        .objectOffset = isReadFromField && !property->isScalar() ? property->offset : 0,
+        .converter = converterFor(cls.encoding(name)),
+        .depth = KeyDepth::one,
+        .takesText = false,
+        .sharesParent = false,
+        .parent = {},
+        .child = {},
+        .propertyName = isNamed ? row.value : Value(""),
     };
-    if (!entries.empty()) {
-      const auto& before = entries.back().path;
-      entry.sharesParent =
-          before.size() == 2 && entry.path.size() == 2 && before.front() == entry.path.front();
+    entry.takesText =
+        entry.objectOffset != 0 && property->set == nullptr && entry.converter == Converter::none;
+    const std::string_view key = row.key();
+    if (const auto dot = key.find('.'); dot != std::string_view::npos) {
+      entry.depth =
+          key.find('.', dot + 1) == std::string_view::npos ? KeyDepth::two : KeyDepth::more;
+      entry.parent = key.substr(0, dot);
+      entry.child = key.substr(dot + 1);
+      entry.sharesParent = entry.depth == KeyDepth::two && !entries.empty() &&
+                           entries.back().depth == KeyDepth::two &&
+                           entries.back().parent == entry.parent;
     }
     entries.push_back(std::move(entry));
   }

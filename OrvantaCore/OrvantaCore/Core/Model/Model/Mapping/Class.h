@@ -25,12 +25,20 @@ struct Property {
   std::string_view encoding;
   Ownership ownership;
   bool readOnly;
-  /// Where the value is stored in an object; nullptr for a computed property.
-  void* (*field)(OrvantaBaseModel&);
+  /// Where the value is stored in an object, in bytes from its start; 0 for a computed property.
+  std::size_t offset;
   /// Reads or writes through accessors of the class instead of the field; may be nullptr.
   Value (*get)(const OrvantaBaseModel&);
   void (*set)(OrvantaBaseModel&, const Value&);
 
+  bool isStored() const { return offset != 0; }
+  void* field(OrvantaBaseModel& object) const {
+    return reinterpret_cast<std::byte*>(&object) + offset;
+  }
+  const void* field(const OrvantaBaseModel& object) const {
+    return reinterpret_cast<const std::byte*>(&object) + offset;
+  }
+  bool isScalar() const { return encoding.front() != '@' && encoding.front() != '#'; }
   [[gnu::always_inline]] inline Value valueIn(const OrvantaBaseModel& object) const;
   /// Scalars take the value's numeric reading, which throws the invalid-argument exception when
   /// there is none.
@@ -40,7 +48,7 @@ struct Property {
 
 inline Value Property::valueIn(const OrvantaBaseModel& object) const {
   if (get != nullptr) return get(object);
-  const void* at = field(const_cast<OrvantaBaseModel&>(object));
+  const void* at = field(object);
   switch (encoding.front()) {
     case 'B':
       return *static_cast<const bool*>(at);
@@ -93,6 +101,8 @@ struct Class : ClassObject {
   const Class* parent() const { return static_cast<const Class*>(superclass); }
   /// The property of that name of the class or its nearest ancestor, or nullptr.
   const Property* property(std::string_view wanted) const;
+  /// The type code of that name in the farthest ancestor that declares it, else empty.
+  std::string_view encoding(std::string_view wanted) const;
 
   /// Both tables merged along the class chain: the most derived class's entries first, and an
   /// ancestor's entry wins over a descendant's of the same key.
@@ -102,12 +112,17 @@ struct Class : ClassObject {
   /// under the class's own recursive lock; from any thread.
   const Dictionary& propertyTypeEncodingCache() const;
   /// The merged tables, resolved; made once under the same lock.
-  const MappingPlan& plan() const;
+  const MappingPlan& plan() const {
+    const MappingPlan* made = plan_.load(std::memory_order_acquire);
+    return made != nullptr ? *made : makePlan();
+  }
 
  private:
   struct Resolved;
   Resolved& resolved() const;
+  [[gnu::cold]] const MappingPlan& makePlan() const;
   mutable std::atomic<Resolved*> resolved_{nullptr};
+  mutable std::atomic<const MappingPlan*> plan_{nullptr};
 };
 
 /// The model class that a value holds, or nullptr.

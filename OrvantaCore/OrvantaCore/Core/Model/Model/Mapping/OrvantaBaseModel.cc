@@ -18,12 +18,12 @@ namespace {
 constexpr std::string_view kTableEncoding = "@\"NSDictionary\"";
 
 constexpr Property kBaseProperties[] = {
-    {"keyPathPropertyDictionary", kTableEncoding, Ownership::strong, false, nullptr,
+    {"keyPathPropertyDictionary", kTableEncoding, Ownership::strong, false, 0,
      [](const OrvantaBaseModel& o) -> Value { return o.keyPathPropertyDictionary(); },
      [](OrvantaBaseModel& o, const Value& v) {
        o.setKeyPathPropertyDictionary(v.dictionary() != nullptr ? *v.dictionary() : Dictionary());
      }},
-    {"keyPathClassDictionary", kTableEncoding, Ownership::strong, false, nullptr,
+    {"keyPathClassDictionary", kTableEncoding, Ownership::strong, false, 0,
      [](const OrvantaBaseModel& o) -> Value { return o.keyPathClassDictionary(); },
      [](OrvantaBaseModel& o, const Value& v) {
        o.setKeyPathClassDictionary(v.dictionary() != nullptr ? *v.dictionary() : Dictionary());
@@ -102,21 +102,24 @@ class Lookup {
   explicit Lookup(const Dictionary& dictionary) : dictionary_(dictionary) {}
 
   const Value& find(const MappingEntry& entry) {
-    if (entry.path.size() == 1) return dictionary_.valueForKey(entry.path.front(), hint_);
-    if (entry.path.size() == 2) {
+    if (entry.depth == KeyDepth::one) return dictionary_.valueForKey(entry.key, hint_);
+    if (entry.depth == KeyDepth::two) {
       if (!entry.sharesParent) {
-        parent_ = dictionary_.valueForKey(entry.path.front()).dictionary();
+        parent_ = &dictionary_.valueForKey(entry.parent);
         hint_ = 0;
       }
-      if (parent_ != nullptr) return parent_->valueForKey(entry.path.back(), hint_);
+      if (parent_->isNil()) return *parent_;
+      if (const Dictionary* parent = parent_->dictionary()) {
+        return parent->valueForKey(entry.child, hint_);
+      }
     }
-    collected_ = valueForKeyPath(dictionary_, entry.path);
+    collected_ = valueForKeyPath(dictionary_, *entry.key.string());
     return collected_;
   }
 
  private:
   const Dictionary& dictionary_;
-  const Dictionary* parent_ = nullptr;
+  const Value* parent_ = nullptr;
   std::size_t hint_ = 0;  // entries often come in the table's order
   Value collected_;
 };
@@ -193,7 +196,11 @@ bool OrvantaBaseModel::updateWithDictionary(const Dictionary* dictionary) {
     for (const MappingEntry& entry : plan.entries) {
       current = &entry;
       const Value& found = lookup.find(entry);
-      if (!found.isNil() && !apply(entry, found)) return refuse({});
+      if (found.isString() && entry.takesText) {  // the most of them
+        *entry.objectIn(*this) = found;
+      } else if (!found.isNil() && !apply(entry, found)) {
+        return refuse({});
+      }
     }
     return true;
   } catch (const Exception& error) {
@@ -214,7 +221,7 @@ bool OrvantaBaseModel::apply(const MappingEntry& entry, const Value& found) {
   Value made;
   const bool isMade = isFullContainer(found) && component(found, entry.model, made);
   const Value* value = isMade ? &made : &found;
-  const bool isPath = entry.propertyPath.size() > 1;
+  const bool isPath = entry.hasPropertyPath();
   if (entry.converter != Converter::none || isPath) {
     if (value == &found) made = found;
     value = &made;
@@ -413,7 +420,7 @@ std::string_view refusalReason(const MappingEntry& entry) {
 void OrvantaBaseModel::recordRefusal(const MappingEntry& entry,
                                      const Dictionary& dictionary) const {
   std::string reason;
-  const Value value = reachedAt(dictionary, entry.path, reason);
+  const Value value = reachedAt(dictionary, splitKeyPath(*entry.key.string()), reason);
   if (reason.empty()) reason = refusalReason(entry);
   RefusalRecorder::current()->record(isa(), *entry.key.string(), *entry.propertyName.string(),
                                      value.kindName(), reason);

@@ -10,7 +10,7 @@ namespace orvanta {
 Value OrvantaBaseModel::readForWriting(const MappingEntry& entry) const {
   try {
     return entry.property != nullptr ? entry.property->valueIn(*this)
-                                     : valueForKeyPath(Value(this), entry.propertyPath);
+                                     : valueForKeyPath(Value(this), *entry.propertyName.string());
   } catch (const std::bad_alloc&) {
     throw;
   } catch (const std::exception&) {
@@ -30,10 +30,22 @@ Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
   const auto ownPlan = this->ownPlan();  // a getter may replace the tables
   const MappingPlan& plan = ownPlan != nullptr ? *ownPlan : isa().plan();
   Dictionary result;
+  const auto add = [&]<class V>(const Value& key, V&& value) {
+    if (result.empty()) result.reserve(plan.entries.size() + (classInfo ? 1 : 0));
+    result.appendInReserve(key, std::forward<V>(value));
+  };
   for (const MappingEntry& entry : plan.entries) {
+    const Value* held = entry.objectIn(*this);
+    if (held != nullptr) {  // most are, and most of those are nil or text
+      if (held->isNil()) continue;
+      if (held->isString() && entry.converter == Converter::none) {
+        add(entry.key, *held);
+        continue;
+      }
+    }
     const Property* property = entry.property;
-    const bool isStored = property != nullptr && property->get == nullptr;
-    Value value = isStored ? property->valueIn(*this) : readForWriting(entry);
+    const bool isField = property != nullptr && property->get == nullptr;
+    Value value = isField ? property->valueIn(*this) : readForWriting(entry);
     if (value.isNil() || isUnsetInteger(value)) continue;
     if (const auto* model = value.as<OrvantaBaseModel>()) {
       value = model->dictionaryValueWithPolicy(classInfo);
@@ -43,8 +55,7 @@ Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
     if (entry.converter != Converter::none && (!convert(value, entry.converter) || value.isNil())) {
       continue;
     }
-    if (result.empty()) result.reserve(plan.entries.size() + (classInfo ? 1 : 0));
-    result.append(entry.key, std::move(value));
+    add(entry.key, std::move(value));
   }
   if (classInfo) result.set("klazz", isa().name);
   return result;
@@ -70,7 +81,7 @@ Dictionary OrvantaBaseModel::flattened(const OrvantaBaseModel* model, bool class
                                        const Dictionary& own) {
   if (model == nullptr) return own;
   Dictionary result = model->dictionaryValueWithPolicy(classInfo);
-  result.remove("klazz");  // the object's own comes last
+  if (classInfo) result.remove("klazz");  // the object's own comes last
   result.addEntries(own);
   return result;
 }

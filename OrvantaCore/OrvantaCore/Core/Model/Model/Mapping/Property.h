@@ -169,7 +169,6 @@ template <class T>
 struct Stored {
   using Field = Held<T>;
   using Read = const Held<T>&;
-  static void* field(Field& held) { return &held.edit(); }
   static Value box(Read held) { return held.value(); }
   static Field unbox(const Value& value) { return Field::any(value); }
   static constexpr std::string_view encoding(std::string_view quotedName) {
@@ -181,7 +180,6 @@ requires std::is_arithmetic_v<T>
 struct Stored<T> {
   using Field = T;
   using Read = T;
-  static void* field(Field& scalar) { return &scalar; }
   static Value box(T scalar) { return scalar; }
   static Field unbox(const Value& value) { return scalarReading<T>(value); }
   static constexpr std::string_view encoding(std::string_view /*quotedName*/) {
@@ -310,21 +308,27 @@ struct Reflect {
                                       []() -> OrvantaBaseModel* { return new Self_; }}; \
   const Class& classObjectOf##Self_() { return Self_::classObject(); }
 
+// Models have one line of ancestors; where a member of such a class stands is known to every
+// compiler for our platforms, though the standard leaves it to them.
+#define ORVANTA_OFFSETS_BEGIN_ \
+  _Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Winvalid-offsetof\"")
+#define ORVANTA_OFFSETS_END_ _Pragma("GCC diagnostic pop")
+
 #define ORVANTA_ROW_(key_, name_, model_, ...)                                         \
+  ORVANTA_OFFSETS_BEGIN_                                                               \
   static consteval Reflect::Row declared(Line<__LINE__ - kFirstLine>) {                \
     static_assert(__LINE__ - kFirstLine < Reflect::kMostLines, "class body too long"); \
     return {__VA_ARGS__, key_, model_};                                                \
-  }
+  }                                                                                    \
+  ORVANTA_OFFSETS_END_
 
-#define ORVANTA_STORED_(key_, ownership_, type_, name_, readOnly_, get_, set_, ...)              \
- protected:                                                                                      \
-  Stored<type_>::Field name_##_{};                                                               \
-  ORVANTA_ROW_(                                                                                  \
-      key_, name_, modelClass<__VA_ARGS__>(),                                                    \
-      {#name_, Stored<type_>::encoding("@\"" #type_ "\""), Ownership::ownership_, readOnly_,     \
-       [](OrvantaBaseModel& o) { return Stored<type_>::field(static_cast<Self&>(o).name_##_); }, \
-       get_, set_})                                                                              \
-                                                                                                 \
+#define ORVANTA_STORED_(key_, ownership_, type_, name_, readOnly_, get_, set_, ...)        \
+ protected:                                                                                \
+  Stored<type_>::Field name_##_{};                                                         \
+  ORVANTA_ROW_(key_, name_, modelClass<__VA_ARGS__>(),                                     \
+               {#name_, Stored<type_>::encoding("@\"" #type_ "\""), Ownership::ownership_, \
+                readOnly_, offsetof(Self, name_##_), get_, set_})                          \
+                                                                                           \
  public:
 
 /// A property: wire key (or kUnmapped), ownership (assign, copy, strong), type, getter, setter and,
@@ -367,20 +371,19 @@ struct Reflect {
       nullptr, )
 
 /// A property without storage, over accessors that the class declares; `set_` may be nullptr.
-#define ORVANTA_COMPUTED(key_, ownership_, encoding_, name_, get_, set_)                           \
- protected:                                                                                        \
-  ORVANTA_ROW_(key_, name_, nullptr,                                                               \
-               {#name_, encoding_, Ownership::ownership_, (set_) == nullptr, nullptr, get_, set_}) \
-                                                                                                   \
+#define ORVANTA_COMPUTED(key_, ownership_, encoding_, name_, get_, set_)                     \
+ protected:                                                                                  \
+  ORVANTA_ROW_(key_, name_, nullptr,                                                         \
+               {#name_, encoding_, Ownership::ownership_, (set_) == nullptr, 0, get_, set_}) \
+                                                                                             \
  public:
 
 /// A further wire key of a property that an ancestor declares.
-#define ORVANTA_FURTHER_KEY(key_, name_)                                          \
- protected:                                                                       \
-  static_assert(requires(const Super& ancestor) { ancestor.name_(); });           \
-  ORVANTA_ROW_(key_, name_, nullptr,                                              \
-               {#name_, {}, Ownership::assign, false, nullptr, nullptr, nullptr}) \
-                                                                                  \
+#define ORVANTA_FURTHER_KEY(key_, name_)                                                          \
+ protected:                                                                                       \
+  static_assert(requires(const Super& ancestor) { ancestor.name_(); });                           \
+  ORVANTA_ROW_(key_, name_, nullptr, {#name_, {}, Ownership::assign, false, 0, nullptr, nullptr}) \
+                                                                                                  \
  public:
 
 // NOLINTEND(bugprone-macro-parentheses)
