@@ -11,6 +11,7 @@
 #include <system_error>
 
 #include "Foundation/CharacterSet.h"
+#include "Platform/Linux/Files.h"
 #include "Platform/Linux/MediaTypes.h"
 
 namespace orvanta {
@@ -130,9 +131,7 @@ HostURLSession::Fetched HostURLSession::fetchFromNetwork(const Url& url) {
   TransferResult result = transfer(url, options_.temporaryFolder, limits, options_.progress);
   const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
   if (result.file) {
-    const fs::path renamed = newTemporaryFile();
-    fs::rename(*result.file, renamed);
-    result.file = renamed;
+    result.file = newTemporaryFile(*result.file);
   }
   return {std::move(result), taken.count()};
 }
@@ -191,15 +190,14 @@ TransferResult HostURLSession::answer(const Scenario::Media& media, const Url& u
   return {temporary, NSURLResponse::responseWithParts(std::move(parts)), nullptr};
 }
 
-fs::path HostURLSession::newTemporaryFile() const {
+fs::path HostURLSession::newTemporaryFile(const fs::path& content) const {
   constexpr int kMost = 100'000;  // a folder that takes no file ends the search
   for (int number = 1; number <= kMost; ++number) {
     char name[64];
     std::snprintf(name, sizeof name, "CFNetworkDownload_%06d.tmp", number);
-    const bool isCached = fs::exists(fs::symlink_status(options_.cachesFolder / name));
-    if (!isCached && makeNewFile(options_.temporaryFolder / name)) {
-      return options_.temporaryFolder / name;
-    }
+    if (fs::exists(fs::symlink_status(options_.cachesFolder / name))) continue;
+    fs::path file = options_.temporaryFolder / name;
+    if (content.empty() ? makeNewFile(file) : moveFile(content, file) == 0) return file;
   }
   throw std::runtime_error(options_.temporaryFolder.string() + ": no file can be made");
 }
