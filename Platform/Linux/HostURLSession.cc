@@ -13,6 +13,7 @@
 #include "Foundation/CharacterSet.h"
 #include "Platform/Linux/Files.h"
 #include "Platform/Linux/MediaTypes.h"
+#include "Platform/Linux/URLErrors.h"
 
 namespace orvanta {
 
@@ -20,8 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::int64_t kNoPermission = -1102;
-constexpr std::int64_t kCannotWriteToFile = -3003;
 constexpr double kGraceAfterExpiry = 5.0;  // seconds
 
 /// Whether a path lies below a folder, links followed.
@@ -44,17 +43,17 @@ bool makeNewFile(const fs::path& file) {
 /// Copies a file over an empty one. 0, or the code of NSURLErrorDomain.
 std::int64_t copyFile(const fs::path& from, const fs::path& to, std::uint64_t most) {
   std::ifstream in(from, std::ios::binary);
-  if (!in) return kNoPermission;
+  if (!in) return kNSURLErrorNoPermissionsToReadFile;
   std::ofstream out(to, std::ios::binary);
   char buffer[65536];
   std::uint64_t copied = 0;
   while (in.read(buffer, sizeof buffer), in.gcount() > 0) {
     copied += static_cast<std::uint64_t>(in.gcount());
     if (copied > most) return kNSURLErrorDataLengthExceedsMaximum;
-    if (!out.write(buffer, in.gcount())) return kCannotWriteToFile;
+    if (!out.write(buffer, in.gcount())) return kNSURLErrorCannotWriteToFile;
   }
-  if (in.bad()) return kNoPermission;
-  return out.flush() ? 0 : kCannotWriteToFile;
+  if (in.bad()) return kNSURLErrorNoPermissionsToReadFile;
+  return out.flush() ? 0 : kNSURLErrorCannotWriteToFile;
 }
 
 std::string sizeText(const fs::path& file) {
@@ -116,7 +115,7 @@ HostURLSession::Fetched HostURLSession::fetch(const Url& url) {
         return {fetchFile("/", url.path(), url, /*overHTTP=*/false)};
       }
     }
-    return {{std::nullopt, nullptr, urlError(kNoPermission, url)}};
+    return {{std::nullopt, nullptr, urlError(kNSURLErrorNoPermissionsToReadFile, url)}};
   }
   return fetchFromNetwork(url);
 }
