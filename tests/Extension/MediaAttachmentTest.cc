@@ -40,9 +40,12 @@ TEST_F(MediaAttachment, AFailureCompletesWithItsErrorAndLeavesTheContent) {
   downloadAndSet();
   platform.runAll();
   EXPECT_EQ(platform.calls.back(), "complete 102");
-  platform.absent = {"session", "files", "types", "attachments"};
-  downloadAndSet();
-  EXPECT_EQ(platform.calls.back(), "complete -1002");
+  for (const char* const service : {"session", "files", "types", "attachments"}) {
+    platform.absent = {service};
+    downloadAndSet();
+    EXPECT_EQ(platform.calls.back(), "complete -1002") << service;
+    platform.calls.clear();
+  }
   EXPECT_EQ(content_->attachments.size(), 2U);
 }
 

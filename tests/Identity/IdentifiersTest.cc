@@ -37,9 +37,14 @@ TEST(OrvantaIdentifiers, DropsWhatTheOtherHasTheSameOf) {
   };
   for (const auto& row : rows) {
     const auto own = made<OrvantaIdentifiers>(row.own);
+    const auto named = made<OrvantaIdentifiers>(row.own);
     const auto other = row.other.empty() ? nullptr : made<OrvantaIdentifiers>(row.other);
     own->removePropertiesSameWithIdentifiers(other.get());
     EXPECT_EQ(Value(own->dictionaryValue()), parsed(row.left)) << row.own;
+    for (const Property& property : named->isa().properties) {
+      named->removePropertiesWithKeys({&property.name, 1}, other.get());
+    }
+    EXPECT_EQ(Value(named), Value(own)) << row.own;
   }
 }
 

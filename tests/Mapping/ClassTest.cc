@@ -12,7 +12,7 @@ Value leafClass() { return Value(&LeafModel::classObject()); }
 TEST(ClassTables, AnObjectsOwnKeyTableServesBothDirections) {
   const auto model = make<LeafModel>();
   const auto other = make<LeafModel>();
-  model->setKeyPathPropertyDictionary({{"other.name", "name"}});
+  model->setValueForKey(Dictionary({{"other.name", "name"}}), "keyPathPropertyDictionary");
   EXPECT_TRUE(update(*model, R"({"other": {"name": "a"}, "name": "b", "size": 3})"));
   EXPECT_EQ(model->name().get(), "a");
   EXPECT_EQ(model->size(), 0);
@@ -20,7 +20,7 @@ TEST(ClassTables, AnObjectsOwnKeyTableServesBothDirections) {
   EXPECT_TRUE(update(*other, R"({"name": "b"})"));  // the class keeps its table
   EXPECT_EQ(other->name().get(), "b");
 
-  model->setKeyPathPropertyDictionary({});  // counts as not set
+  model->setValueForKey("no table", "keyPathPropertyDictionary");  // counts as not set
   EXPECT_EQ(model->keyPathPropertyDictionary(), LeafModel::classObject().mergedKeyTable());
   EXPECT_TRUE(update(*model, R"({"name": "c"})"));
   EXPECT_EQ(model->name().get(), "c");
@@ -29,14 +29,15 @@ TEST(ClassTables, AnObjectsOwnKeyTableServesBothDirections) {
 TEST(ClassTables, AnObjectsOwnClassTableDecidesWhatIsMade) {
   const auto model = make<NestingModel>();
   const Value noModel(&Plain::classObject());
-  model->setKeyPathClassDictionary(
-      {{"free", leafClass()}, {"list", "not a class"}, {"leaf", noModel}});
+  const Dictionary table{{"free", leafClass()}, {"list", "not a class"}, {"leaf", noModel}};
+  model->setValueForKey(table, "keyPathClassDictionary");
+  EXPECT_EQ(model->valueForKey("keyPathClassDictionary"), Value(table));
   EXPECT_TRUE(update(*model, R"({"free": {"name": "a"}, "leaf": {}, "list": [{}]})"));
   EXPECT_NE(model->free().value().as<LeafModel>(), nullptr);
   EXPECT_NE(model->leaf().value().dictionary(), nullptr);
   EXPECT_EQ(model->list().value(), Value(Array({Dictionary()})));
 
-  model->setKeyPathClassDictionary({});
+  model->setValueForKey(Value(), "keyPathClassDictionary");
   EXPECT_TRUE(update(*model, R"({"free": {}, "leaf": {}})"));
   EXPECT_NE(model->free().value().dictionary(), nullptr);
   EXPECT_NE(model->leaf().get(), nullptr);

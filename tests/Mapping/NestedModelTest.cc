@@ -58,6 +58,8 @@ TEST(NestedModel, ArraysKeepOrderAndCountAndAreConvertedAtEveryDepth) {
   EXPECT_EQ(classOrKind(list[0]), "OrvantaPushStyle");
   EXPECT_EQ(classOrKind(list[1]), "a dictionary");
   EXPECT_EQ(classOrKind((*list[2].array())[0]), "OrvantaPushStyle");
+  const Dictionary plain = dictionaryOf(R"({"list": [{"x": 1}, [2]]})");  // then it is shared
+  EXPECT_EQ(make<NestingModel>(plain)->list().get()->begin(), plain["list"].array()->begin());
 }
 
 TEST(NestedModel, OneThatRefusesItsDictionaryBecomesNil) {

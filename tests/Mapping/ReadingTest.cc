@@ -42,7 +42,9 @@ TEST(Reading, TypeCodeDecidesWhatBecomesOfEachKind) {
 TEST(Reading, EachScalarTakesTheReadingOfItsWidth) {
   Dictionary payload;
   for (const char* key : {"B", "i", "q", "Q", "f", "d"}) payload.set(key, -4294967298.75);
-  EXPECT_EQ(written(make<ScalarModel>(payload)->dictionaryValue()),
+  const auto model = make<ScalarModel>(payload);
+  EXPECT_TRUE(update(*model, R"({"B": 2})"));  // and leaves its neighbours alone
+  EXPECT_EQ(written(model->dictionaryValue()),
             R"({"B":true,"i":-2,"q":-4294967298,"Q":18446744069414584318,)"
             R"("f":-4294967296,"d":-4294967298.75})");
 }
@@ -58,6 +60,26 @@ TEST(Reading, NothingToReadIsSuccessAndChangesNothing) {
 
   const auto bare = make<OrvantaBaseModel>();
   EXPECT_TRUE(update(*bare, R"({"name": null})"));  // no table at all
+}
+
+TEST(Reading, ADottedKeyIsReadFromWhateverStandsOnItsWay) {
+  const struct {
+    std::string_view json;
+    std::string_view read;  // empty: refused
+  } rows[] = {
+      {R"({"a": {"b": {"c": 2}}, "aps": {"sound": "s", "tags": [], "badge": 1}, "title": "t"})",
+       R"({"aps.sound":"s","aps.badge":1,"a.b.c":2,"a.b":{"c":2},"aps.tags":[],"title":"t"})"},
+      {R"({"a": [{"b": {"c": 2}}, {}]})",
+       R"({"aps.badge":0,"a.b.c":[2,null],"a.b":[{"c":2},null]})"},
+      {R"({"a": {"b.c": 2}, "aps.sound": "s", "a.b.c": 2})", R"({"aps.badge":0})"},
+      {R"({"aps": null})", ""},
+      {R"({"aps": "text"})", ""},
+      {R"({"a": {"b": null}})", ""},
+  };
+  for (const auto& row : rows) {
+    const auto model = made<DottedModel>(row.json);
+    EXPECT_EQ(model ? written(model->dictionaryValue()) : "", row.read) << row.json;
+  }
 }
 
 TEST(Reading, DefaultsSetBeforeTheBaseHoldForMissingKeys) {
@@ -123,6 +145,8 @@ TEST(Reading, ADottedPropertyPathConvertsLikeTheNestedObject) {
 TEST(Reading, ASetterOfTheClassGetsContainersToo) {
   EXPECT_EQ(made<SetterModel>(R"({"text": {"a": 1}})")->before().get(), "another kind");
   EXPECT_EQ(made<SetterModel>(R"({"text": [1]})")->before().get(), "another kind");
+  const auto given = made<SetterModel>(R"({"text": {"klazz": "OrvantaPushStyle"}})");
+  EXPECT_EQ(given->before().get(), "another kind");
 }
 
 TEST(Reading, AnUpdateMayComeFromTheObjectItself) {

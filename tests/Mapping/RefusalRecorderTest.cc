@@ -25,6 +25,8 @@ TEST(RefusalRecorder, TellsPlaceKindAndReason) {
             "ScalarModel \"i\" (narrow): null, but a number is read from numbers and text only");
   EXPECT_EQ(refusalOf<DottedModel>(R"({"a": {"b": 1.5}})"),
             "DottedModel \"a.b.c\" (deep): a fraction, which has no key \"c\"");
+  EXPECT_EQ(refusalOf<DottedModel>(R"({"a": [{"b": {}}, {"b": "text"}, {"b": true}]})"),
+            "DottedModel \"a.b.c\" (deep): a string, which has no key \"c\"");
 }
 
 TEST(RefusalRecorder, TellsThePropertyThatIsMissing) {

@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "Requests/OrvantaEventRequest.h"
 #include "support/ModelZoo.h"
 
 namespace orvanta::testing {
@@ -52,6 +53,19 @@ TEST(RefusedUpdate, LetsOnlyTheLackOfMemoryPass) {
   const Dictionary payload{{"text", "memory"}};
   EXPECT_THROW(make<SetterModel>(payload), std::bad_alloc);
   EXPECT_TRUE(platform.log.empty());
+}
+
+/// A model whose first initialiser refuses, so that the others do.
+template <class M>
+class Refusing : public M {
+  bool init() override { return false; }
+};
+
+TEST(RefusedUpdate, OneInitialiserPassesOnThatOfAnother) {
+  using Alert = OrvantaPushObjectAlert;
+  EXPECT_FALSE(make<Refusing<Alert>>(&Alert::initWithString, "a"));
+  using Request = OrvantaEventRequest;
+  EXPECT_FALSE(make<Refusing<Request>>(&Request::initWithEventArray, Array()));
 }
 
 TEST(RefusedUpdate, AHugeDictionaryIsLoggedInPart) {

@@ -1,5 +1,7 @@
 #include "Mapping/Class.h"
 
+#include <algorithm>
+
 #include "Foundation/Exception.h"
 #include "Foundation/KeyPath.h"
 #include "Foundation/Number.h"
@@ -137,6 +139,12 @@ Converter converterFor(std::string_view encoding) {
   return Converter::none;
 }
 
+static KeyDepth depthOf(std::string_view key) {
+  const auto dots = std::count(key.begin(), key.end(), '.');
+  if (dots == 0) return KeyDepth::one;
+  return dots == 1 ? KeyDepth::two : KeyDepth::more;
+}
+
 MappingPlan::MappingPlan(const Class& cls, const Dictionary& keyTable,
                          const Dictionary& classTable) {
   entries.reserve(keyTable.size());
@@ -145,32 +153,26 @@ MappingPlan::MappingPlan(const Class& cls, const Dictionary& keyTable,
     const std::string_view name = isNamed ? *row.value.string() : "";
     const Property* property = cls.property(name);
     const bool isReadFromField = property != nullptr && property->get == nullptr;
-    MappingEntry entry{
+    const std::size_t objectOffset =
+        isReadFromField && !property->isScalar() ? property->offset : 0;
+    const Converter converter = converterFor(cls.encoding(name));
+    const std::string_view key = row.key();
+    const auto dot = key.find('.');
+    const bool isPath = dot != std::string_view::npos;
+    const Value parent = isPath ? Value(key.substr(0, dot)) : Value();
+    entries.push_back({
         .key = row.keyValue,
         .property = property,
         .model = modelClassIn(classTable[name]),
-        .objectOffset = isReadFromField && !property->isScalar() ? property->offset : 0,
-        .converter = converterFor(cls.encoding(name)),
-        .depth = KeyDepth::one,
-        .takesText = false,
-        .sharesParent = false,
-        .parent = {},
-        .child = {},
+        .objectOffset = objectOffset,
+        .converter = converter,
+        .depth = depthOf(key),
+        .takesText = objectOffset != 0 && property->set == nullptr && converter == Converter::none,
+        .sharesParent = !entries.empty() && entries.back().parent == parent,
+        .parent = parent,
+        .child = isPath ? Value(key.substr(dot + 1)) : Value(),
         .propertyName = isNamed ? row.value : Value(""),
-    };
-    entry.takesText =
-        entry.objectOffset != 0 && property->set == nullptr && entry.converter == Converter::none;
-    const std::string_view key = row.key();
-    if (const auto dot = key.find('.'); dot != std::string_view::npos) {
-      entry.depth =
-          key.find('.', dot + 1) == std::string_view::npos ? KeyDepth::two : KeyDepth::more;
-      entry.parent = key.substr(0, dot);
-      entry.child = key.substr(dot + 1);
-      entry.sharesParent = entry.depth == KeyDepth::two && !entries.empty() &&
-                           entries.back().depth == KeyDepth::two &&
-                           entries.back().parent == entry.parent;
-    }
-    entries.push_back(std::move(entry));
+    });
   }
 }
 

@@ -24,9 +24,9 @@ struct MappingEntry {
   Converter converter;
   KeyDepth depth;
   bool takesText;     // text is assigned as it comes, to the field
-  bool sharesParent;  // has two names, the first that of the entry before
-  Value parent;       // the first of two names
-  Value child;        // and the second
+  bool sharesParent;  // the entry before has the same parent
+  Value parent;       // the first name of a path of several, else nil
+  Value child;        // and what follows it
   Value propertyName;
 
   /// Whether the property's name is a path of several.

@@ -95,7 +95,7 @@ std::shared_ptr<const MappingPlan> OrvantaBaseModel::ownPlan() const {
 
 namespace {
 
-/// Finds the values of a plan's entries in one dictionary. The parent of a path of two names is
+/// Finds the values of a plan's entries in one dictionary. The parent of a path of several names is
 /// looked up once for a run of entries that share it.
 class Lookup {
  public:
@@ -103,15 +103,14 @@ class Lookup {
 
   const Value& find(const MappingEntry& entry) {
     if (entry.depth == KeyDepth::one) return dictionary_.valueForKey(entry.key, hint_);
-    if (entry.depth == KeyDepth::two) {
-      if (!entry.sharesParent) {
-        parent_ = &dictionary_.valueForKey(entry.parent);
-        hint_ = 0;
-      }
-      if (parent_->isNil()) return *parent_;
-      if (const Dictionary* parent = parent_->dictionary()) {
-        return parent->valueForKey(entry.child, hint_);
-      }
+    if (!entry.sharesParent) {
+      parent_ = &dictionary_.valueForKey(entry.parent);
+      hint_ = 0;
+    }
+    if (parent_->isNil()) return *parent_;
+    const Dictionary* parent = parent_->dictionary();
+    if (parent != nullptr && entry.depth == KeyDepth::two) {
+      return parent->valueForKey(entry.child, hint_);
     }
     collected_ = valueForKeyPath(dictionary_, *entry.key.string());
     return collected_;

@@ -31,7 +31,7 @@ Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
   const MappingPlan& plan = ownPlan != nullptr ? *ownPlan : isa().plan();
   Dictionary result;
   const auto add = [&]<class V>(const Value& key, V&& value) {
-    if (result.empty()) result.reserve(plan.entries.size() + (classInfo ? 1 : 0));
+    if (result.empty()) result.reserve(plan.entries.size());
     result.appendInReserve(key, std::forward<V>(value));
   };
   for (const MappingEntry& entry : plan.entries) {
