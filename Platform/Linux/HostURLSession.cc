@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <cstdio>
 #include <fstream>
@@ -34,10 +35,10 @@ bool liesBelow(const fs::path& path, const fs::path& folder) {
   return end == root.end();
 }
 
-/// Makes a new empty file; false when there is something of that name, be it a dangling link.
-bool makeNewFile(const fs::path& file) {
+/// Makes a new empty file: 0, or an errno; EEXIST also for a dangling link of that name.
+int makeNewFile(const fs::path& file) {
   const int made = open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
-  return made >= 0 && close(made) == 0;
+  return made >= 0 && close(made) == 0 ? 0 : errno;
 }
 
 /// Copies a file over an empty one. 0, or the code of NSURLErrorDomain.
@@ -176,7 +177,7 @@ TransferResult HostURLSession::answer(const Scenario::Media& media, const Url& u
   if (media.fails) return {std::nullopt, nullptr, urlError(media.errorCode, url)};
   const fs::path temporary =
       media.tempName ? options_.temporaryFolder / *media.tempName : newTemporaryFile();
-  if (media.tempName && !makeNewFile(temporary)) {
+  if (media.tempName && makeNewFile(temporary) != 0) {
     return {std::nullopt, nullptr, urlError(kNSURLErrorCannotCreateFile, url)};
   }
   fs::resize_file(temporary, media.bytes);
@@ -190,15 +191,18 @@ TransferResult HostURLSession::answer(const Scenario::Media& media, const Url& u
 }
 
 fs::path HostURLSession::newTemporaryFile(const fs::path& content) const {
-  constexpr int kMost = 100'000;  // a folder that takes no file ends the search
+  constexpr int kMost = 100'000;
   for (int number = 1; number <= kMost; ++number) {
     char name[64];
     std::snprintf(name, sizeof name, "CFNetworkDownload_%06d.tmp", number);
     if (fs::exists(fs::symlink_status(options_.cachesFolder / name))) continue;
     fs::path file = options_.temporaryFolder / name;
-    if (content.empty() ? makeNewFile(file) : moveFile(content, file) == 0) return file;
+    const int error = content.empty() ? makeNewFile(file) : moveFile(content, file);
+    if (error == 0) return file;
+    if (error != EEXIST)
+      throw fs::filesystem_error("no file can be made", file, {error, std::generic_category()});
   }
-  throw std::runtime_error(options_.temporaryFolder.string() + ": no file can be made");
+  throw std::runtime_error(options_.temporaryFolder.string() + ": too many temporary files");
 }
 
 }  // namespace orvanta

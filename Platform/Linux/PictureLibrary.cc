@@ -4,6 +4,7 @@
 
 #include <cstdarg>
 #include <stdexcept>
+#include <string>
 
 namespace orvanta {
 
@@ -12,7 +13,8 @@ namespace {
 void ignoreMessage(int, const char*, std::va_list) {}
 
 void* orThrow(void* found) {
-  if (found == nullptr) throw std::runtime_error(dlerror());
+  if (found == nullptr)
+    throw std::runtime_error(std::string("no picture can be read: ") + dlerror());
   return found;
 }
 
