@@ -123,6 +123,24 @@ TEST(NestedModel, TheNumberOfModelsInOneDictionaryHasALimit) {
   }
 }
 
+// Each push object reads its action twice, so every level doubles the work: a payload of 4 KB took
+// ten seconds, one of 240 KB minutes.
+TEST(NestedModel, PushesInsideActionsMultiplied) {
+  for (const std::size_t elements : {std::size_t{1}, OrvantaBaseModel::kMostElements / 1000}) {
+    RecordingPlatform platform;
+    std::string text = R"({"klazz":"OrvantaPushObject","_ov":[[)";
+    for (std::size_t i = 0; i < elements; ++i) text += "{},";
+    text += "{}]]}";
+    for (int level = 0; level < 20; ++level) {
+      text =
+          R"({"klazz":"OrvantaPushObject","_ov":{"act":{"klazz":"OrvantaPushObjectAction","uri":)" +
+          text + "}}}";
+    }
+    made<OrvantaPushObject>(text);
+    EXPECT_LT(platform.log.size(), 3 * OrvantaBaseModel::kMostNamedModels) << elements;
+  }
+}
+
 TEST(NestedModel, AnUndefinedKeyFromAnInitialiserRefusesTheOwnerSilently) {
   RecordingPlatform platform;
   const auto holder = make<PushHolderModel>();

@@ -95,6 +95,68 @@ std::shared_ptr<const MappingPlan> OrvantaBaseModel::ownPlan() const {
 
 namespace {
 
+/// What an outermost update has led to so far.
+struct Spent {
+  std::size_t updates = 0;
+  std::size_t named = 0;  // models whose class a dictionary named
+  std::size_t elements = 0;
+  std::size_t describable = 65536;  // bytes that are left for the log
+};
+
+/// Counts the updates of one thread that run inside one another and all that an outermost one has
+/// led to, so that no payload, however its "klazz" entries nest and multiply, takes unbounded time,
+/// stack or space in the log.
+class UpdateScope {
+ public:
+  UpdateScope() noexcept {
+    if (depth_ == 0) spent_ = {};
+    ++depth_;
+    ++spent_.updates;
+  }
+  UpdateScope(const UpdateScope&) = delete;
+  UpdateScope& operator=(const UpdateScope&) = delete;
+  ~UpdateScope() { --depth_; }
+
+  /// Counts a model that its dictionary names, within an update.
+  static void countNamed() {
+    if (depth_ != 0) ++spent_.named;
+  }
+  /// Counts elements of arrays that are walked within an update.
+  static void countElements(std::size_t number) {
+    if (depth_ != 0) spent_.elements += number;
+  }
+  /// The same for an array and those inside it.
+  static void countElements(const Array& array) {
+    countElements(array.size());
+    for (const Value& element : array) {
+      if (isExhausted()) return;
+      if (const Array* inner = element.array()) countElements(*inner);
+    }
+  }
+  static bool isExhausted() {
+    return depth_ > OrvantaBaseModel::kMostNestedModels ||
+           (depth_ != 0 && (spent_.updates > OrvantaBaseModel::kMostModels ||
+                            spent_.named > OrvantaBaseModel::kMostNamedModels ||
+                            spent_.elements > OrvantaBaseModel::kMostElements));
+  }
+  static void check() {
+    if (isExhausted()) {
+      throw Exception(Exception::kInvalidArgument, "too many models in one dictionary");
+    }
+  }
+  /// The text of a dictionary for the log. Nested models that fail each write the whole of theirs,
+  /// so one outermost update has a share for all.
+  static std::string described(const Dictionary& dictionary) {
+    std::string text = describe(dictionary, spent_.describable);
+    spent_.describable -= std::min(spent_.describable, text.size());
+    return text;
+  }
+
+ private:
+  inline static thread_local std::size_t depth_ = 0;
+  inline static thread_local Spent spent_;
+};
+
 /// Finds the values of a plan's entries in one dictionary. The parent of a path of several names is
 /// looked up once for a run of entries that share it.
 class Lookup {
@@ -112,6 +174,7 @@ class Lookup {
     if (parent != nullptr && entry.depth == KeyDepth::two) {
       return parent->valueForKey(entry.child, hint_);
     }
+    if (const Array* walked = parent_->array()) UpdateScope::countElements(*walked);
     collected_ = valueForKeyPath(dictionary_, *entry.key.string());
     return collected_;
   }
@@ -121,43 +184,6 @@ class Lookup {
   const Value* parent_ = nullptr;
   std::size_t hint_ = 0;  // entries often come in the table's order
   Value collected_;
-};
-
-/// Counts the updates of one thread that run inside one another and all that an outermost one has
-/// led to, so that no payload, however its "klazz" entries nest, takes unbounded time, stack or
-/// space in the log.
-class UpdateScope {
- public:
-  UpdateScope() noexcept {
-    if (depth_ == 0) {
-      updates_ = 0;
-      describable_ = kMostDescribed;
-    }
-    ++depth_;
-    ++updates_;
-  }
-  UpdateScope(const UpdateScope&) = delete;
-  UpdateScope& operator=(const UpdateScope&) = delete;
-  ~UpdateScope() { --depth_; }
-
-  static void check() {
-    if (depth_ > OrvantaBaseModel::kMostNestedModels || updates_ > OrvantaBaseModel::kMostModels) {
-      throw Exception(Exception::kInvalidArgument, "too many models in one dictionary");
-    }
-  }
-  /// The text of a dictionary for the log. Nested models that fail each write the whole of theirs,
-  /// so one outermost update has a share for all.
-  static std::string described(const Dictionary& dictionary) {
-    std::string text = describe(dictionary, describable_);
-    describable_ -= std::min(describable_, text.size());
-    return text;
-  }
-
- private:
-  static constexpr std::size_t kMostDescribed = 65536;
-  inline static thread_local std::size_t depth_ = 0;
-  inline static thread_local std::size_t updates_ = 0;
-  inline static thread_local std::size_t describable_ = 0;
 };
 
 constexpr LogSite kUpdateFailed{"-[OrvantaBaseModel updateWithDictionary:]", "OrvantaBaseModel",
@@ -247,6 +273,7 @@ bool OrvantaBaseModel::component(const Value& value, const Class* declared, Valu
     if (declared == nullptr) {
       if (const auto name = dictionary->valueForKey(kKlazz).string())
         declared = modelClassNamed(*name);
+      if (declared != nullptr) UpdateScope::countNamed();
     }
     if (declared == nullptr) return false;
     made = makeModel(*declared, dictionary);
@@ -254,6 +281,8 @@ bool OrvantaBaseModel::component(const Value& value, const Class* declared, Valu
   }
   const Array* array = value.array();
   if (array == nullptr) return false;
+  UpdateScope::countElements(array->size());
+  UpdateScope::check();
   // Nothing to convert is the common case; the array is then shared as it is.
   Array converted;
   bool isConverted = false;
@@ -428,6 +457,10 @@ void OrvantaBaseModel::recordRefusal(const MappingEntry& entry,
 Value OrvantaBaseModel::readByHand(const Dictionary& dictionary, std::span<const Value> keyPath,
                                    std::string_view property) const {
   try {
+    if (UpdateScope::isExhausted()) return {};  // the update will refuse
+    if (const Array* walked = dictionary.valueForKey(keyPath.front()).array()) {
+      UpdateScope::countElements(*walked);
+    }
     return valueForKeyPath(dictionary, keyPath);
   } catch (const Exception&) {
     if (RefusalRecorder* recorder = RefusalRecorder::current()) {
