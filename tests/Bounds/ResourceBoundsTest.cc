@@ -84,6 +84,9 @@ void categories(const std::string& text) {
   platform.runAll();
 }
 
+const std::string kDeep(500, '[');
+const std::string kDeepEnd(500, ']');
+
 const struct {
   const char* name;
   void (*work)(const std::string& text);
@@ -103,6 +106,7 @@ const struct {
     {"digits", read, 3, "0.", "7", "", ""},
     {"digits before the dot", read, 3, "", "7", "", ".5"},
     {"elements written", write, 35, "[", "1", ",", "]"},
+    {"deep elements written", write, 300, kDeep, "1", ",", kDeepEnd},
     {"keys written", write, 10, "{", R"("pppppppppp@":1)", ",", "}"},
     {"a URL", push, 10, R"({"_ov":{"mu":")", "u", "", R"("}})"},
     {"a deep link", push, 15, R"({"_ov":{"act":{"uri":")", "/", "", R"("}}})"},

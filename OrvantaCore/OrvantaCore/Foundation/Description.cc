@@ -5,6 +5,7 @@
 
 #include "Foundation/Array.h"
 #include "Foundation/Dictionary.h"
+#include "Foundation/JSON.h"
 #include "Foundation/Number.h"
 #include "Foundation/Url.h"
 
@@ -106,7 +107,7 @@ class Describer {
     indent();
     out_ += bracket;
   }
-  void indent() { out_.append(4 * level_, ' '); }
+  void indent() { out_.append(4 * std::min(level_, kMostIndents), ' '); }
 
   /// Appends a text, in quotes unless it has letters and digits only.
   void quote(std::string_view text) {

@@ -14,6 +14,8 @@ namespace orvanta {
 ///             title = "Hello!";
 ///         };
 ///     }
+///
+/// They are indented no deeper than kMostIndents levels.
 std::string describe(const Value& value);
 /// The same, cut after `most` bytes where it is longer; " …" then stands for the rest, which takes
 /// no time.

@@ -23,8 +23,12 @@ struct DuplicateKey {
 /// The keys that stand twice in the same dictionary of a text, up to its end or first error.
 std::vector<DuplicateKey> findDuplicateKeys(std::string_view text);
 
+/// Text for people is indented no deeper than this: a deep and wide value would otherwise become a
+/// thousand times its size.
+inline constexpr std::size_t kMostIndents = 32;
+
 struct JSONStyle {
-  /// Two spaces a level, one entry a line, " : " behind a key.
+  /// Two spaces a level (no more than kMostIndents levels), one entry a line, " : " behind a key.
   bool pretty = false;
   /// "/" is written "\/".
   bool escapeSlashes = true;
