@@ -1,4 +1,4 @@
-// All of core and extension in an otherwise empty program:
+// The extension and all classes in an otherwise empty program:
 //
 //     whole_library               does nothing
 //     whole_library all           makes the extension and an object of every class, so that the

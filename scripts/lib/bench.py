@@ -163,7 +163,7 @@ def print_processes():
     print(f"first push of a process             {first:8.1f} µs")
     print(f"inbox, growth of the resident size  {growth / text:8.2f} x the text")
     print(f"stripped, empty program             {stripped_kib(empty):8.1f} KiB")
-    print(f"stripped, all of core and extension {stripped_kib(whole):8.1f} KiB")
+    print(f"stripped, all classes and extension {stripped_kib(whole):8.1f} KiB")
     print(f"its start over the empty one's      {start[whole] - start[empty]:8.2f} ms"
           f" {resident[whole] - resident[empty]:+.2f} MiB")
 
