@@ -86,7 +86,9 @@ int linkThenRemove(const char* source, const char* destination) {
   return error;
 }
 
-int move(const std::string& source, const std::string& destination) {
+}  // namespace
+
+int moveFile(const std::string& source, const std::string& destination) {
   if ((source + destination).find('\0') != std::string::npos) return EINVAL;
   const char* const from = source.c_str();
   const char* const to = destination.c_str();
@@ -98,6 +100,8 @@ int move(const std::string& source, const std::string& destination) {
   const bool hasNoLinks = error == EPERM || error == EOPNOTSUPP || error == ENOSYS;
   return hasNoLinks ? copyThenRemove(from, to) : error;
 }
+
+namespace {
 
 struct MoveFailure {
   int posix;
@@ -161,7 +165,7 @@ Ref<NSError> HostFileManager::moveItemAtURL(const Url& source, const Url& destin
   if (!destination.isFileURL()) return schemeError(518, "saved", destination);
   const std::string from = source.path();
   const std::string to = destination.path();
-  const int error = move(from, to);
+  const int error = moveFile(from, to);
   if (error == 0) return nullptr;
   return moveError(error, from, to);
 }

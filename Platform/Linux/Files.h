@@ -8,6 +8,9 @@
 
 namespace orvanta {
 
+/// Moves a file, over nothing that is there: 0, or an errno.
+int moveFile(const std::string& source, const std::string& destination);
+
 /// A file manager whose caches folder is the one given.
 class HostFileManager final : public NSFileManager {
  public:

@@ -1,7 +1,6 @@
 #include "Platform/Linux/HostImages.h"
 
 #include <fcntl.h>
-#include <gd.h>
 #include <png.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -9,13 +8,14 @@
 #include <algorithm>
 #include <cerrno>
 #include <cmath>
-#include <cstdarg>
 #include <cstdint>
 #include <memory>
 #include <span>
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include "Platform/Linux/PictureLibrary.h"
 
 namespace orvanta {
 
@@ -28,8 +28,10 @@ constexpr std::size_t kMaxFileBytes = std::size_t{32} << 20U;
 constexpr std::uint32_t kMaxSide = 4096;
 constexpr int kWhite = 0xFFFFFF;
 
+const PictureLibrary& gd() { return PictureLibrary::loaded(); }
+
 struct PictureDeleter {
-  void operator()(gdImage* picture) const { gdImageDestroy(picture); }
+  void operator()(gdImage* picture) const { gd().gdImageDestroy(picture); }
 };
 using Picture = std::unique_ptr<gdImage, PictureDeleter>;
 
@@ -151,7 +153,7 @@ gdImage* decodePNG(int size, void* bytes) {
   if (png_image_finish_read(&file, nullptr, pixels.data(), 0, nullptr) == 0) return nullptr;
 
   Picture picture(
-      gdImageCreateTrueColor(static_cast<int>(file.width), static_cast<int>(file.height)));
+      gd().gdImageCreateTrueColor(static_cast<int>(file.width), static_cast<int>(file.height)));
   if (!picture) return nullptr;
   const png_byte* pixel = pixels.data();
   for (int y = 0; y < gdImageSY(picture); ++y) {
@@ -163,6 +165,8 @@ gdImage* decodePNG(int size, void* bytes) {
   return picture.release();
 }
 
+gdImage* decodeGIF(int size, void* bytes) { return gd().gdImageCreateFromGifPtr(size, bytes); }
+
 struct Format {
   std::string_view magic;
   std::size_t magicAt;
@@ -172,10 +176,11 @@ struct Format {
 constexpr Format kFormats[] = {
     {"\x89PNG\r\n\x1A\n", 0, sizeOfPNG, decodePNG},
     {"\xFF\xD8\xFF", 0, sizeOfJPEG,
-     [](int size, void* bytes) { return gdImageCreateFromJpegPtrEx(size, bytes, 0); }},
-    {"GIF87a", 0, sizeOfGIF, gdImageCreateFromGifPtr},
-    {"GIF89a", 0, sizeOfGIF, gdImageCreateFromGifPtr},
-    {"WEBP", 8, sizeOfWebP, gdImageCreateFromWebpPtr},
+     [](int size, void* bytes) { return gd().gdImageCreateFromJpegPtrEx(size, bytes, 0); }},
+    {"GIF87a", 0, sizeOfGIF, decodeGIF},
+    {"GIF89a", 0, sizeOfGIF, decodeGIF},
+    {"WEBP", 8, sizeOfWebP,
+     [](int size, void* bytes) { return gd().gdImageCreateFromWebpPtr(size, bytes); }},
 };
 
 /// The color as it looks on white; alpha runs from 0, opaque, to 127.
@@ -197,7 +202,7 @@ Picture decoded(std::string file) {
   if (format == std::end(kFormats) || !format->size(bytes).isAllowed()) return nullptr;
 
   Picture picture(format->decode(static_cast<int>(file.size()), file.data()));
-  if (!picture || gdImagePaletteToTrueColor(picture.get()) == 0) return nullptr;
+  if (!picture || gd().gdImagePaletteToTrueColor(picture.get()) == 0) return nullptr;
   for (int y = 0; y < gdImageSY(picture); ++y) {
     for (int& color : row(*picture, y)) {
       color = color == picture->transparent ? kWhite : onWhite(color);
@@ -209,8 +214,8 @@ Picture decoded(std::string file) {
 Picture plainPicture() {
   constexpr int kSide = 32;
   constexpr int kGray = 0x808080;
-  Picture picture(gdImageCreateTrueColor(kSide, kSide));
-  if (picture) gdImageFilledRectangle(picture.get(), 0, 0, kSide - 1, kSide - 1, kGray);
+  Picture picture(gd().gdImageCreateTrueColor(kSide, kSide));
+  if (picture) gd().gdImageFilledRectangle(picture.get(), 0, 0, kSide - 1, kSide - 1, kGray);
   return picture;
 }
 
@@ -250,15 +255,10 @@ std::string content(const fs::path& folder, const std::string& name) {
   return bytes;
 }
 
-void ignoreMessage(int, const char*, std::va_list) {}
-
 }  // namespace
 
 HostImages::HostImages(fs::path resources, std::set<std::string> simulated)
-    : resources_(std::move(resources)), simulated_(std::move(simulated)) {
-  static const bool silenced = (gdSetErrorMethod(ignoreMessage), true);
-  (void)silenced;
-}
+    : resources_(std::move(resources)), simulated_(std::move(simulated)) {}
 
 Ref<UIImage> HostImages::imageNamed(std::string_view name) {
   if (!isPlainName(name)) return nullptr;
@@ -289,8 +289,9 @@ std::optional<std::string> HostImages::JPEGRepresentation(const Ref<UIImage>& im
   const double quality = compressionQuality >= 0 ? std::min(compressionQuality, 1.0) : 0;
   int size = 0;
   const std::unique_ptr<void, void (*)(void*)> bytes(
-      gdImageJpegPtr(hostImage->picture(), &size, static_cast<int>(std::lround(quality * 100))),
-      gdFree);
+      gd().gdImageJpegPtr(hostImage->picture(), &size,
+                          static_cast<int>(std::lround(quality * 100))),
+      gd().gdFree);
   if (!bytes) return std::nullopt;
   return std::string(static_cast<const char*>(bytes.get()), static_cast<std::size_t>(size));
 }

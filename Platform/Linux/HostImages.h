@@ -9,7 +9,8 @@
 namespace orvanta {
 
 /// Pictures of a resources folder, decoded and encoded by an image library. Only plain names are
-/// looked up: nothing that leaves the folder.
+/// looked up: nothing that leaves the folder. Throws std::runtime_error where there is a picture
+/// and the library is not installed.
 class HostImages final : public Images {
  public:
   /// An empty folder has no pictures. The simulated names exist as small plain pictures.

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <cstdio>
 #include <fstream>
@@ -11,7 +12,9 @@
 #include <system_error>
 
 #include "Foundation/CharacterSet.h"
+#include "Platform/Linux/Files.h"
 #include "Platform/Linux/MediaTypes.h"
+#include "Platform/Linux/URLErrors.h"
 
 namespace orvanta {
 
@@ -19,8 +22,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::int64_t kNoPermission = -1102;
-constexpr std::int64_t kCannotWriteToFile = -3003;
 constexpr double kGraceAfterExpiry = 5.0;  // seconds
 
 /// Whether a path lies below a folder, links followed.
@@ -34,26 +35,26 @@ bool liesBelow(const fs::path& path, const fs::path& folder) {
   return end == root.end();
 }
 
-/// Makes a new empty file; false when there is something of that name, be it a dangling link.
-bool makeNewFile(const fs::path& file) {
+/// Makes a new empty file: 0, or an errno; EEXIST also for a dangling link of that name.
+int makeNewFile(const fs::path& file) {
   const int made = open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
-  return made >= 0 && close(made) == 0;
+  return made >= 0 && close(made) == 0 ? 0 : errno;
 }
 
 /// Copies a file over an empty one. 0, or the code of NSURLErrorDomain.
 std::int64_t copyFile(const fs::path& from, const fs::path& to, std::uint64_t most) {
   std::ifstream in(from, std::ios::binary);
-  if (!in) return kNoPermission;
+  if (!in) return kNSURLErrorNoPermissionsToReadFile;
   std::ofstream out(to, std::ios::binary);
   char buffer[65536];
   std::uint64_t copied = 0;
   while (in.read(buffer, sizeof buffer), in.gcount() > 0) {
     copied += static_cast<std::uint64_t>(in.gcount());
     if (copied > most) return kNSURLErrorDataLengthExceedsMaximum;
-    if (!out.write(buffer, in.gcount())) return kCannotWriteToFile;
+    if (!out.write(buffer, in.gcount())) return kNSURLErrorCannotWriteToFile;
   }
-  if (in.bad()) return kNoPermission;
-  return out.flush() ? 0 : kCannotWriteToFile;
+  if (in.bad()) return kNSURLErrorNoPermissionsToReadFile;
+  return out.flush() ? 0 : kNSURLErrorCannotWriteToFile;
 }
 
 std::string sizeText(const fs::path& file) {
@@ -115,7 +116,7 @@ HostURLSession::Fetched HostURLSession::fetch(const Url& url) {
         return {fetchFile("/", url.path(), url, /*overHTTP=*/false)};
       }
     }
-    return {{std::nullopt, nullptr, urlError(kNoPermission, url)}};
+    return {{std::nullopt, nullptr, urlError(kNSURLErrorNoPermissionsToReadFile, url)}};
   }
   return fetchFromNetwork(url);
 }
@@ -130,9 +131,7 @@ HostURLSession::Fetched HostURLSession::fetchFromNetwork(const Url& url) {
   TransferResult result = transfer(url, options_.temporaryFolder, limits, options_.progress);
   const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
   if (result.file) {
-    const fs::path renamed = newTemporaryFile();
-    fs::rename(*result.file, renamed);
-    result.file = renamed;
+    result.file = newTemporaryFile(*result.file);
   }
   return {std::move(result), taken.count()};
 }
@@ -178,7 +177,7 @@ TransferResult HostURLSession::answer(const Scenario::Media& media, const Url& u
   if (media.fails) return {std::nullopt, nullptr, urlError(media.errorCode, url)};
   const fs::path temporary =
       media.tempName ? options_.temporaryFolder / *media.tempName : newTemporaryFile();
-  if (media.tempName && !makeNewFile(temporary)) {
+  if (media.tempName && makeNewFile(temporary) != 0) {
     return {std::nullopt, nullptr, urlError(kNSURLErrorCannotCreateFile, url)};
   }
   fs::resize_file(temporary, media.bytes);
@@ -191,17 +190,19 @@ TransferResult HostURLSession::answer(const Scenario::Media& media, const Url& u
   return {temporary, NSURLResponse::responseWithParts(std::move(parts)), nullptr};
 }
 
-fs::path HostURLSession::newTemporaryFile() const {
-  constexpr int kMost = 100'000;  // a folder that takes no file ends the search
+fs::path HostURLSession::newTemporaryFile(const fs::path& content) const {
+  constexpr int kMost = 100'000;
   for (int number = 1; number <= kMost; ++number) {
     char name[64];
     std::snprintf(name, sizeof name, "CFNetworkDownload_%06d.tmp", number);
-    const bool isCached = fs::exists(fs::symlink_status(options_.cachesFolder / name));
-    if (!isCached && makeNewFile(options_.temporaryFolder / name)) {
-      return options_.temporaryFolder / name;
-    }
+    if (fs::exists(fs::symlink_status(options_.cachesFolder / name))) continue;
+    fs::path file = options_.temporaryFolder / name;
+    const int error = content.empty() ? makeNewFile(file) : moveFile(content, file);
+    if (error == 0) return file;
+    if (error != EEXIST)
+      throw fs::filesystem_error("no file can be made", file, {error, std::generic_category()});
   }
-  throw std::runtime_error(options_.temporaryFolder.string() + ": no file can be made");
+  throw std::runtime_error(options_.temporaryFolder.string() + ": too many temporary files");
 }
 
 }  // namespace orvanta

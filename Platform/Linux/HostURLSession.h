@@ -55,8 +55,8 @@ class HostURLSession final : public NSURLSession {
                            const Url& url, bool overHTTP);
   TransferResult answer(const Scenario::Media& media, const Url& url);
   /// A new file whose name, in the platform's form, the caches do not have: the same names in
-  /// every run.
-  std::filesystem::path newTemporaryFile() const;
+  /// every run. It is empty, or the file given, moved.
+  std::filesystem::path newTemporaryFile(const std::filesystem::path& content = {}) const;
   void report(const TransferResult& result, const DownloadCompletion& completion);
 
   EventLoop& loop_;

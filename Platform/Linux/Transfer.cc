@@ -1,20 +1,19 @@
 #include "Platform/Linux/Transfer.h"
 
 #include <curl/curl.h>
-#include <fcntl.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <memory>
-#include <random>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "Foundation/CharacterSet.h"
+#include "Platform/Linux/DownloadFile.h"
+#include "Platform/Linux/HeaderText.h"
+#include "Platform/Linux/URLErrors.h"
 
 namespace orvanta {
 
@@ -24,36 +23,11 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 using namespace std::chrono_literals;
 
-constexpr std::int64_t kUnknown = -1;
-constexpr std::int64_t kCannotDecodeRawData = -1015;
-constexpr std::int64_t kCannotDecodeContentData = -1016;
-constexpr std::int64_t kCannotCloseFile = -3002;
-constexpr std::int64_t kCannotWriteToFile = -3003;
-
-constexpr std::pair<std::int64_t, std::string_view> kTexts[] = {
-    {kNSURLErrorTimedOut, "The request timed out."},
-    {kNSURLErrorUnsupportedURL, "unsupported URL"},
-    {kNSURLErrorCannotFindHost, "A server with the specified hostname could not be found."},
-    {kNSURLErrorCannotConnectToHost, "Could not connect to the server."},
-    {kNSURLErrorNetworkConnectionLost, "The network connection was lost."},
-    {kNSURLErrorHTTPTooManyRedirects, "too many HTTP redirects"},
-    {kNSURLErrorNotConnectedToInternet, "The Internet connection appears to be offline."},
-    {kNSURLErrorBadServerResponse, "There was a bad response from the server."},
-    {kCannotDecodeRawData, "cannot decode raw data"},
-    {kCannotDecodeContentData, "cannot decode content data"},
-    {kNSURLErrorDataLengthExceedsMaximum, "resource exceeds maximum size"},
-    {kNSURLErrorSecureConnectionFailed,
-     "An SSL error has occurred and a secure connection to the server cannot be made."},
-    {kNSURLErrorServerCertificateUntrusted, "The certificate for this server is invalid."},
-};
-
-constexpr CharacterSet kTokenCharacters = CharacterSet::alphanumerics().with("!#$%&'*+-.^_`|~");
 constexpr CharacterSet kSchemeCharacters = CharacterSet::alphanumerics().with("+-.");
 constexpr CharacterSet kUrlCharacters =
     CharacterSet::alphanumerics().with("-._~:/?#[]@!$&'()*+,;=%");
 
-constexpr std::size_t kMaximumMIMEName = 127;  // RFC 6838
-constexpr std::size_t kHeaderLines = 256;      // of a response and the interim ones before it
+constexpr std::size_t kHeaderLines = 256;  // of a response and the interim ones before it
 constexpr std::size_t kHeaderBytes = 65'536;
 constexpr std::uint64_t kRedirectBody = 65'536;  // read to keep the connection, then hung up on
 constexpr long kReceiveBuffer = 65'536;
@@ -61,50 +35,6 @@ constexpr milliseconds kLongestWait = 1h;  // of one poll
 
 milliseconds since(Clock::time_point earlier) {
   return std::chrono::floor<milliseconds>(Clock::now() - earlier);
-}
-
-char lowered(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-std::string lowered(std::string_view text) {
-  std::string lower(text);
-  std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) { return lowered(c); });
-  return lower;
-}
-
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t\r\n");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
-}
-
-/// The length of the UTF-8 character that a text begins with; 0 when there is none, or when it is a
-/// control character.
-std::size_t printableLength(std::string_view text) {
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-  const unsigned lead = byte(0);
-  if (lead < 0x80) return lead < ' ' || lead == 0x7F ? 0 : 1;
-  const std::size_t length = lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-  if (length == 0 || lead > 0xF4 || text.size() < length) return 0;
-  for (std::size_t i = 1; i < length; ++i) {
-    if ((byte(i) & 0xC0) != 0x80) return 0;
-  }
-  const unsigned next = byte(1);
-  const bool refused = (lead == 0xC2 && next < 0xA0) ||  // controls
-                       (lead == 0xE0 && next < 0xA0) || (lead == 0xED && next > 0x9F) ||
-                       (lead == 0xF0 && next < 0x90) || (lead == 0xF4 && next > 0x8F);
-  return refused ? 0 : length;
-}
-
-/// The text with a question mark for each byte that is no UTF-8 or belongs to a control character.
-std::string printable(std::string_view text) {
-  std::string harmless;
-  harmless.reserve(text.size());
-  while (!text.empty()) {
-    const std::size_t length = printableLength(text);
-    length == 0 ? harmless += '?' : harmless += text.substr(0, length);
-    text.remove_prefix(std::max<std::size_t>(length, 1));
-  }
-  return harmless;
 }
 
 /// The scheme in lower case; empty for a relative reference.
@@ -139,48 +69,6 @@ using Multi = std::unique_ptr<CURLM, Freed>;
 using Easy = std::unique_ptr<CURL, EasyFreed>;
 using ParsedUrl = std::unique_ptr<CURLU, Freed>;
 
-/// A temporary file, gone with this object unless it was finished.
-class DownloadFile {
- public:
-  explicit DownloadFile(std::filesystem::path folder) : folder_(std::move(folder)) {}
-  DownloadFile(const DownloadFile&) = delete;
-  DownloadFile& operator=(const DownloadFile&) = delete;
-  ~DownloadFile() {
-    if (descriptor_ >= 0) ::close(descriptor_);
-    if (!path_.empty()) ::unlink(path_.c_str());
-  }
-
-  bool create() {
-    for (int attempt = 0; attempt < 100; ++attempt) {
-      std::filesystem::path path = temporaryDownload(folder_);
-      descriptor_ = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
-                           S_IRUSR | S_IWUSR);
-      if (descriptor_ >= 0) {
-        path_ = std::move(path);
-        return true;
-      }
-      if (errno != EEXIST && errno != EINTR) return false;
-    }
-    return false;
-  }
-  bool write(std::string_view bytes) const {
-    while (!bytes.empty()) {
-      const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
-      if (written < 0 && errno == EINTR) continue;
-      if (written <= 0) return false;
-      bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-  }
-  bool close() { return ::close(std::exchange(descriptor_, -1)) == 0; }
-  std::filesystem::path finish() { return std::exchange(path_, {}); }
-
- private:
-  std::filesystem::path folder_;
-  std::filesystem::path path_;
-  int descriptor_ = -1;
-};
-
 /// A transfer with its redirects. The requests share a handle, so connections are kept.
 class Transfer {
  public:
@@ -194,13 +82,13 @@ class Transfer {
   }
 
   TransferResult run() {
-    std::int64_t code = prepare() ? 0 : kUnknown;
+    std::int64_t code = prepare() ? 0 : kNSURLErrorUnknown;
     for (int redirects = 0; code == 0; ++redirects) {
       code = fetch();
       if (code != 0 || !redirected_) break;
       code = redirects < limits_.redirects ? follow() : kNSURLErrorHTTPTooManyRedirects;
     }
-    if (code == 0 && !file_.close()) code = kCannotCloseFile;
+    if (code == 0 && !file_.close()) code = kNSURLErrorCannotCloseFile;
 
     TransferResult result;
     result.response = std::move(response_);
@@ -323,13 +211,13 @@ std::int64_t Transfer::fetch() {
   curl_url_set(target_.get(), CURLUPART_PASSWORD, nullptr, 0);
   if (curl_easy_setopt(easy_.get(), CURLOPT_CURLU, target_.get()) != CURLE_OK ||
       curl_multi_add_handle(multi_.get(), easy_.get()) != CURLM_OK) {
-    return kUnknown;
+    return kNSURLErrorUnknown;
   }
 
   Clock::time_point heard = Clock::now();
   while (true) {
     int running = 0;
-    if (curl_multi_perform(multi_.get(), &running) != CURLM_OK) return kUnknown;
+    if (curl_multi_perform(multi_.get(), &running) != CURLM_OK) return kNSURLErrorUnknown;
     report();
     if (running == 0) break;
 
@@ -339,7 +227,7 @@ std::int64_t Transfer::fetch() {
     int ready = 0;
     if (curl_multi_poll(multi_.get(), nullptr, 0, static_cast<int>(wait.count()), &ready) !=
         CURLM_OK) {
-      return kUnknown;
+      return kNSURLErrorUnknown;
     }
     // A socket is waited for until it connects, takes the request or has bytes.
     if (ready > 0) {
@@ -353,7 +241,7 @@ std::int64_t Transfer::fetch() {
   curl_multi_remove_handle(multi_.get(), easy_.get());
   if (failure_ != 0) return failure_;
   if (redirected_) return 0;  // whatever became of its body
-  if (!ended) return kUnknown;
+  if (!ended) return kNSURLErrorUnknown;
   if (*ended != CURLE_OK) return codeOf(*ended);
   return response_ ? 0 : kNSURLErrorBadServerResponse;
 }
@@ -404,7 +292,7 @@ std::int64_t Transfer::codeOf(CURLcode outcome) const {
     case CURLE_SEND_ERROR:
       return kNSURLErrorNetworkConnectionLost;
     case CURLE_BAD_CONTENT_ENCODING:
-      return kCannotDecodeRawData;
+      return kNSURLErrorCannotDecodeRawData;
     case CURLE_UNSUPPORTED_PROTOCOL:  // of the answer; the URL's has been checked
     case CURLE_WEIRD_SERVER_REPLY:
     case CURLE_BAD_FUNCTION_ARGUMENT:  // a header line without a colon
@@ -420,7 +308,7 @@ std::int64_t Transfer::codeOf(CURLcode outcome) const {
     case CURLE_SSL_ENGINE_INITFAILED:
       return kNSURLErrorSecureConnectionFailed;
     default:
-      return kUnknown;
+      return kNSURLErrorUnknown;
   }
 }
 
@@ -472,7 +360,7 @@ Transfer::Next Transfer::takeHeaders() {
   if (const char* type = header("Content-Type")) parts.mimeType = mimeTypeOfHeader(type);
   response_ = NSURLResponse::responseWithParts(std::move(parts));
 
-  if (!isDecodable()) return fail(kCannotDecodeContentData);
+  if (!isDecodable()) return fail(kNSURLErrorCannotDecodeContentData);
   encoded_ = header("Content-Encoding") != nullptr;
   return file_.create() ? Next::proceed : fail(kNSURLErrorCannotCreateFile);
 }
@@ -507,7 +395,7 @@ Transfer::Next Transfer::takeBody(std::string_view bytes) {
   if (std::max(received_, expected_) > limits_.bytes) {
     return fail(kNSURLErrorDataLengthExceedsMaximum);
   }
-  return file_.write(bytes) ? Next::proceed : fail(kCannotWriteToFile);
+  return file_.write(bytes) ? Next::proceed : fail(kNSURLErrorCannotWriteToFile);
 }
 
 /// Outside libcurl's callbacks, so that the caller's may throw.
@@ -522,49 +410,6 @@ void Transfer::report() {
 TransferResult transfer(const Url& url, const std::filesystem::path& folder,
                         const TransferLimits& limits, const TransferProgress& progress) {
   return Transfer(url, folder, limits, progress).run();
-}
-
-std::filesystem::path temporaryDownload(const std::filesystem::path& folder) {
-  constexpr std::string_view kCharacters =
-      "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-  std::random_device random;
-  std::uniform_int_distribution<std::size_t> place(0, kCharacters.size() - 1);
-  while (true) {
-    std::string name = "CFNetworkDownload_";
-    for (int i = 0; i < 6; ++i) name += kCharacters[place(random)];
-    std::filesystem::path path = folder / (name + ".tmp");
-    std::error_code error;
-    if (!std::filesystem::exists(std::filesystem::symlink_status(path, error))) return path;
-  }
-}
-
-Ref<NSError> urlError(std::int64_t code, const std::optional<Url>& url) {
-  const auto* known = std::find_if(std::begin(kTexts), std::end(kTexts),
-                                   [&](const auto& row) { return row.first == code; });
-  const std::string text = known != std::end(kTexts)
-                               ? std::string(known->second)
-                               : "The operation couldn’t be completed. (NSURLErrorDomain error " +
-                                     std::to_string(code) + ".)";
-  Dictionary userInfo{{NSError::kLocalizedDescription, text}};
-  if (url) {
-    userInfo.set("NSErrorFailingURLStringKey", url->stringValue());
-    userInfo.set("NSErrorFailingURLKey", *url);
-  }
-  return NSError::errorWithDomain(kNSURLErrorDomain, code, std::move(userInfo));
-}
-
-std::optional<std::string> mimeTypeOfHeader(std::string_view contentType) {
-  const std::string_view type = trimmed(contentType.substr(0, contentType.find(';')));
-  const auto slash = type.find('/');
-  if (slash == std::string_view::npos) return std::nullopt;
-  for (const std::string_view name : {type.substr(0, slash), type.substr(slash + 1)}) {
-    if (name.empty() || name.size() > kMaximumMIMEName ||
-        !std::all_of(name.begin(), name.end(),
-                     [](char c) { return kTokenCharacters.contains(c); })) {
-      return std::nullopt;
-    }
-  }
-  return lowered(type);
 }
 
 }  // namespace orvanta

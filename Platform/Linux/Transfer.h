@@ -44,14 +44,4 @@ using TransferProgress = std::function<void(std::uint64_t received, std::uint64_
 TransferResult transfer(const Url& url, const std::filesystem::path& folder,
                         const TransferLimits& limits, const TransferProgress& progress = {});
 
-/// A name of the platform's form for a download's temporary file, which the folder does not have.
-std::filesystem::path temporaryDownload(const std::filesystem::path& folder);
-
-/// An error of NSURLErrorDomain with the platform's text for the code and the URL that failed.
-Ref<NSError> urlError(std::int64_t code, const std::optional<Url>& url);
-
-/// The value of a Content-Type header as a response's MIME type: lower case, without parameters;
-/// none when it is empty or no "type/subtype" of RFC 9110 tokens of up to 127 characters each.
-std::optional<std::string> mimeTypeOfHeader(std::string_view contentType);
-
 }  // namespace orvanta

@@ -377,11 +377,6 @@ Operation reading(std::string_view workload, const std::string& text) {
 }
 
 std::vector<Operation> operations(const Workloads& workloads) {
-  // One code path for the times and for the counts, whose machine has no wider vectors.
-  if (const auto* path = simdjson::get_available_implementations()["haswell"];
-      path != nullptr && path->supported_by_runtime_system()) {
-    simdjson::get_active_implementation() = path;
-  }
   const auto batch = std::make_shared<Batch>(workloads.batch);
   const auto writer = std::make_shared<Writer>();
   return {

@@ -2,5 +2,5 @@
 #include "ProcessFigures.h"
 
 int main(int argc, char** /*argv*/) {
-  if (argc > 1) std::printf("%ld\n", orvanta::benchmarks::peakResidentKiB());
+  if (argc > 1) std::printf("%ld\n", orvanta::benchmarks::statusKiB("VmHWM:"));
 }

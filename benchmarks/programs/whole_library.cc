@@ -1,8 +1,9 @@
 // All of core and extension in an otherwise empty program:
 //
 //     whole_library               does nothing
-//     whole_library all           makes the extension and an object of every class
-//     whole_library resident      the resident size of that, in KiB
+//     whole_library all           makes the extension and an object of every class, so that the
+//                                 linker keeps the classes and what they reach
+//     whole_library resident      the resident size of doing nothing, in KiB
 //     whole_library push FILE     nanoseconds of CPU that a process's first push takes
 //     whole_library inbox FILE    what an inbox reply adds to the resident size, in KiB; the text
 //                                 itself does not count
@@ -21,6 +22,9 @@ std::string contentsOf(const char* path) {
   std::string text;
   std::FILE* file = std::fopen(path, "rb");
   if (file == nullptr) return text;
+  std::fseek(file, 0, SEEK_END);
+  text.reserve(static_cast<std::size_t>(std::ftell(file)));
+  std::rewind(file);
   char part[65536];
   while (const std::size_t bytes = std::fread(part, 1, sizeof part, file)) text.append(part, bytes);
   std::fclose(file);
@@ -54,18 +58,18 @@ bool makeAll() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  using orvanta::benchmarks::peakResidentKiB;
+  using orvanta::benchmarks::statusKiB;
   if (argc == 2 && std::strcmp(argv[1], "all") == 0) return makeAll() ? 0 : 1;
-  if (argc == 2) std::printf("%ld\n", peakResidentKiB());
+  if (argc == 2) std::printf("%ld\n", statusKiB("VmHWM:"));
   if (argc != 3) return 0;
   const std::string text = contentsOf(argv[2]);
-  const long residentBefore = peakResidentKiB();
+  const long residentBefore = statusKiB("VmRSS:");
   const double begin = nanoseconds();
   if (std::strcmp(argv[1], "push") == 0) {
     if (!read<orvanta::OrvantaPushObject>(text)) return 1;
     std::printf("%.0f\n", nanoseconds() - begin);
   } else {
     if (!read<orvanta::OrvantaInboxResponse>(text)) return 1;
-    std::printf("%ld\n", peakResidentKiB() - residentBefore);
+    std::printf("%ld\n", statusKiB("VmHWM:") - residentBefore);
   }
 }

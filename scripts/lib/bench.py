@@ -38,9 +38,9 @@ def instructions(row):
     return (counts[1] - counts[0]) / (many - few)
 
 
-def measured(names, *options):
+def measured(names, *options, contender=""):
     """Row to its figures: nanoseconds (the median), allocations and bytes asked."""
-    pattern = "^(" + "|".join(names) + ")/"
+    pattern = "^(" + "|".join(names) + ")/" + contender
     done = run(BENCHMARK, "--benchmark_format=json", "--benchmark_filter=" + pattern, *options)
     figures = {}
     for entry in json.loads(done.stdout)["benchmarks"]:
@@ -64,14 +64,14 @@ def timed(names):
 
 def counted():
     """What --record keeps and --check compares: the figures that do not depend on the moment."""
-    rows = measured(WORKLOADS + PARTS, "--benchmark_min_time=0.001")
+    rows = measured(WORKLOADS + PARTS, "--benchmark_min_time=0.001", contender=PROJECT)
     return {
         row.split("/")[0]: {
             "instructions": round(instructions(row)),
             "allocations": figures["allocations"],
             "bytes": figures["bytes"],
         }
-        for row, figures in rows.items() if row.endswith("/" + PROJECT)
+        for row, figures in rows.items()
     }
 
 
@@ -80,10 +80,11 @@ def check():
         recorded = json.load(file)
     now = counted()
     worse = []
-    for workload, figures in recorded.items():
-        for what, before in figures.items():
+    for workload in sorted(recorded.keys() | now.keys()):
+        for what in ("instructions", "allocations", "bytes"):
+            before = recorded.get(workload, {}).get(what)
             figure = now.get(workload, {}).get(what)
-            if figure is None or figure > before * TOLERANCE:
+            if before is None or figure is None or figure > before * TOLERANCE:
                 worse.append(f"{workload}: {what} {before} recorded, {figure} now")
     print("\n".join(worse) or "no figure is more than 5 % above the recorded one")
     return 1 if worse else 0

@@ -15,8 +15,10 @@
 // shown by scripts/measure-bounds.
 
 static thread_local struct Heap { std::size_t live, peak, total, calls; } heap;
+static thread_local std::size_t callsUntilFailure = 0;  // 0: none
 
 void* operator new(std::size_t bytes) {
+  if (callsUntilFailure != 0 && --callsUntilFailure == 0) throw std::bad_alloc();
   void* memory = std::malloc(bytes);
   if (memory == nullptr) throw std::bad_alloc();
   const std::size_t size = malloc_usable_size(memory);
@@ -144,6 +146,26 @@ TEST(ResourceBounds, StoredCategoriesWereComparedEachWithEach) {
   UNNotificationCategorySet set;
   for (unsigned i = 0; i < 2000; ++i) set.insert({"same", {Ref<Counted>::adopt(new Counted(i))}});
   EXPECT_LE(comparisons, static_cast<int>(set.size()));
+}
+
+TEST(ResourceBounds, ADictionaryWithoutMemoryToGrowLostItsValues) {
+  const std::string added(20, 'x');
+  for (std::size_t failing = 1;; ++failing) {
+    Dictionary dictionary;
+    for (int i = 0; i < 32; ++i) dictionary.set(std::to_string(i), i);
+    const Value key(added);
+    bool isSet = true;
+    callsUntilFailure = failing;
+    try {
+      dictionary.set(key, 32);
+    } catch (const std::bad_alloc&) {
+      isSet = false;
+    }
+    const bool isEnough = std::exchange(callsUntilFailure, 0) != 0;
+    for (int i = 0; i < 32; ++i) EXPECT_EQ(dictionary[std::to_string(i)], Value(i));
+    EXPECT_EQ(dictionary.size(), isSet ? 33U : 32U);
+    if (isEnough) break;
+  }
 }
 
 std::string deepAndWide(std::string_view open, std::string_view item) {

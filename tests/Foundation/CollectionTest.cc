@@ -193,6 +193,18 @@ TEST(Dictionary, FindsAmongAnyNumberOfKeys) {
   }
 }
 
+TEST(Dictionary, AKeyThatWasSetAfterManyWereRemovedWasLost) {
+  for (std::size_t left = 0; left < 33; ++left) {
+    Dictionary dictionary;
+    for (int i = 0; i < 33; ++i) dictionary.set("k" + std::to_string(i), i);
+    while (dictionary.size() > left) dictionary.remove(dictionary.begin()->key());
+    dictionary.set("new", 1);
+    dictionary.set("new", 2);
+    EXPECT_EQ(dictionary["new"], Value(2)) << left;
+    EXPECT_EQ(dictionary.size(), left + 1);
+  }
+}
+
 TEST(Dictionary, ManyKeysOfOneLengthAndPrefixAreReadInReasonableTime) {
   // Compared one by one these would take twenty thousand million steps.
   constexpr std::size_t kCount = 200'000;

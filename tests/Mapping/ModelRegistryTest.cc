@@ -18,6 +18,7 @@ TEST(ModelRegistry, EveryClassMakesObjectsOfItself) {
     const auto model = makeModel(*cls, nullptr);
     ASSERT_TRUE(model) << cls->name;
     EXPECT_EQ(&model->isa(), cls);
+    EXPECT_EQ(dynamic_cast<void*>(model.get()), model.get());  // its fields are found by offset
     EXPECT_EQ(model->dictionaryValueWithClassInfo()["klazz"], Value(cls->name));
   }
 }

@@ -101,6 +101,13 @@ TEST(OrvantaPushObject, AnArrayOfPartsIsReadElementWiseAndHasNoScalars) {
   }
 }
 
+TEST(OrvantaPushObject, AnAlertsEntryNamedLikeTheClassIsNotAmongItsOwn) {
+  const auto push = made<OrvantaPushObject>(R"({"aps": {"alert": {"title": "t"}}})");
+  push->alert().get()->setKeyPathPropertyDictionary({{"klazz", "title"}, {"x", "title"}});
+  EXPECT_FALSE(push->dictionaryValue().contains("klazz"));
+  EXPECT_EQ(push->dictionaryValue()["x"], Value("t"));
+}
+
 TEST(OrvantaPushObject, AnAlertThatRefusesSkipsTheTable) {
   const LogLevel silent(0);
   const char* json = R"({"aps": {"sound": "new", "alert": {"title": [

@@ -101,13 +101,18 @@ const Value& Dictionary::valueForKey(const Value& key) const noexcept {
 void Dictionary::detach(std::size_t capacity) {
   const bool isOwn = node_ != nullptr && node_->isUnshared();
   if (isOwn && node_->capacity() >= capacity) return;
-  DictionaryNode* own = DictionaryNode::create(std::max(capacity, size()), nullptr);
+  struct Destroy {
+    void operator()(const DictionaryNode* node) const { node->destroy(); }
+  };
+  std::unique_ptr<DictionaryNode, Destroy> own(
+      DictionaryNode::create(std::max(capacity, size()), nullptr));
+  if (size() >= DictionaryNode::kIndexedSize) own->makeIndex();  // nothing is moved if that fails
   for (const Entry& entry : *this) {
     Value value = isOwn ? std::move(const_cast<Value&>(entry.value)) : Value(entry.value);
     own->push(entry.keyValue, std::move(value));
   }
   *this = Dictionary();
-  node_ = own;
+  node_ = own.release();
 }
 
 void Dictionary::reserve(std::size_t capacity) {
@@ -214,7 +219,7 @@ const DictionaryNode::Entry* DictionaryNode::findIndexed(const Value& key) const
 }
 
 void DictionaryNode::enterNewest() {
-  if (index_.empty()) {
+  if (index_.empty() || size_ == kIndexedSize) {
     makeIndex();
   } else {
     enterInIndex(size_);
@@ -243,7 +248,10 @@ void DictionaryNode::erase(Entry* entry) noexcept {
   std::move(entry + 1, entries() + size_, entry);
   --size_;
   std::destroy_at(entries() + size_);
-  if (!index_.empty()) makeIndex();
+  if (index_.empty()) return;
+  if (size_ >= kIndexedSize) return makeIndex();
+  delete[] index_.data();
+  index_ = {};
 }
 
 }  // namespace orvanta

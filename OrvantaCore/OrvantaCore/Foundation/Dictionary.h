@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <initializer_list>
 #include <span>
 
@@ -95,13 +96,14 @@ class DictionaryNode : public Node {
     if (++size_ >= kIndexedSize) enterNewest();
   }
   void erase(Entry* entry) noexcept;
+  /// Makes the hash index, or makes it anew.
+  void makeIndex();
 
  private:
   DictionaryNode(std::size_t capacity, Arena* arena) noexcept : Node(arena), capacity_(capacity) {}
   const Entry* findLong(const Value& key) const noexcept;
   const Entry* findIndexed(const Value& key) const noexcept;
   void enterNewest();
-  void makeIndex();
   void enterInIndex(std::size_t position) noexcept;
   static std::uint64_t keyHash(const Value& key) noexcept;
 
@@ -127,6 +129,7 @@ inline void Dictionary::append(const Value& key, Value&& value) {
 
 template <class V>
 inline void Dictionary::appendInReserve(const Value& key, V&& value) {
+  assert(size() < node_->capacity());
   const_cast<DictionaryNode*>(node_)->push(key, std::forward<V>(value));
 }
 

@@ -9,8 +9,8 @@
 
 namespace orvanta {
 
-/// Counts references. While the process has one thread, where the C library tells, counting is
-/// ordinary arithmetic, which costs a fraction of an atomic operation.
+/// Counts references. Until the process starts its first other thread, where the C library tells,
+/// counting is ordinary arithmetic, which costs a fraction of an atomic operation.
 template <class T>
 class ReferenceCount {
  public:

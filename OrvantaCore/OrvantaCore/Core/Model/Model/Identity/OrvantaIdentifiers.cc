@@ -1,12 +1,16 @@
 #include "Identity/OrvantaIdentifiers.h"
 
+#include <algorithm>
+
 namespace orvanta {
 
 ORVANTA_IMPLEMENTATION(OrvantaIdentifiers)
+static_assert(std::ranges::all_of(kOrvantaIdentifiersTables.properties,
+                                  [](const Property& p) { return p.isStored() && !p.isScalar(); }));
 
 void OrvantaIdentifiers::removePropertiesSameWithIdentifiers(const OrvantaIdentifiers* other) {
   if (other == nullptr) return;
-  for (const Property& property : kClass.properties) {  // stored objects, all of them
+  for (const Property& property : kClass.properties) {
     Value& own = *static_cast<Value*>(property.field(*this));
     if (own.isNil() || own.isNull()) continue;
     if (own == *static_cast<const Value*>(property.field(*other))) own = Value();

@@ -31,14 +31,14 @@ struct Property {
   Value (*get)(const OrvantaBaseModel&);
   void (*set)(OrvantaBaseModel&, const Value&);
 
-  bool isStored() const { return offset != 0; }
+  constexpr bool isStored() const { return offset != 0; }
   void* field(OrvantaBaseModel& object) const {
     return reinterpret_cast<std::byte*>(&object) + offset;
   }
   const void* field(const OrvantaBaseModel& object) const {
     return reinterpret_cast<const std::byte*>(&object) + offset;
   }
-  bool isScalar() const { return encoding.front() != '@' && encoding.front() != '#'; }
+  constexpr bool isScalar() const { return encoding.front() != '@' && encoding.front() != '#'; }
   [[gnu::always_inline]] inline Value valueIn(const OrvantaBaseModel& object) const;
   /// Scalars take the value's numeric reading, which throws the invalid-argument exception when
   /// there is none.

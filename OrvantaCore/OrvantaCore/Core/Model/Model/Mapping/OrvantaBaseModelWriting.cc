@@ -25,6 +25,21 @@ static bool mayChange(const Array& array) {
   });
 }
 
+static Array converted(const Array& array, bool classInfo) {
+  Array result;
+  result.reserve(array.size());
+  for (const Value& element : array) {
+    if (const auto* model = element.as<OrvantaBaseModel>()) {
+      result.append(model->dictionaryValueWithPolicy(classInfo));
+    } else if (const Array* nested = element.array()) {
+      result.append(OrvantaBaseModel::JSONValidValueForArray(*nested, classInfo));
+    } else {
+      result.append(element);
+    }
+  }
+  return result;
+}
+
 Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
   const std::lock_guard guard(writeLock_);
   const auto ownPlan = this->ownPlan();  // a getter may replace the tables
@@ -50,7 +65,7 @@ Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
     if (const auto* model = value.as<OrvantaBaseModel>()) {
       value = model->dictionaryValueWithPolicy(classInfo);
     } else if (value.array() != nullptr && mayChange(*value.array())) {
-      value = JSONValidValueForArray(*value.array(), classInfo);
+      value = converted(*value.array(), classInfo);
     }
     if (entry.converter != Converter::none && (!convert(value, entry.converter) || value.isNil())) {
       continue;
@@ -62,26 +77,14 @@ Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
 }
 
 Array OrvantaBaseModel::JSONValidValueForArray(const Array& array, bool classInfo) {
-  if (!mayChange(array)) return array;
-  Array result;
-  result.reserve(array.size());
-  for (const Value& element : array) {
-    if (const auto* model = element.as<OrvantaBaseModel>()) {
-      result.append(model->dictionaryValueWithPolicy(classInfo));
-    } else if (const Array* nested = element.array()) {
-      result.append(JSONValidValueForArray(*nested, classInfo));
-    } else {
-      result.append(element);
-    }
-  }
-  return result;
+  return mayChange(array) ? converted(array, classInfo) : array;
 }
 
 Dictionary OrvantaBaseModel::flattened(const OrvantaBaseModel* model, bool classInfo,
                                        const Dictionary& own) {
   if (model == nullptr) return own;
   Dictionary result = model->dictionaryValueWithPolicy(classInfo);
-  if (classInfo) result.remove("klazz");  // the object's own comes last
+  result.remove("klazz");  // the object's own comes last
   result.addEntries(own);
   return result;
 }

@@ -308,8 +308,8 @@ struct Reflect {
                                       []() -> OrvantaBaseModel* { return new Self_; }}; \
   const Class& classObjectOf##Self_() { return Self_::classObject(); }
 
-// Models have one line of ancestors; where a member of such a class stands is known to every
-// compiler for our platforms, though the standard leaves it to them.
+// A model begins with its OrvantaBaseModel; where the members of such a class stand is known to
+// every compiler for our platforms, though the standard leaves it to them.
 #define ORVANTA_OFFSETS_BEGIN_ \
   _Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Winvalid-offsetof\"")
 #define ORVANTA_OFFSETS_END_ _Pragma("GCC diagnostic pop")
