@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
 #include <string_view>
 
 #include "Foundation/Array.h"
@@ -24,13 +25,39 @@ constexpr AlertText kAlertTexts[] = {
     {"body", "loc-key", "loc-args", &UNNotificationContent::body},
 };
 
+constexpr std::size_t kMostArgument = std::size_t{4} << 10U;
+constexpr std::size_t kMostText = std::size_t{64} << 10U;
+
 bool isNonEmptyText(const Value& value) { return !value.string().value_or("").empty(); }
 
+/// Cuts a text that is longer, and no character in two.
+void cut(std::string& text, std::size_t most) {
+  if (text.size() <= most) return;
+  while (most != 0 && (static_cast<unsigned char>(text[most]) & 0xC0U) == 0x80) --most;
+  text.replace(most, std::string::npos, " …");
+}
+
+std::string describedArgument(const Value& value) {
+  if (const Dictionary* dictionary = value.dictionary()) {
+    return describe(*dictionary, kMostArgument);
+  }
+  // Only dictionaries are described with a limit; in one, an array takes no less room.
+  if (value.array() != nullptr &&
+      describe(Dictionary{{"array", value}}, kMostArgument).size() > kMostArgument) {
+    return "( …";
+  }
+  std::string text = describe(value);
+  cut(text, kMostArgument);
+  return text;
+}
+
 /// Puts the arguments in for "%@", in order, and "%1$@", by number; one that is missing is empty.
+/// An argument's text is cut after 4 KiB, the whole after 64 KiB.
 std::string withArguments(std::string_view format, const Array* arguments) {
   std::string text;
+  std::map<std::size_t, std::string> described;
   std::size_t next = 0;
-  while (!format.empty()) {
+  while (!format.empty() && text.size() <= kMostText) {
     const auto percent = format.find('%');
     text.append(format.substr(0, percent));
     if (percent == std::string_view::npos) break;
@@ -50,9 +77,13 @@ std::string withArguments(std::string_view format, const Array* arguments) {
       continue;
     }
     if (rest.size() == format.size()) ++next;
-    if (arguments != nullptr && index < arguments->size()) text += describe((*arguments)[index]);
     format = rest.substr(1);
+    if (arguments == nullptr || index >= arguments->size()) continue;
+    const auto [place, isNew] = described.try_emplace(index);
+    if (isNew) place->second = describedArgument((*arguments)[index]);
+    text += place->second;
   }
+  cut(text, kMostText);
   return text;
 }
 

@@ -4,6 +4,7 @@
 
 #include "Foundation/Exception.h"
 #include "Foundation/JSON.h"
+#include "Lines.h"
 #include "Mapping/RefusalRecorder.h"
 #include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
 #include "Platform/Linux/RemoteNotification.h"
@@ -42,15 +43,15 @@ void ReplayCounts::add(const ReplayCounts& other) {
   badLines += other.badLines;
   firstBadLines.insert(other.firstBadLines.begin(), other.firstBadLines.end());
   while (firstBadLines.size() > kMostBadLines) firstBadLines.erase(std::prev(firstBadLines.end()));
-  for (std::size_t i = 0; i < sizes.size(); ++i) sizes[i] += other.sizes[i];
+  for (const auto& [size, count] : other.sizes) sizes[size] += count;
 }
 
 std::uint64_t ReplayCounts::sizeAt(double share) const {
   const auto wanted = static_cast<std::uint64_t>(std::ceil(share * static_cast<double>(payloads)));
   std::uint64_t seen = 0;
-  for (std::size_t size = 0; size < sizes.size(); ++size) {
-    seen += sizes[size];
-    if (seen != 0 && seen >= wanted) return size;
+  for (const auto& [size, count] : std::map(sizes.begin(), sizes.end())) {
+    seen += count;
+    if (seen >= wanted) return size;
   }
   return 0;
 }

@@ -1,13 +1,11 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <unordered_map>
 
-#include "Lines.h"
 #include "Platform/Linux/ReplayPlatform.h"
 
 namespace orvanta::tool {
@@ -27,7 +25,7 @@ struct ReplayCounts {
   std::uint64_t badLines = 0;
   std::map<std::uint64_t, std::string> firstBadLines;  // by line number, ten at most
   /// Payloads by their size in bytes.
-  std::vector<std::uint64_t> sizes = std::vector<std::uint64_t>(Lines::kLongestLine + 1);
+  std::unordered_map<std::size_t, std::uint64_t> sizes;
 
   void add(const ReplayCounts& other);
   /// The size that this share of the payloads does not exceed; 0 without payloads.

@@ -3,14 +3,17 @@
 #include <algorithm>
 #include <condition_variable>
 #include <deque>
+#include <exception>
 #include <filesystem>
 #include <iomanip>
 #include <iostream>
 #include <mutex>
 #include <thread>
+#include <vector>
 
 #include "Commands.h"
 #include "Foundation/Array.h"
+#include "Lines.h"
 #include "Replay.h"
 #include "Text.h"
 
@@ -20,14 +23,17 @@ namespace {
 
 using Chunk = std::vector<ReplayLine>;
 
-/// Chunks on their way from the reader to the jobs; the reader waits when there are many.
+/// Chunks on their way from the reader to the jobs; the reader waits when there are many. After a
+/// job has failed there are none.
 class Chunks {
  public:
   explicit Chunks(std::size_t most) : most_(most) {}
 
+  /// Throws what a job has failed with.
   void put(Chunk chunk) {
     std::unique_lock lock(lock_);
-    changed_.wait(lock, [&] { return chunks_.size() < most_; });
+    changed_.wait(lock, [&] { return failure_ || chunks_.size() < most_; });
+    if (failure_) std::rethrow_exception(failure_);
     chunks_.push_back(std::move(chunk));
     changed_.notify_all();
   }
@@ -36,10 +42,19 @@ class Chunks {
     isEnded_ = true;
     changed_.notify_all();
   }
+  void fail(std::exception_ptr failure) {
+    const std::lock_guard lock(lock_);
+    if (!failure_) failure_ = std::move(failure);
+    changed_.notify_all();
+  }
+  void rethrowFailure() {
+    const std::lock_guard lock(lock_);
+    if (failure_) std::rethrow_exception(failure_);
+  }
   bool take(Chunk& chunk) {
     std::unique_lock lock(lock_);
-    changed_.wait(lock, [&] { return isEnded_ || !chunks_.empty(); });
-    if (chunks_.empty()) return false;
+    changed_.wait(lock, [&] { return failure_ || isEnded_ || !chunks_.empty(); });
+    if (failure_ || chunks_.empty()) return false;
     chunk = std::move(chunks_.front());
     chunks_.pop_front();
     changed_.notify_all();
@@ -52,6 +67,7 @@ class Chunks {
   std::condition_variable changed_;
   std::deque<Chunk> chunks_;
   bool isEnded_ = false;
+  std::exception_ptr failure_;
 };
 
 /// Bytes that were read, drawn on a terminal now and then.
@@ -117,19 +133,26 @@ ReplayCounts replayAll(Lines& lines, Progress& progress, std::uint64_t jobs) {
     readChunks(lines, progress, [&](const Chunk& chunk) { runChunk(replays.front(), chunk); });
   } else {
     Chunks chunks(2 * jobs);
-    std::vector<std::jthread> threads;
-    threads.reserve(replays.size());
-    for (Replay& replay : replays) {
-      threads.emplace_back([&] {
-        Chunk chunk;
-        while (chunks.take(chunk)) runChunk(replay, chunk);
-      });
+    {
+      std::vector<std::jthread> threads;
+      const struct End {
+        Chunks& chunks;
+        ~End() { chunks.end(); }
+      } end{chunks};
+      threads.reserve(replays.size());
+      for (Replay& replay : replays) {
+        threads.emplace_back([&] {
+          try {
+            Chunk chunk;
+            while (chunks.take(chunk)) runChunk(replay, chunk);
+          } catch (...) {
+            chunks.fail(std::current_exception());
+          }
+        });
+      }
+      readChunks(lines, progress, [&](Chunk chunk) { chunks.put(std::move(chunk)); });
     }
-    struct End {
-      Chunks& chunks;
-      ~End() { chunks.end(); }
-    } end{chunks};
-    readChunks(lines, progress, [&](Chunk chunk) { chunks.put(std::move(chunk)); });
+    chunks.rethrowFailure();
   }
   ReplayCounts sum;
   for (const Replay& replay : replays) sum.add(replay.counts());

@@ -134,7 +134,7 @@ class ShownPrinter {
     lines_.row("subtitle", content.subtitle.value_or("none"));
     lines_.row("body", content.body.value_or("none"));
     lines_.row("badge", content.badge.isNil() ? "unchanged" : describe(content.badge));
-    lines_.row("sound", content.sound.isNil() ? "none" : describe(content.sound));
+    lines_.row("sound", soundLine(content.sound));
     lines_.row("thread", orNone(content.threadIdentifier));
     printMedia(content);
     printButtons(shown);
@@ -142,6 +142,13 @@ class ShownPrinter {
 
  private:
   static std::string orNone(const std::string& text) { return text.empty() ? "none" : text; }
+
+  static std::string soundLine(const Value& sound) {
+    constexpr std::size_t kMost = std::size_t{4} << 10U;
+    if (sound.isNil()) return "none";
+    const Dictionary* parts = sound.dictionary();
+    return parts != nullptr ? describe(*parts, kMost) : describe(sound);
+  }
 
   void printSender(const UNNotificationContent& content) {
     if (const auto& communication = content.communication) {

@@ -52,7 +52,17 @@ void printJSON(const Value& value, std::ostream& out, bool pretty) {
     throw Failure(ExitCode::notMade,
                   "the result has no JSON text: it holds an infinite number or the like");
   }
-  out << text << '\n';
+  if (text.find('\x7F') == std::string::npos && text.find('\xC2') == std::string::npos) {
+    out << text << '\n';
+    return;
+  }
+  // Line breaks are the style's own: those of a text are escaped already.
+  std::string_view rest = text;
+  for (auto end = rest.find('\n'); end != rest.npos; end = rest.find('\n')) {
+    out << printable(rest.substr(0, end)) << '\n';
+    rest.remove_prefix(end + 1);
+  }
+  out << printable(rest) << '\n';
 }
 
 }  // namespace orvanta::tool

@@ -16,7 +16,8 @@ std::string printable(std::string_view text, std::size_t indent = 0);
 /// How many characters must be inserted, left out or replaced to turn one text into the other.
 std::size_t editDistance(std::string_view a, std::string_view b);
 
-/// Writes the JSON text of a value and a line end; throws Failure for a value that has none.
+/// Writes the JSON text of a value and a line end, control characters as \u00xx; throws Failure for
+/// a value that has none.
 void printJSON(const Value& value, std::ostream& out, bool pretty);
 
 }  // namespace orvanta::tool

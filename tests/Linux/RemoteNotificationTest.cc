@@ -88,6 +88,21 @@ TEST(ContentForPayload, TakesTheTextsOfTheAlert) {
   for (const auto& row : rows) EXPECT_EQ(textsOf(row.alert), row.texts) << row.alert;
 }
 
+TEST(ContentForPayload, CutsArgumentsThatTakeMuchMoreRoomThanTheirPayload) {
+  const auto bodyOf = [](const std::string& format, const std::string& argument) {
+    const std::string alert = R"({"loc-key": ")" + format + R"(", "loc-args": [)" + argument + "]}";
+    return textsOf(alert).substr(4);
+  };
+  const std::string deep = std::string(400, '[') + "1" + std::string(400, ']');
+  std::string often;
+  for (int i = 0; i < 1000; ++i) often += "%1$@";
+  EXPECT_EQ(bodyOf("<%1$@%1$@>", deep), "<( …( …>");
+  EXPECT_EQ(bodyOf("%@", R"({"a":)" + deep + "}").size(), 4096U + 4U);
+  EXPECT_EQ(bodyOf("%@", '"' + std::string(4096, 'x') + '"'), std::string(4096, 'x'));
+  EXPECT_EQ(bodyOf("%@", "\"x" + std::string(4094, 'x') + "é\""), std::string(4095, 'x') + " …");
+  EXPECT_EQ(bodyOf(often, '"' + std::string(100, 'x') + '"'), std::string(65536, 'x') + " …");
+}
+
 TEST(ContentForPayload, TakesBadgeSoundCategoryAndThreadOfTheRightKind) {
   const struct {
     std::string_view aps;

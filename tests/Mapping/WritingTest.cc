@@ -74,16 +74,16 @@ TEST(Writing, LeavesOutTheUnsetIntegerOfAnyKindButNoOtherNumber) {
 
 TEST(Writing, NamesTheClassOfEveryModelWhenAsked) {
   const auto model = made<NestingModel>(
-      R"({"leaf": {"name": "a"}, "leaves": [{}, [{}]], "free": {"klazz": "OrvantaPushStyle"},
+      R"({"leaf": {"name": "a"}, "leaves": [[{}]], "free": {"klazz": "OrvantaPushStyle"},
           "list": [{"x": 1}], "deeper": {"leaf": {}}})");
   EXPECT_EQ(written(model->dictionaryValueWithClassInfo()),
             R"({"leaf":{"name":"a","size":0,"klazz":"LeafModel"},)"
-            R"("leaves":[{"size":0,"klazz":"LeafModel"},[{"size":0,"klazz":"LeafModel"}]],)"
+            R"("leaves":[[{"size":0,"klazz":"LeafModel"}]],)"
             R"("free":{"klazz":"OrvantaPushStyle"},"list":[{"x":1}],)"
             R"("deeper":{"leaf":{"size":0,"klazz":"LeafModel"},"klazz":"NestingModel"},)"
             R"("klazz":"NestingModel"})");
   EXPECT_EQ(written(model->dictionaryValue()),
-            R"({"leaf":{"name":"a","size":0},"leaves":[{"size":0},[{"size":0}]],"free":{},)"
+            R"({"leaf":{"name":"a","size":0},"leaves":[[{"size":0}]],"free":{},)"
             R"("list":[{"x":1}],"deeper":{"leaf":{"size":0}}})");
 }
 

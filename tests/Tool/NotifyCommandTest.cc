@@ -138,5 +138,19 @@ TEST(NotifyCommand, EscapesAHostilePayloadOnTheTerminal) {
   EXPECT_NE(run.out.find("a\\u001b[31mb"), std::string::npos);
 }
 
+TEST(NotifyCommand, EscapesDeleteAndC1InItsLedger) {
+  const ToolRun run =
+      runTool({"notify", "--json"}, R"({"aps":{"alert":{"title":"a\u007fb\u009bc\u00a0d"}}})");
+  EXPECT_NE(run.out.find("\"a\\u007fb\\u009bc\u00a0d\""), std::string::npos) << run.out;
+  EXPECT_EQ(run.out.find("\u009b"), std::string::npos);
+}
+
+TEST(NotifyCommand, CutsASoundThatTakesMuchMoreRoomThanItsPayload) {
+  const std::string deep = std::string(400, '[') + "1" + std::string(400, ']');
+  const ToolRun run = runTool({"notify"}, R"({"aps":{"alert":"a","sound":{"s":)" + deep + "}}}");
+  EXPECT_NE(run.out.find(" …\n"), std::string::npos);
+  EXPECT_LT(run.out.size(), 16384U);
+}
+
 }  // namespace
 }  // namespace orvanta::testing
