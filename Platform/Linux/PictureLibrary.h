@@ -8,12 +8,12 @@ namespace orvanta {
 /// along, and loading those takes longer than most notifications do; so it is loaded when the first
 /// picture is.
 struct PictureLibrary {
-#define ORVANTA_PICTURE_FUNCTIONS(X)                                      \
-  X(gdFree)                                                               \
-  X(gdImageCreateFromGifPtr)                                              \
-  X(gdImageCreateFromJpegPtrEx)                                           \
-  X(gdImageCreateFromWebpPtr) X(gdImageCreateTrueColor) X(gdImageDestroy) \
-      X(gdImageFilledRectangle) X(gdImageJpegPtr) X(gdImagePaletteToTrueColor) X(gdSetErrorMethod)
+// clang-format off
+#define ORVANTA_PICTURE_FUNCTIONS(X)                                                           \
+  X(gdFree) X(gdImageCreateFromGifPtr) X(gdImageCreateFromJpegPtrEx)                           \
+  X(gdImageCreateFromWebpPtr) X(gdImageCreateTrueColor) X(gdImageDestroy)                      \
+  X(gdImageFilledRectangle) X(gdImageJpegPtr) X(gdImagePaletteToTrueColor) X(gdSetErrorMethod)
+// clang-format on
 // NOLINTNEXTLINE(bugprone-macro-parentheses): a name
 #define ORVANTA_PICTURE_FUNCTION(name) decltype(&::name) name;
   ORVANTA_PICTURE_FUNCTIONS(ORVANTA_PICTURE_FUNCTION)
