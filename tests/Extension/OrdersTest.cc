@@ -69,13 +69,14 @@ class Rules {
         registrations.push_back(registered);
         return update(request);
       case Step::download:
-        if (world.of(taken[request]).media && !world.downloadFails) attached[taken[request]] = true;
+        if (world.of(taken_[request]).media && !world.downloadFails)
+          attached_[taken_[request]] = true;
         return communicate(request);
       case Step::donation:
-        if (world.donationFails) return deliver(request, nameOf(taken[request]));
-        if (world.updateFails) deliver(request, nameOf(taken[request]));
+        if (world.donationFails) return deliver(request, nameOf(taken_[request]));
+        if (world.updateFails) deliver(request, nameOf(taken_[request]));
         deliver(request,
-                world.updateFails ? "nothing" : "updated " + nameOf(communicated[request]));
+                world.updateFails ? "nothing" : "updated " + nameOf(communicated_[request]));
     }
   }
   void expire() { deliver(current, nameOf(current)); }
@@ -89,13 +90,13 @@ class Rules {
 
  private:
   void update(int request) {
-    taken[request] = current;
+    taken_[request] = current;
     if (!world.of(request).media) return communicate(request);
     waiting.push_back({request, Step::download});
   }
   void communicate(int request) {
-    communicated[request] = current;
-    if (!world.of(request).icon) return deliver(request, nameOf(taken[request]));
+    communicated_[request] = current;
+    if (!world.of(request).icon) return deliver(request, nameOf(taken_[request]));
     if (!world.of(current).icon) return deliver(request, nameOf(current));
     waiting.push_back({request, Step::donation});
   }
@@ -103,12 +104,12 @@ class Rules {
     deliveries.push_back({handler, std::move(content), registrations.size()});
   }
   std::string nameOf(int request) const {
-    return "content " + std::to_string(request) + (attached[request] ? " with media" : "");
+    return "content " + std::to_string(request) + (attached_[request] ? " with media" : "");
   }
 
-  int taken[3] = {};
-  int communicated[3] = {};
-  bool attached[3] = {};
+  int taken_[3] = {};
+  int communicated_[3] = {};
+  bool attached_[3] = {};
 };
 
 /// One order of a world, driven by choices; those that are not made yet are the first possible.
