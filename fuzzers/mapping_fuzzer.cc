@@ -1,3 +1,4 @@
+#include <cmath>
 #include <string>
 
 #include "Events/OrvantaErrorEvent.h"
@@ -33,7 +34,7 @@ bool anyModel(const Value& value, const Fits& fits) {
       if (anyModel(element, fits)) return true;
     }
   }
-  const auto* model = value.as<OrvantaBaseModel>();
+  auto* model = value.as<OrvantaBaseModel>();
   if (model == nullptr) return false;
   if (fits(*model)) return true;
   for (const Class* cls = &model->isa(); cls->parent() != nullptr; cls = cls->parent()) {
@@ -44,15 +45,31 @@ bool anyModel(const Value& value, const Fits& fits) {
   return false;
 }
 
-/// Whether a property's value is written as something else than what it was read from: the marker
-/// of an integer that was not given is left out, and a date may lose a millisecond, since it is
-/// kept in seconds and truncated.
+/// Whether a date is read back as another one: it may lose a millisecond, since it is kept in
+/// seconds and truncated.
+bool isInexact(const Date& date) {
+  return Date::fromMilliseconds(date.milliseconds()).milliseconds() != date.milliseconds();
+}
+
+/// Puts a whole second, or 1970 where that is inexact too, in the place of each inexact date of a
+/// model, so that all the rest of it can be compared.
+bool makeDatesExact(OrvantaBaseModel& model) {
+  for (const Class* cls = &model.isa(); cls->parent() != nullptr; cls = cls->parent()) {
+    for (const Property& property : cls->properties) {
+      const auto date = property.valueIn(model).date();
+      if (!date || !isInexact(*date)) continue;
+      const Date second{std::trunc(date->secondsSince1970)};
+      property.assignTo(model, isInexact(second) ? Date{} : second);
+    }
+  }
+  return false;  // on to the next model
+}
+
+/// Whether a property's value is not written though it was read: the marker of an integer that was
+/// not given.
 bool isLost(const Property& property, const OrvantaBaseModel& model,
             const OrvantaBaseModel& fresh) {
   const Value value = property.valueIn(model);
-  if (const auto date = value.date()) {
-    return Date::fromMilliseconds(date->milliseconds()).milliseconds() != date->milliseconds();
-  }
   const Value initial = property.valueIn(fresh);
   return isUnsetInteger(value) && !isUnsetInteger(initial) && !initial.isNil();
 }
@@ -156,6 +173,7 @@ void mapping(std::string_view input) {
   if (!model) return;
 
   const Value value(model);
+  anyModel(value, makeDatesExact);
   const Dictionary written = model->dictionaryValue();
   if (!anyModel(value, isLostInWriting)) {
     requireReadBack(*model, written);

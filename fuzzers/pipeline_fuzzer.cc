@@ -1,7 +1,9 @@
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "Foundation/Exception.h"
 #include "Foundation/JSON.h"
 #include "Mapping/OrvantaLogger.h"
 #include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
@@ -60,10 +62,25 @@ constexpr std::string_view kServices[] = {"log",         "clock",  "session", "f
 
 /// What came of one request.
 struct Outcome {
-  bool hasCenter;
+  bool isHeldBack;  // it has buttons, but there is no center to register them with
   Dictionary payload;
   std::vector<std::shared_ptr<const UNNotificationContent>> delivered;
 };
+
+/// Whether a push object can be made, and names a category and at least one button.
+bool hasButtons(const Dictionary& payload) {
+  try {
+    if (!make<OrvantaPushObject>(payload)) return false;
+  } catch (const Exception&) {
+    return false;
+  }
+  const Dictionary* aps = payload["aps"].dictionary();
+  const Dictionary* own = payload["_ov"].dictionary();
+  const Array* buttons = own != nullptr ? (*own)["ia"].array() : nullptr;
+  return aps != nullptr && (*aps)["category"].isString() && buttons != nullptr &&
+         std::any_of(buttons->begin(), buttons->end(),
+                     [](const Value& button) { return button.dictionary() != nullptr; });
+}
 
 class Run {
  public:
@@ -75,7 +92,7 @@ class Run {
     if (outcomes_.empty()) receive();
     platform_.runAll();
     if (outcomes_.back()->delivered.empty()) {
-      require(!outcomes_.back()->hasCenter, "without an expiry only a missing center holds back");
+      require(outcomes_.back()->isHeldBack, "only buttons without a center wait for the expiry");
       expire();
     }
     requireOutcomes();
@@ -132,7 +149,7 @@ class Run {
     if (NSBundle* bundle = platform_.mainBundle()) *content = contentForPayload(payload, *bundle);
     content->userInfo = payload;
     auto outcome = std::make_shared<Outcome>();
-    outcome->hasCenter = platform_.currentNotificationCenter() != nullptr;
+    outcome->isHeldBack = platform_.currentNotificationCenter() == nullptr && hasButtons(payload);
     outcome->payload = payload;
     outcomes_.push_back(outcome);
     extension_->didReceiveNotificationRequest(
@@ -142,13 +159,15 @@ class Run {
   }
   void expire() {
     ++expiries_;
+    const std::size_t before = outcomes_.back()->delivered.size();
     extension_->serviceExtensionTimeWillExpire();
+    require(outcomes_.back()->delivered.size() == before + 1, "an expiry delivers, and once");
   }
 
   void requireOutcomes() {
     for (const auto& outcome : outcomes_) {
       const auto& delivered = outcome->delivered;
-      require(!delivered.empty() || !outcome->hasCenter, "content is delivered");
+      require(!delivered.empty() || outcome->isHeldBack, "content is delivered");
       require(delivered.empty() || delivered.front() != nullptr, "the first delivery has content");
       require(delivered.size() <= 1 + expiries_ + (platform_.updateError ? 1U : 0U),
               "the steps deliver once, and once more after a failed update");

@@ -153,6 +153,14 @@ TEST(PushPayloadMatrix, AlertAndClickActionAreThereWhateverIsGiven) {
     Dictionary written = unread(push->isa());
     if (value.isString()) written.set("body", value);
     EXPECT_EQ(push->dictionaryValue(), written) << cell.json;
+
+    const RecordingPlatform platform;
+    const auto clicked = make<OrvantaPushObject>(Dictionary{{"_ov", Dictionary{{"act", value}}}});
+    ASSERT_EQ(!clicked, outcome(cell, "@", nullptr).refusedWithLines.has_value()) << cell.json;
+    if (!clicked) continue;
+    ASSERT_TRUE(clicked->alert() && clicked->action()) << cell.json;
+    const Value uri = value.dictionary() ? (*value.dictionary())["uri"] : Value();
+    EXPECT_EQ(clicked->action().get()->deeplinkURLString().value(), uri) << cell.json;
   }
 }
 
