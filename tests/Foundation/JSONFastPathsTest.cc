@@ -34,7 +34,8 @@ TEST(JSONFastPaths, AmountsHaveTheShortestText) {
 }
 
 TEST(JSONFastPaths, TextsOfEveryLengthAreEscapedAtEveryPlace) {
-  for (std::size_t size : {0, 1, 3, 4, 7, 8, 9, 15, 16, 17, 511, 512, 513, 1100}) {
+  for (const int length : {0, 1, 3, 4, 7, 8, 9, 15, 16, 17, 511, 512, 513, 1100}) {
+    const auto size = static_cast<std::size_t>(length);
     const std::string plain(size, 'x');
     EXPECT_EQ(written(plain), '"' + plain + '"');
     for (std::size_t place = 0; place < size; ++place) {
