@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "Foundation/Value.h"
 #include "Workloads.h"
+#include "orvanta/Foundation/Value.h"
 
 namespace orvanta::benchmarks {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Foundation/Array.h"
-#include "Foundation/Dictionary.h"
 #include "Models.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Dictionary.h"
 
 // What the structs hold, as values by property name: equal for all contenders that read a text
 // alike.

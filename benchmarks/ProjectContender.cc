@@ -1,14 +1,14 @@
 #include <stdexcept>
 
-#include "Commerce/OrvantaLineItem.h"
-#include "Commerce/OrvantaProductViewEvent.h"
-#include "Commerce/OrvantaPurchaseEvent.h"
 #include "Contender.h"
-#include "Events/OrvantaScreenViewEvent.h"
-#include "Foundation/JSON.h"
-#include "Push/OrvantaPushObject.h"
-#include "Requests/OrvantaEventRequest.h"
-#include "Responses/OrvantaInboxResponse.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Model/Commerce/OrvantaLineItem.h"
+#include "orvanta/Model/Commerce/OrvantaProductViewEvent.h"
+#include "orvanta/Model/Commerce/OrvantaPurchaseEvent.h"
+#include "orvanta/Model/Events/OrvantaScreenViewEvent.h"
+#include "orvanta/Model/Push/OrvantaPushObject.h"
+#include "orvanta/Model/Requests/OrvantaEventRequest.h"
+#include "orvanta/Model/Responses/OrvantaInboxResponse.h"
 
 namespace orvanta::benchmarks {
 

@@ -6,9 +6,9 @@
 #include <random>
 #include <stdexcept>
 
-#include "Foundation/Array.h"
-#include "Foundation/Dictionary.h"
-#include "Foundation/JSON.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/JSON.h"
 
 namespace orvanta::benchmarks {
 

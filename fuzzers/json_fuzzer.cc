@@ -1,11 +1,11 @@
 #include <string>
 
-#include "Foundation/Array.h"
-#include "Foundation/Description.h"
-#include "Foundation/Dictionary.h"
-#include "Foundation/JSON.h"
-#include "Mapping/OrvantaJSONSerializer.h"
-#include "fuzzers/fuzzer.h"
+#include "fuzzer.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Description.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Model/Mapping/OrvantaJSONSerializer.h"
 
 // The input is a JSON text, or none.
 

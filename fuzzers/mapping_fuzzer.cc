@@ -1,15 +1,15 @@
 #include <cmath>
 #include <string>
 
-#include "Events/OrvantaErrorEvent.h"
-#include "Events/OrvantaPushOpenedEvent.h"
-#include "Events/OrvantaWebViewActionEvent.h"
-#include "Foundation/JSON.h"
-#include "Mapping/RefusalRecorder.h"
-#include "Push/OrvantaPushObject.h"
-#include "Requests/OrvantaEventRequest.h"
-#include "Responses/OrvantaInboxCountResponse.h"
-#include "fuzzers/fuzzer.h"
+#include "fuzzer.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Model/Events/OrvantaErrorEvent.h"
+#include "orvanta/Model/Events/OrvantaPushOpenedEvent.h"
+#include "orvanta/Model/Events/OrvantaWebViewActionEvent.h"
+#include "orvanta/Model/Mapping/RefusalRecorder.h"
+#include "orvanta/Model/Push/OrvantaPushObject.h"
+#include "orvanta/Model/Requests/OrvantaEventRequest.h"
+#include "orvanta/Model/Responses/OrvantaInboxCountResponse.h"
 
 // The input's first line names a model class (any other text picks one), the rest is the JSON text
 // of a dictionary.

@@ -3,13 +3,13 @@
 #include <string>
 #include <vector>
 
-#include "Foundation/Exception.h"
-#include "Foundation/JSON.h"
-#include "Mapping/OrvantaLogger.h"
-#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
-#include "Platform/Linux/MediaTypes.h"
-#include "Platform/Linux/RemoteNotification.h"
-#include "fuzzers/fuzzer.h"
+#include "fuzzer.h"
+#include "orvanta/Foundation/Exception.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Linux/MediaTypes.h"
+#include "orvanta/Linux/RemoteNotification.h"
+#include "orvanta/Model/Mapping/OrvantaLogger.h"
+#include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
 #include "support/FakePlatform.h"
 
 // The input's first line is a script, the rest the payload as JSON; behind a byte 0x1E may stand a

@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
-#include "Foundation/Array.h"
-#include "Foundation/Dictionary.h"
-#include "Foundation/JSON.h"
-#include "Foundation/KeyPath.h"
-#include "Mapping/Class.h"
-#include "fuzzers/fuzzer.h"
+#include "fuzzer.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Foundation/KeyPath.h"
+#include "orvanta/Model/Mapping/Class.h"
 
 // How libFuzzer changes an input of a line and a JSON text: now and then in its bytes, else in the
 // text's tree, so that most inputs get past the JSON reader. Keys are those of the tables.

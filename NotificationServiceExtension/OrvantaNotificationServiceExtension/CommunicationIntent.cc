@@ -1,11 +1,11 @@
 #include <string>
 #include <utility>
 
-#include "Mapping/OrvantaLogger.h"
-#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
-#include "Platform/Interface/Images.h"
-#include "Platform/Interface/Intents.h"
-#include "Platform/Interface/Platform.h"
+#include "orvanta/Model/Mapping/OrvantaLogger.h"
+#include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
+#include "orvanta/Platform/Intents.h"
+#include "orvanta/Platform/Platform.h"
+#include "orvanta/Platform/UIKit.h"
 
 namespace orvanta {
 

@@ -1,13 +1,13 @@
 #include <string>
 #include <utility>
 
-#include "Foundation/Description.h"
-#include "Mapping/OrvantaLogger.h"
-#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
-#include "Platform/Interface/NSFileManager.h"
-#include "Platform/Interface/NSURLSession.h"
-#include "Platform/Interface/Platform.h"
-#include "Platform/Interface/TypeIdentifiers.h"
+#include "orvanta/Foundation/Description.h"
+#include "orvanta/Model/Mapping/OrvantaLogger.h"
+#include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
+#include "orvanta/Platform/MobileCoreServices.h"
+#include "orvanta/Platform/NSFileManager.h"
+#include "orvanta/Platform/NSURLSession.h"
+#include "orvanta/Platform/Platform.h"
 
 namespace orvanta {
 

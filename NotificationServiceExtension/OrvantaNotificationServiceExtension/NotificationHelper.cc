@@ -1,12 +1,12 @@
-#include "OrvantaNotificationServiceExtension/NotificationHelper.h"
+#include "orvanta/NotificationService/NotificationHelper.h"
 
 #include <string>
 #include <vector>
 
-#include "Foundation/Number.h"
-#include "Notifications/OrvantaUserNotificationCategory.h"
-#include "Platform/Interface/NSBundle.h"
-#include "Platform/Interface/Platform.h"
+#include "orvanta/Foundation/Number.h"
+#include "orvanta/Model/Notifications/OrvantaUserNotificationCategory.h"
+#include "orvanta/Platform/NSBundle.h"
+#include "orvanta/Platform/Platform.h"
 
 namespace orvanta {
 

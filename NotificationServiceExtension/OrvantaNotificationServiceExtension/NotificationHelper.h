@@ -3,8 +3,8 @@
 #include <functional>
 #include <memory>
 
-#include "Foundation/Array.h"
-#include "Platform/Interface/UserNotifications.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Platform/UserNotifications.h"
 
 namespace orvanta {
 

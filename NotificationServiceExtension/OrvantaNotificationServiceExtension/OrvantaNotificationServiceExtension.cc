@@ -1,11 +1,11 @@
-#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
+#include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
 
 #include <utility>
 
-#include "Foundation/Exception.h"
-#include "Mapping/OrvantaLogger.h"
-#include "OrvantaNotificationServiceExtension/NotificationHelper.h"
-#include "Platform/Interface/Platform.h"
+#include "orvanta/Foundation/Exception.h"
+#include "orvanta/Model/Mapping/OrvantaLogger.h"
+#include "orvanta/NotificationService/NotificationHelper.h"
+#include "orvanta/Platform/Platform.h"
 
 // The pipeline; MediaAttachment.cc and CommunicationIntent.cc have the steps that it calls.
 

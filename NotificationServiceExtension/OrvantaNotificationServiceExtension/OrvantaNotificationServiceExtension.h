@@ -4,12 +4,12 @@
 #include <optional>
 #include <string_view>
 
-#include "Foundation/Url.h"
-#include "Notifications/OrvantaUserNotificationCategory.h"
-#include "Platform/Interface/NSError.h"
-#include "Platform/Interface/NSURLSession.h"
-#include "Platform/Interface/UserNotifications.h"
-#include "Push/OrvantaPushObject.h"
+#include "orvanta/Foundation/Url.h"
+#include "orvanta/Model/Notifications/OrvantaUserNotificationCategory.h"
+#include "orvanta/Model/Push/OrvantaPushObject.h"
+#include "orvanta/Platform/NSError.h"
+#include "orvanta/Platform/NSURLSession.h"
+#include "orvanta/Platform/UserNotifications.h"
 
 namespace orvanta {
 

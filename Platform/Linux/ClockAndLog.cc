@@ -1,4 +1,4 @@
-#include "Platform/Linux/ClockAndLog.h"
+#include "orvanta/Linux/ClockAndLog.h"
 
 #include <chrono>
 

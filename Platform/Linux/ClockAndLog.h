@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "Platform/Interface/Clock.h"
-#include "Platform/Interface/SystemLog.h"
+#include "orvanta/Platform/Clock.h"
+#include "orvanta/Platform/SystemLog.h"
 
 namespace orvanta {
 

@@ -1,11 +1,11 @@
-#include "Platform/Linux/DeviceProfile.h"
+#include "orvanta/Linux/DeviceProfile.h"
 
 #include <limits>
 
-#include "Foundation/Array.h"
-#include "Foundation/JSON.h"
-#include "Platform/Linux/KeyReaders.h"
-#include "Platform/Linux/Scenario.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Linux/KeyReaders.h"
+#include "orvanta/Linux/Scenario.h"
 
 namespace orvanta {
 

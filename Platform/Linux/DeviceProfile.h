@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "Foundation/Dictionary.h"
-#include "Platform/Interface/Platform.h"
-#include "Platform/Interface/SystemCalls.h"
-#include "Platform/Interface/UIDevice.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Platform/Platform.h"
+#include "orvanta/Platform/SystemCalls.h"
+#include "orvanta/Platform/UIKit.h"
 
 namespace orvanta {
 

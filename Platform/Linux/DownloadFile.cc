@@ -1,4 +1,4 @@
-#include "Platform/Linux/DownloadFile.h"
+#include "orvanta/Linux/DownloadFile.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,4 +1,4 @@
-#include "Platform/Linux/Files.h"
+#include "orvanta/Linux/Files.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -10,8 +10,8 @@
 #include <system_error>
 #include <utility>
 
-#include "Foundation/Array.h"
-#include "Foundation/Description.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Description.h"
 
 namespace orvanta {
 

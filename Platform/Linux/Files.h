@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "Platform/Interface/NSFileManager.h"
+#include "orvanta/Platform/NSFileManager.h"
 
 namespace orvanta {
 

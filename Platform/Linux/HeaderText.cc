@@ -1,8 +1,8 @@
-#include "Platform/Linux/HeaderText.h"
+#include "orvanta/Linux/HeaderText.h"
 
 #include <algorithm>
 
-#include "Foundation/CharacterSet.h"
+#include "orvanta/Foundation/CharacterSet.h"
 
 namespace orvanta {
 

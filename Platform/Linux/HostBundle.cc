@@ -1,4 +1,4 @@
-#include "Platform/Linux/HostBundle.h"
+#include "orvanta/Linux/HostBundle.h"
 
 #include <algorithm>
 #include <fstream>
@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "Foundation/CharacterSet.h"
+#include "orvanta/Foundation/CharacterSet.h"
 
 namespace orvanta {
 

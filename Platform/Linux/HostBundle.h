@@ -4,7 +4,7 @@
 #include <map>
 #include <string>
 
-#include "Platform/Interface/NSBundle.h"
+#include "orvanta/Platform/NSBundle.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Platform/Linux/HostDevice.h"
+#include "orvanta/Linux/HostDevice.h"
 
 #include <ifaddrs.h>
 #include <sys/socket.h>
@@ -13,7 +13,7 @@
 #include <fstream>
 #include <memory>
 
-#include "Foundation/CharacterSet.h"
+#include "orvanta/Foundation/CharacterSet.h"
 
 namespace orvanta {
 

@@ -5,12 +5,14 @@
 #include <utility>
 #include <vector>
 
-#include "Platform/Interface/CoreTelephony.h"
-#include "Platform/Interface/NSBundle.h"
-#include "Platform/Interface/Platform.h"
-#include "Platform/Interface/SystemCalls.h"
-#include "Platform/Interface/UIDevice.h"
-#include "Platform/Linux/DeviceProfile.h"
+#include "orvanta/Linux/DeviceProfile.h"
+#include "orvanta/Platform/CoreTelephony.h"
+#include "orvanta/Platform/NSBundle.h"
+#include "orvanta/Platform/NSFileManager.h"
+#include "orvanta/Platform/NSProcessInfo.h"
+#include "orvanta/Platform/Platform.h"
+#include "orvanta/Platform/SystemCalls.h"
+#include "orvanta/Platform/UIKit.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Platform/Linux/HostImages.h"
+#include "orvanta/Linux/HostImages.h"
 
 #include <fcntl.h>
 #include <png.h>
@@ -15,7 +15,7 @@
 #include <utility>
 #include <vector>
 
-#include "Platform/Linux/PictureLibrary.h"
+#include "orvanta/Linux/PictureLibrary.h"
 
 namespace orvanta {
 

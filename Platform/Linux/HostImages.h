@@ -4,7 +4,7 @@
 #include <set>
 #include <string>
 
-#include "Platform/Interface/Images.h"
+#include "orvanta/Platform/UIKit.h"
 
 namespace orvanta {
 

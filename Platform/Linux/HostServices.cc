@@ -1,13 +1,13 @@
-#include "Platform/Linux/HostServices.h"
+#include "orvanta/Linux/HostServices.h"
 
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
 #include <system_error>
 
-#include "Foundation/Array.h"
-#include "Foundation/JSON.h"
-#include "Foundation/Number.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Foundation/Number.h"
 
 namespace orvanta {
 

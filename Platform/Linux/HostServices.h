@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "Foundation/Array.h"
-#include "Platform/Interface/Intents.h"
-#include "Platform/Interface/UserNotifications.h"
-#include "Platform/Linux/EventLoop.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Linux/EventLoop.h"
+#include "orvanta/Platform/Intents.h"
+#include "orvanta/Platform/UserNotifications.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Platform/Linux/HostURLSession.h"
+#include "orvanta/Linux/HostURLSession.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -11,10 +11,11 @@
 #include <stdexcept>
 #include <system_error>
 
-#include "Foundation/CharacterSet.h"
-#include "Platform/Linux/Files.h"
-#include "Platform/Linux/MediaTypes.h"
-#include "Platform/Linux/URLErrors.h"
+#include "orvanta/Foundation/CharacterSet.h"
+#include "orvanta/Foundation/Description.h"
+#include "orvanta/Linux/Files.h"
+#include "orvanta/Linux/MediaTypes.h"
+#include "orvanta/Linux/URLErrors.h"
 
 namespace orvanta {
 

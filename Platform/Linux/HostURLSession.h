@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "Platform/Interface/NSURLSession.h"
-#include "Platform/Linux/EventLoop.h"
-#include "Platform/Linux/Scenario.h"
-#include "Platform/Linux/Transfer.h"
+#include "orvanta/Linux/EventLoop.h"
+#include "orvanta/Linux/Scenario.h"
+#include "orvanta/Linux/Transfer.h"
+#include "orvanta/Platform/NSURLSession.h"
 
 namespace orvanta {
 

@@ -1,8 +1,8 @@
-#include "Platform/Linux/KeyReaders.h"
+#include "orvanta/Linux/KeyReaders.h"
 
-#include "Foundation/Array.h"
-#include "Foundation/JSON.h"
-#include "Foundation/Number.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Foundation/Number.h"
 
 namespace orvanta::reading {
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Foundation/Dictionary.h"
+#include "orvanta/Foundation/Dictionary.h"
 
 // How a dictionary that a person wrote is read: each of its keys by a reader that knows the key.
 

@@ -1,4 +1,4 @@
-#include "Platform/Linux/MediaTypes.h"
+#include "orvanta/Linux/MediaTypes.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <utility>
 
-#include "Foundation/CharacterSet.h"
+#include "orvanta/Foundation/CharacterSet.h"
 
 namespace orvanta {
 

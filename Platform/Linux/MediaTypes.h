@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "Platform/Interface/TypeIdentifiers.h"
-#include "Platform/Interface/UserNotifications.h"
+#include "orvanta/Platform/MobileCoreServices.h"
+#include "orvanta/Platform/UserNotifications.h"
 
 namespace orvanta {
 

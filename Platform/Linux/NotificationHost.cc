@@ -1,15 +1,15 @@
-#include "Platform/Linux/NotificationHost.h"
+#include "orvanta/Linux/NotificationHost.h"
 
 #include <algorithm>
 #include <stdexcept>
 #include <string_view>
 
-#include "Foundation/Description.h"
-#include "Platform/Linux/ClockAndLog.h"
-#include "Platform/Linux/Files.h"
-#include "Platform/Linux/HostBundle.h"
-#include "Platform/Linux/HostImages.h"
-#include "Platform/Linux/MediaTypes.h"
+#include "orvanta/Foundation/Description.h"
+#include "orvanta/Linux/ClockAndLog.h"
+#include "orvanta/Linux/Files.h"
+#include "orvanta/Linux/HostBundle.h"
+#include "orvanta/Linux/HostImages.h"
+#include "orvanta/Linux/MediaTypes.h"
 
 namespace orvanta {
 

@@ -8,11 +8,11 @@
 #include <utility>
 #include <vector>
 
-#include "Platform/Interface/UserNotifications.h"
-#include "Platform/Linux/HostServices.h"
-#include "Platform/Linux/HostURLSession.h"
-#include "Platform/Linux/RemoteNotification.h"
-#include "Platform/Linux/Scenario.h"
+#include "orvanta/Linux/HostServices.h"
+#include "orvanta/Linux/HostURLSession.h"
+#include "orvanta/Linux/RemoteNotification.h"
+#include "orvanta/Linux/Scenario.h"
+#include "orvanta/Platform/UserNotifications.h"
 
 namespace orvanta {
 

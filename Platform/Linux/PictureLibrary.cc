@@ -1,4 +1,4 @@
-#include "Platform/Linux/PictureLibrary.h"
+#include "orvanta/Linux/PictureLibrary.h"
 
 #include <dlfcn.h>
 

@@ -1,13 +1,13 @@
-#include "Platform/Linux/RemoteNotification.h"
+#include "orvanta/Linux/RemoteNotification.h"
 
 #include <algorithm>
 #include <charconv>
 #include <map>
 #include <string_view>
 
-#include "Foundation/Array.h"
-#include "Foundation/Description.h"
-#include "Foundation/Number.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Description.h"
+#include "orvanta/Foundation/Number.h"
 
 namespace orvanta {
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "Platform/Interface/NSBundle.h"
-#include "Platform/Interface/UserNotifications.h"
+#include "orvanta/Platform/NSBundle.h"
+#include "orvanta/Platform/UserNotifications.h"
 
 namespace orvanta {
 

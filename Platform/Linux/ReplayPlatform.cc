@@ -1,4 +1,4 @@
-#include "Platform/Linux/ReplayPlatform.h"
+#include "orvanta/Linux/ReplayPlatform.h"
 
 namespace orvanta {
 

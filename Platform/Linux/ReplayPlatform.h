@@ -4,14 +4,14 @@
 #include <functional>
 #include <memory>
 
-#include "Platform/Interface/Images.h"
-#include "Platform/Interface/Intents.h"
-#include "Platform/Interface/NSBundle.h"
-#include "Platform/Interface/NSFileManager.h"
-#include "Platform/Interface/NSURLSession.h"
-#include "Platform/Interface/Platform.h"
-#include "Platform/Interface/TypeIdentifiers.h"
-#include "Platform/Interface/UserNotifications.h"
+#include "orvanta/Platform/Intents.h"
+#include "orvanta/Platform/MobileCoreServices.h"
+#include "orvanta/Platform/NSBundle.h"
+#include "orvanta/Platform/NSFileManager.h"
+#include "orvanta/Platform/NSURLSession.h"
+#include "orvanta/Platform/Platform.h"
+#include "orvanta/Platform/UIKit.h"
+#include "orvanta/Platform/UserNotifications.h"
 
 namespace orvanta {
 

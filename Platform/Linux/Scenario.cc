@@ -1,8 +1,8 @@
-#include "Platform/Linux/Scenario.h"
+#include "orvanta/Linux/Scenario.h"
 
 #include <charconv>
 
-#include "Platform/Linux/KeyReaders.h"
+#include "orvanta/Linux/KeyReaders.h"
 
 namespace orvanta {
 

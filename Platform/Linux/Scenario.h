@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "Foundation/Dictionary.h"
-#include "Platform/Interface/Platform.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Platform/Platform.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Platform/Linux/SystemRandom.h"
+#include "orvanta/Linux/SystemRandom.h"
 
 #include <random>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Interface/RandomSource.h"
+#include "orvanta/Platform/RandomSource.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Platform/Linux/Transfer.h"
+#include "orvanta/Linux/Transfer.h"
 
 #include <curl/curl.h>
 
@@ -10,10 +10,10 @@
 #include <utility>
 #include <vector>
 
-#include "Foundation/CharacterSet.h"
-#include "Platform/Linux/DownloadFile.h"
-#include "Platform/Linux/HeaderText.h"
-#include "Platform/Linux/URLErrors.h"
+#include "orvanta/Foundation/CharacterSet.h"
+#include "orvanta/Linux/DownloadFile.h"
+#include "orvanta/Linux/HeaderText.h"
+#include "orvanta/Linux/URLErrors.h"
 
 namespace orvanta {
 

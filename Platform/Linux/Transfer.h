@@ -6,7 +6,7 @@
 #include <functional>
 #include <optional>
 
-#include "Platform/Interface/NSURLSession.h"
+#include "orvanta/Platform/NSURLSession.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Platform/Linux/URLErrors.h"
+#include "orvanta/Linux/URLErrors.h"
 
 #include <algorithm>
 #include <string>

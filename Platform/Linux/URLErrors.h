@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "Platform/Interface/NSURLSession.h"
+#include "orvanta/Platform/NSURLSession.h"
 
 namespace orvanta {
 

@@ -1,13 +1,13 @@
 #include <algorithm>
 #include <ostream>
 
-#include "Commands.h"
-#include "Events/OrvantaEvent.h"
-#include "Foundation/JSON.h"
-#include "Input.h"
-#include "Lines.h"
-#include "Requests/OrvantaEventRequest.h"
-#include "Text.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Model/Events/OrvantaEvent.h"
+#include "orvanta/Model/Requests/OrvantaEventRequest.h"
+#include "orvanta/Tool/Commands.h"
+#include "orvanta/Tool/Input.h"
+#include "orvanta/Tool/Lines.h"
+#include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
 

@@ -1,7 +1,7 @@
-#include "ClassFacts.h"
+#include "orvanta/Tool/ClassFacts.h"
 
-#include "Events/OrvantaEvent.h"
-#include "Requests/OrvantaEventRequest.h"
+#include "orvanta/Model/Events/OrvantaEvent.h"
+#include "orvanta/Model/Requests/OrvantaEventRequest.h"
 
 namespace orvanta::tool {
 

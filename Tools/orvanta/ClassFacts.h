@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "Mapping/Class.h"
+#include "orvanta/Model/Mapping/Class.h"
 
 namespace orvanta::tool {
 

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "Mapping/Class.h"
-#include "Mapping/RefusalRecorder.h"
-#include "Requests/OrvantaRequestSpec.h"
-#include "Tool.h"
+#include "orvanta/Model/Mapping/Class.h"
+#include "orvanta/Model/Mapping/RefusalRecorder.h"
+#include "orvanta/Model/Requests/OrvantaRequestSpec.h"
+#include "orvanta/Tool/Tool.h"
 
 namespace orvanta::tool {
 

@@ -1,10 +1,10 @@
-#include "Commands.h"
-#include "Device/OrvantaAppDeviceInfoUtil.h"
-#include "Input.h"
-#include "Platform/Linux/ClockAndLog.h"
-#include "Platform/Linux/HostDevice.h"
-#include "Platform/Linux/KeyReaders.h"
-#include "Text.h"
+#include "orvanta/Linux/ClockAndLog.h"
+#include "orvanta/Linux/HostDevice.h"
+#include "orvanta/Linux/KeyReaders.h"
+#include "orvanta/Model/Device/OrvantaAppDeviceInfoUtil.h"
+#include "orvanta/Tool/Commands.h"
+#include "orvanta/Tool/Input.h"
+#include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
 

@@ -1,9 +1,9 @@
 #include <ostream>
 
-#include "Commands.h"
-#include "Foundation/Date.h"
-#include "Identity/OrvantaIdentifierUtil.h"
-#include "Text.h"
+#include "orvanta/Foundation/Date.h"
+#include "orvanta/Model/Identity/OrvantaIdentifierUtil.h"
+#include "orvanta/Tool/Commands.h"
+#include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
 

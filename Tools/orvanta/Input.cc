@@ -1,4 +1,4 @@
-#include "Input.h"
+#include "orvanta/Tool/Input.h"
 
 #include <unistd.h>
 
@@ -9,8 +9,8 @@
 #include <fstream>
 #include <iostream>
 
-#include "Foundation/JSON.h"
-#include "Text.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
 

@@ -3,8 +3,8 @@
 #include <fstream>
 #include <string>
 
-#include "Foundation/Dictionary.h"
-#include "Tool.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Tool/Tool.h"
 
 namespace orvanta::tool {
 

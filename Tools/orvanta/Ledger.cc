@@ -1,6 +1,6 @@
-#include "Ledger.h"
+#include "orvanta/Tool/Ledger.h"
 
-#include "Foundation/Array.h"
+#include "orvanta/Foundation/Array.h"
 
 namespace orvanta::tool {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "Foundation/Dictionary.h"
-#include "Platform/Linux/NotificationHost.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Linux/NotificationHost.h"
 
 namespace orvanta::tool {
 

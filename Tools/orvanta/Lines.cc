@@ -1,10 +1,10 @@
-#include "Lines.h"
+#include "orvanta/Tool/Lines.h"
 
 #include <algorithm>
 #include <limits>
 
-#include "Input.h"
-#include "Text.h"
+#include "orvanta/Tool/Input.h"
+#include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "Tool.h"
+#include "orvanta/Tool/Tool.h"
 
 namespace orvanta::tool {
 

@@ -1,13 +1,13 @@
 #include <algorithm>
 #include <ostream>
 
-#include "Commands.h"
-#include "Foundation/Array.h"
-#include "Foundation/JSON.h"
-#include "Input.h"
-#include "Mapping/OrvantaBaseModel.h"
-#include "Mapping/RefusalRecorder.h"
-#include "Text.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Model/Mapping/OrvantaBaseModel.h"
+#include "orvanta/Model/Mapping/RefusalRecorder.h"
+#include "orvanta/Tool/Commands.h"
+#include "orvanta/Tool/Input.h"
+#include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
 

@@ -10,16 +10,16 @@
 #include <iostream>
 #include <system_error>
 
-#include "Commands.h"
-#include "Foundation/Url.h"
-#include "Input.h"
-#include "Ledger.h"
-#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
-#include "Platform/Linux/ClockAndLog.h"
-#include "Platform/Linux/KeyReaders.h"
-#include "Platform/Linux/NotificationHost.h"
-#include "Sheet.h"
-#include "Text.h"
+#include "orvanta/Foundation/Url.h"
+#include "orvanta/Linux/ClockAndLog.h"
+#include "orvanta/Linux/KeyReaders.h"
+#include "orvanta/Linux/NotificationHost.h"
+#include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
+#include "orvanta/Tool/Commands.h"
+#include "orvanta/Tool/Input.h"
+#include "orvanta/Tool/Ledger.h"
+#include "orvanta/Tool/Sheet.h"
+#include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
 

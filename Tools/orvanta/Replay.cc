@@ -1,14 +1,14 @@
-#include "Replay.h"
+#include "orvanta/Tool/Replay.h"
 
 #include <cmath>
 
-#include "Foundation/Exception.h"
-#include "Foundation/JSON.h"
-#include "Lines.h"
-#include "Mapping/RefusalRecorder.h"
-#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
-#include "Platform/Linux/RemoteNotification.h"
-#include "Text.h"
+#include "orvanta/Foundation/Exception.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Linux/RemoteNotification.h"
+#include "orvanta/Model/Mapping/RefusalRecorder.h"
+#include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
+#include "orvanta/Tool/Lines.h"
+#include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "Platform/Linux/ReplayPlatform.h"
+#include "orvanta/Linux/ReplayPlatform.h"
 
 namespace orvanta::tool {
 

@@ -11,11 +11,11 @@
 #include <thread>
 #include <vector>
 
-#include "Commands.h"
-#include "Foundation/Array.h"
-#include "Lines.h"
-#include "Replay.h"
-#include "Text.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Tool/Commands.h"
+#include "orvanta/Tool/Lines.h"
+#include "orvanta/Tool/Replay.h"
+#include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
 

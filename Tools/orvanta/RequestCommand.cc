@@ -1,10 +1,10 @@
 #include <ostream>
 #include <sstream>
 
-#include "Commands.h"
-#include "Input.h"
-#include "Requests/OrvantaBaseRequest.h"
-#include "Text.h"
+#include "orvanta/Model/Requests/OrvantaBaseRequest.h"
+#include "orvanta/Tool/Commands.h"
+#include "orvanta/Tool/Input.h"
+#include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
 

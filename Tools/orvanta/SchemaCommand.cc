@@ -3,12 +3,12 @@
 #include <map>
 #include <ostream>
 
-#include "ClassFacts.h"
-#include "Commands.h"
-#include "Foundation/Array.h"
-#include "Requests/OrvantaRequestPathType.h"
-#include "Text.h"
-#include "WireFormat.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Model/Requests/OrvantaRequestPathType.h"
+#include "orvanta/Tool/ClassFacts.h"
+#include "orvanta/Tool/Commands.h"
+#include "orvanta/Tool/Text.h"
+#include "orvanta/Tool/WireFormat.h"
 
 namespace orvanta::tool {
 

@@ -1,16 +1,16 @@
-#include "Sheet.h"
+#include "orvanta/Tool/Sheet.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <ostream>
 #include <span>
 
-#include "Foundation/Array.h"
-#include "Foundation/Description.h"
-#include "Foundation/KeyPath.h"
-#include "Mapping/RefusalRecorder.h"
-#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
-#include "Text.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Description.h"
+#include "orvanta/Foundation/KeyPath.h"
+#include "orvanta/Model/Mapping/RefusalRecorder.h"
+#include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
+#include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
 

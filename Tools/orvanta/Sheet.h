@@ -4,8 +4,8 @@
 #include <iosfwd>
 #include <string>
 
-#include "Input.h"
-#include "Platform/Linux/NotificationHost.h"
+#include "orvanta/Linux/NotificationHost.h"
+#include "orvanta/Tool/Input.h"
 
 namespace orvanta::tool {
 

@@ -1,11 +1,11 @@
-#include "Text.h"
+#include "orvanta/Tool/Text.h"
 
 #include <algorithm>
 #include <numeric>
 #include <vector>
 
-#include "Foundation/JSON.h"
-#include "Tool.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Tool/Tool.h"
 
 namespace orvanta::tool {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "Foundation/Value.h"
+#include "orvanta/Foundation/Value.h"
 
 namespace orvanta::tool {
 

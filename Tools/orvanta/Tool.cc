@@ -1,15 +1,15 @@
-#include "Tool.h"
+#include "orvanta/Tool/Tool.h"
 
 #include <CLI/CLI.hpp>
 #include <functional>
 #include <memory>
 #include <ostream>
 
-#include "Commands.h"
-#include "Mapping/OrvantaLogger.h"
-#include "Platform/Interface/Platform.h"
-#include "Platform/Linux/ClockAndLog.h"
-#include "Platform/Linux/SystemRandom.h"
+#include "orvanta/Linux/ClockAndLog.h"
+#include "orvanta/Linux/SystemRandom.h"
+#include "orvanta/Model/Mapping/OrvantaLogger.h"
+#include "orvanta/Platform/Platform.h"
+#include "orvanta/Tool/Commands.h"
 
 namespace orvanta::tool {
 

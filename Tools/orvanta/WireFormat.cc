@@ -1,11 +1,11 @@
-#include "WireFormat.h"
+#include "orvanta/Tool/WireFormat.h"
 
 #include <algorithm>
 #include <map>
 #include <ostream>
 #include <string>
 
-#include "ClassFacts.h"
+#include "orvanta/Tool/ClassFacts.h"
 
 namespace orvanta::tool {
 

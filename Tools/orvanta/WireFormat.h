@@ -3,7 +3,7 @@
 #include <iosfwd>
 #include <vector>
 
-#include "Mapping/Class.h"
+#include "orvanta/Model/Mapping/Class.h"
 
 namespace orvanta::tool {
 

@@ -1,6 +1,6 @@
 #include <iostream>
 
-#include "Tool.h"
+#include "orvanta/Tool/Tool.h"
 
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);

@@ -4,7 +4,7 @@
 
 #include "Contender.h"
 #include "Facts.h"
-#include "Foundation/JSON.h"
+#include "orvanta/Foundation/JSON.h"
 
 namespace orvanta::benchmarks {
 

@@ -8,7 +8,7 @@
 
 #include "Contender.h"
 #include "Facts.h"
-#include "Foundation/JSON.h"
+#include "orvanta/Foundation/JSON.h"
 
 namespace orvanta::benchmarks {
 

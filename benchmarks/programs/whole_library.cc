@@ -10,11 +10,11 @@
 #include <ctime>
 #include <string>
 
-#include "Foundation/JSON.h"
-#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
 #include "ProcessFigures.h"
-#include "Push/OrvantaPushObject.h"
-#include "Responses/OrvantaInboxResponse.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Model/Push/OrvantaPushObject.h"
+#include "orvanta/Model/Responses/OrvantaInboxResponse.h"
+#include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
 
 namespace {
 

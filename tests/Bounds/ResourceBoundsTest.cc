@@ -6,8 +6,8 @@
 #include <functional>
 #include <new>
 
-#include "Mapping/RefusalRecorder.h"
-#include "OrvantaNotificationServiceExtension/NotificationHelper.h"
+#include "orvanta/Model/Mapping/RefusalRecorder.h"
+#include "orvanta/NotificationService/NotificationHelper.h"
 #include "support/FakePlatform.h"
 #include "support/ModelZoo.h"
 

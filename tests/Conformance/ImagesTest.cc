@@ -1,5 +1,5 @@
 #include "Conformance/Subjects.h"
-#include "Platform/Linux/HostImages.h"
+#include "orvanta/Linux/HostImages.h"
 
 namespace orvanta::testing {
 namespace {

@@ -1,5 +1,5 @@
 #include "Conformance/Subjects.h"
-#include "Platform/Linux/HostServices.h"
+#include "orvanta/Linux/HostServices.h"
 
 namespace orvanta::testing {
 namespace {

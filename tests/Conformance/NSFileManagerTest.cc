@@ -1,7 +1,7 @@
 #include <unistd.h>
 
 #include "Conformance/Subjects.h"
-#include "Platform/Linux/Files.h"
+#include "orvanta/Linux/Files.h"
 
 namespace orvanta::testing {
 namespace {

@@ -1,5 +1,5 @@
 #include "Conformance/Subjects.h"
-#include "Platform/Linux/HostURLSession.h"
+#include "orvanta/Linux/HostURLSession.h"
 
 namespace orvanta::testing {
 namespace {

@@ -1,9 +1,9 @@
 #include <sstream>
 
 #include "Conformance/Subjects.h"
-#include "Platform/Linux/ClockAndLog.h"
-#include "Platform/Linux/HostBundle.h"
-#include "Platform/Linux/MediaTypes.h"
+#include "orvanta/Linux/ClockAndLog.h"
+#include "orvanta/Linux/HostBundle.h"
+#include "orvanta/Linux/MediaTypes.h"
 #include "support/ModelZoo.h"
 
 // The services that answer at once, and from any thread.

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Platform/Linux/EventLoop.h"
+#include "orvanta/Linux/EventLoop.h"
 #include "support/FakePlatform.h"
 #include "support/TemporaryFolder.h"
 #include "support/Values.h"

@@ -1,6 +1,6 @@
 #include "Conformance/Subjects.h"
-#include "Platform/Linux/HostServices.h"
-#include "Platform/Linux/MediaTypes.h"
+#include "orvanta/Linux/HostServices.h"
+#include "orvanta/Linux/MediaTypes.h"
 
 namespace orvanta::testing {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "Device/OrvantaAppDeviceInfoUtil.h"
-#include "Platform/Linux/HostDevice.h"
+#include "orvanta/Linux/HostDevice.h"
+#include "orvanta/Model/Device/OrvantaAppDeviceInfoUtil.h"
 #include "support/ModelZoo.h"
 
 namespace orvanta::testing {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "OrvantaNotificationServiceExtension/OrvantaNotificationServiceExtension.h"
+#include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
 #include "support/FakePlatform.h"
 #include "support/ModelZoo.h"
 

@@ -1,5 +1,5 @@
 #include "Extension/ExtensionRun.h"
-#include "OrvantaNotificationServiceExtension/NotificationHelper.h"
+#include "orvanta/NotificationService/NotificationHelper.h"
 
 namespace orvanta::testing {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "Foundation/Date.h"
+#include "orvanta/Foundation/Date.h"
 
 namespace orvanta::testing {
 namespace {

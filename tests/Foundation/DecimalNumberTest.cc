@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "Foundation/DecimalNumber.h"
+#include "orvanta/Foundation/DecimalNumber.h"
 #include "support/Values.h"
 
 namespace orvanta::testing {

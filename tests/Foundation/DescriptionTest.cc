@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "Foundation/Description.h"
+#include "orvanta/Foundation/Description.h"
 #include "support/Values.h"
 
 namespace orvanta::testing {

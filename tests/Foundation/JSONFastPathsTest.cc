@@ -3,7 +3,7 @@
 #include <charconv>
 #include <cmath>
 
-#include "Foundation/JSON.h"
+#include "orvanta/Foundation/JSON.h"
 
 namespace orvanta {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "Foundation/CharacterSet.h"
-#include "Foundation/Url.h"
+#include "orvanta/Foundation/CharacterSet.h"
+#include "orvanta/Foundation/Url.h"
 #include "support/Values.h"
 
 namespace orvanta::testing {

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "Identity/OrvantaIdentifierUtil.h"
-#include "Identity/OrvantaIdentifiers.h"
-#include "Platform/Interface/AdSupport.h"
-#include "Platform/Interface/Platform.h"
-#include "Platform/Interface/RandomSource.h"
+#include "orvanta/Model/Identity/OrvantaIdentifierUtil.h"
+#include "orvanta/Model/Identity/OrvantaIdentifiers.h"
+#include "orvanta/Platform/AdSupport.h"
+#include "orvanta/Platform/Platform.h"
+#include "orvanta/Platform/RandomSource.h"
 #include "support/ModelZoo.h"
 
 namespace orvanta::testing {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "Platform/Linux/EventLoop.h"
+#include "orvanta/Linux/EventLoop.h"
 
 namespace orvanta::testing {
 namespace {

@@ -2,7 +2,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "Platform/Linux/Files.h"
+#include "orvanta/Linux/Files.h"
 #include "support/TemporaryFolder.h"
 #include "support/Values.h"
 

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "Platform/Linux/HostBundle.h"
+#include "orvanta/Linux/HostBundle.h"
 #include "support/TemporaryFolder.h"
 
 namespace orvanta::testing {

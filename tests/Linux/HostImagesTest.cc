@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "Platform/Linux/HostImages.h"
+#include "orvanta/Linux/HostImages.h"
 #include "support/TemporaryFolder.h"
 #include "support/Values.h"
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "Platform/Linux/MediaTypes.h"
+#include "orvanta/Linux/MediaTypes.h"
 #include "support/TemporaryFolder.h"
 #include "support/Values.h"
 

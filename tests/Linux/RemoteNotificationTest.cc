@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "Platform/Linux/RemoteNotification.h"
+#include "orvanta/Linux/RemoteNotification.h"
 #include "support/ModelZoo.h"
 
 namespace orvanta::testing {

@@ -16,10 +16,10 @@
 #include <utility>
 #include <vector>
 
-#include "Platform/Linux/DownloadFile.h"
-#include "Platform/Linux/HeaderText.h"
-#include "Platform/Linux/Transfer.h"
-#include "Platform/Linux/URLErrors.h"
+#include "orvanta/Linux/DownloadFile.h"
+#include "orvanta/Linux/HeaderText.h"
+#include "orvanta/Linux/Transfer.h"
+#include "orvanta/Linux/URLErrors.h"
 #include "support/LoopbackServer.h"
 #include "support/TemporaryFolder.h"
 #include "support/Values.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "Mapping/OrvantaKeyValueStoreObject.h"
+#include "orvanta/Model/Mapping/OrvantaKeyValueStoreObject.h"
 #include "support/ModelZoo.h"
 
 // Equality, hash, copies and descriptions, all of which go through a model's dictionary.

@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "Mapping/OrvantaJSONSerializer.h"
+#include "orvanta/Model/Mapping/OrvantaJSONSerializer.h"
 #include "support/ModelZoo.h"
 
 namespace orvanta::testing {

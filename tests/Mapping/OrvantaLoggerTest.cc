@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "Mapping/OrvantaLogger.h"
+#include "orvanta/Model/Mapping/OrvantaLogger.h"
 #include "support/ModelZoo.h"
 
 namespace orvanta::testing {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "Mapping/RefusalRecorder.h"
+#include "orvanta/Model/Mapping/RefusalRecorder.h"
 #include "support/ModelZoo.h"
 
 namespace orvanta::testing {

@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "Requests/OrvantaEventRequest.h"
+#include "orvanta/Model/Requests/OrvantaEventRequest.h"
 #include "support/ModelZoo.h"
 
 namespace orvanta::testing {

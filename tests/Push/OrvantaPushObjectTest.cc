@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "Push/OrvantaPushObject.h"
+#include "orvanta/Model/Push/OrvantaPushObject.h"
 #include "support/ModelZoo.h"
 
 namespace orvanta::testing {

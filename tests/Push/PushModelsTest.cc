@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "Notifications/OrvantaUserNotificationCategory.h"
-#include "Push/OrvantaPushCarouselObject.h"
-#include "Push/OrvantaPushObject.h"
+#include "orvanta/Model/Notifications/OrvantaUserNotificationCategory.h"
+#include "orvanta/Model/Push/OrvantaPushCarouselObject.h"
+#include "orvanta/Model/Push/OrvantaPushObject.h"
 #include "support/ModelZoo.h"
 
 // The small models of a payload.

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "Push/OrvantaPushCarouselObject.h"
+#include "orvanta/Model/Push/OrvantaPushCarouselObject.h"
 #include "support/ModelZoo.h"
 
 // Every key of a push payload, and of the models in it, given every kind of value. What becomes of

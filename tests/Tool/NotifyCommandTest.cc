@@ -4,9 +4,9 @@
 #include <fstream>
 #include <string>
 
-#include "Foundation/Array.h"
-#include "Foundation/Dictionary.h"
-#include "Foundation/JSON.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/JSON.h"
 #include "support/TemporaryFolder.h"
 #include "support/ToolRunner.h"
 

@@ -3,7 +3,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "Mapping/Class.h"
+#include "orvanta/Model/Mapping/Class.h"
 #include "support/ToolRunner.h"
 #include "support/Values.h"
 

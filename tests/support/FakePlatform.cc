@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "orvanta/Foundation/Description.h"
+
 namespace orvanta::testing {
 
 namespace {

@@ -6,10 +6,10 @@
 #include <type_traits>
 #include <vector>
 
-#include "Mapping/OrvantaBaseModel.h"
-#include "Mapping/OrvantaLogger.h"
-#include "Platform/Interface/Platform.h"
-#include "Push/OrvantaPushObject.h"
+#include "orvanta/Model/Mapping/OrvantaBaseModel.h"
+#include "orvanta/Model/Mapping/OrvantaLogger.h"
+#include "orvanta/Model/Push/OrvantaPushObject.h"
+#include "orvanta/Platform/Platform.h"
 #include "support/Values.h"
 
 // Small models, each for one trait of the mapping, and what their tests share.

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "Foundation/Url.h"
+#include "orvanta/Foundation/Url.h"
 
 namespace orvanta::testing {
 

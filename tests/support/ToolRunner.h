@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Tools/orvanta/Tool.h"
+#include "orvanta/Tool/Tool.h"
 
 namespace orvanta::testing {
 

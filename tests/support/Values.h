@@ -4,15 +4,15 @@
 #include <string>
 #include <string_view>
 
-#include "Foundation/Array.h"
-#include "Foundation/Description.h"
-#include "Foundation/Dictionary.h"
-#include "Foundation/Exception.h"
-#include "Foundation/JSON.h"
-#include "Foundation/KeyPath.h"
-#include "Foundation/Number.h"
-#include "Foundation/Url.h"
-#include "Foundation/Value.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Description.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/Exception.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Foundation/KeyPath.h"
+#include "orvanta/Foundation/Number.h"
+#include "orvanta/Foundation/Url.h"
+#include "orvanta/Foundation/Value.h"
 
 namespace orvanta {
 

@@ -1,9 +1,9 @@
-#include "Foundation/Array.h"
+#include "orvanta/Foundation/Array.h"
 
 #include <algorithm>
 #include <memory>
 
-#include "Foundation/Exception.h"
+#include "orvanta/Foundation/Exception.h"
 
 namespace orvanta {
 

@@ -2,7 +2,7 @@
 
 #include <initializer_list>
 
-#include "Foundation/Value.h"
+#include "orvanta/Foundation/Value.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Foundation/CharacterSet.h"
+#include "orvanta/Foundation/CharacterSet.h"
 
 #include <charconv>
 

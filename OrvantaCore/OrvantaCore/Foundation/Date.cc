@@ -1,10 +1,10 @@
-#include "Foundation/Date.h"
+#include "orvanta/Foundation/Date.h"
 
 #include <chrono>
 #include <cmath>
 #include <cstdio>
 
-#include "Foundation/Number.h"
+#include "orvanta/Foundation/Number.h"
 
 namespace orvanta {
 

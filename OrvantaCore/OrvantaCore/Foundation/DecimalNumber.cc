@@ -1,4 +1,4 @@
-#include "Foundation/DecimalNumber.h"
+#include "orvanta/Foundation/DecimalNumber.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,13 +1,13 @@
-#include "Foundation/Description.h"
+#include "orvanta/Foundation/Description.h"
 
 #include <algorithm>
 #include <vector>
 
-#include "Foundation/Array.h"
-#include "Foundation/Dictionary.h"
-#include "Foundation/JSON.h"
-#include "Foundation/Number.h"
-#include "Foundation/Url.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Foundation/Number.h"
+#include "orvanta/Foundation/Url.h"
 
 namespace orvanta {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "Foundation/Value.h"
+#include "orvanta/Foundation/Value.h"
 
 namespace orvanta {
 

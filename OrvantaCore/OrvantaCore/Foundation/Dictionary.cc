@@ -1,4 +1,4 @@
-#include "Foundation/Dictionary.h"
+#include "orvanta/Foundation/Dictionary.h"
 
 #include <algorithm>
 #include <bit>

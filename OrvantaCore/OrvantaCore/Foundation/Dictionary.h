@@ -4,7 +4,7 @@
 #include <initializer_list>
 #include <span>
 
-#include "Foundation/Value.h"
+#include "orvanta/Foundation/Value.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Foundation/Exception.h"
+#include "orvanta/Foundation/Exception.h"
 
 namespace orvanta {
 

@@ -1,11 +1,11 @@
-#include "Foundation/JSON.h"
+#include "orvanta/Foundation/JSON.h"
 
 #include <algorithm>
 #include <map>
 #include <span>
 
-#include "Foundation/Array.h"
-#include "Foundation/Dictionary.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Dictionary.h"
 
 namespace orvanta {
 

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "Foundation/JSONReader.h"
-#include "Foundation/Value.h"
+#include "orvanta/Foundation/JSONReader.h"
+#include "orvanta/Foundation/Value.h"
 
 namespace orvanta {
 

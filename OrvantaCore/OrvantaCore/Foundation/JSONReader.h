@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-#include "Foundation/Number.h"
-#include "Foundation/TextScan.h"
+#include "orvanta/Foundation/Number.h"
+#include "orvanta/Foundation/TextScan.h"
 
 namespace orvanta {
 

@@ -4,10 +4,10 @@
 #include <cmath>
 #include <cstring>
 
-#include "Foundation/Array.h"
-#include "Foundation/Dictionary.h"
-#include "Foundation/JSON.h"
-#include "Foundation/TextScan.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Foundation/TextScan.h"
 
 namespace orvanta {
 

@@ -1,10 +1,10 @@
-#include "Foundation/KeyPath.h"
+#include "orvanta/Foundation/KeyPath.h"
 
 #include <algorithm>
 
-#include "Foundation/Array.h"
-#include "Foundation/Dictionary.h"
-#include "Foundation/Exception.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/Exception.h"
 
 namespace orvanta {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "Foundation/Value.h"
+#include "orvanta/Foundation/Value.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Foundation/Node.h"
+#include "orvanta/Foundation/Node.h"
 
 #include <algorithm>
 #include <new>

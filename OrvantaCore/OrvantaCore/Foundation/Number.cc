@@ -1,11 +1,11 @@
-#include "Foundation/Number.h"
+#include "orvanta/Foundation/Number.h"
 
 #include <charconv>
 #include <cmath>
 #include <functional>
 #include <limits>
 
-#include "Foundation/Exception.h"
+#include "orvanta/Foundation/Exception.h"
 
 namespace orvanta {
 

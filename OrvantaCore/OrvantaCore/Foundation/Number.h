@@ -3,7 +3,7 @@
 #include <compare>
 #include <concepts>
 
-#include "Foundation/Value.h"
+#include "orvanta/Foundation/Value.h"
 
 namespace orvanta {
 

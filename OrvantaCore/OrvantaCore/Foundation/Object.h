@@ -6,7 +6,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "Foundation/Node.h"
+#include "orvanta/Foundation/Node.h"
 
 namespace orvanta {
 

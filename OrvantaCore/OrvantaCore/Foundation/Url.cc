@@ -1,8 +1,8 @@
-#include "Foundation/Url.h"
+#include "orvanta/Foundation/Url.h"
 
 #include <algorithm>
 
-#include "Foundation/CharacterSet.h"
+#include "orvanta/Foundation/CharacterSet.h"
 
 namespace orvanta {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-#include "Foundation/Value.h"
+#include "orvanta/Foundation/Value.h"
 
 namespace orvanta {
 

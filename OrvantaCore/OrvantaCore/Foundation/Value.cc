@@ -1,14 +1,14 @@
-#include "Foundation/Value.h"
+#include "orvanta/Foundation/Value.h"
 
 #include <cstdlib>
 #include <functional>
 #include <utility>
 
-#include "Foundation/Array.h"
-#include "Foundation/Dictionary.h"
-#include "Foundation/Exception.h"
-#include "Foundation/Number.h"
-#include "Foundation/Url.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/Exception.h"
+#include "orvanta/Foundation/Number.h"
+#include "orvanta/Foundation/Url.h"
 
 namespace orvanta {
 

@@ -11,9 +11,9 @@
 #include <string_view>
 #include <type_traits>
 
-#include "Foundation/Date.h"
-#include "Foundation/Object.h"
-#include "Foundation/TextScan.h"
+#include "orvanta/Foundation/Date.h"
+#include "orvanta/Foundation/Object.h"
+#include "orvanta/Foundation/TextScan.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Actions/OrvantaAction.h"
+#include "orvanta/Model/Actions/OrvantaAction.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Actions/OrvantaDeepLinkAction.h"
+#include "orvanta/Model/Actions/OrvantaDeepLinkAction.h"
 
 namespace orvanta {
 

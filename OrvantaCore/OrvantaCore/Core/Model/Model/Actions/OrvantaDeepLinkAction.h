@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Actions/OrvantaAction.h"
+#include "orvanta/Model/Actions/OrvantaAction.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Actions/OrvantaInAppMessageAction.h"
+#include "orvanta/Model/Actions/OrvantaInAppMessageAction.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Actions/OrvantaReviewAction.h"
+#include "orvanta/Model/Actions/OrvantaReviewAction.h"
 
 namespace orvanta {
 

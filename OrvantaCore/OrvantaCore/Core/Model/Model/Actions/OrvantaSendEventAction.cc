@@ -1,4 +1,4 @@
-#include "Actions/OrvantaSendEventAction.h"
+#include "orvanta/Model/Actions/OrvantaSendEventAction.h"
 
 namespace orvanta {
 

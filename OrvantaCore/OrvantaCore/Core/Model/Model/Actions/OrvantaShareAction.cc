@@ -1,4 +1,4 @@
-#include "Actions/OrvantaShareAction.h"
+#include "orvanta/Model/Actions/OrvantaShareAction.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Actions/OrvantaUIAction.h"
+#include "orvanta/Model/Actions/OrvantaUIAction.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Actions/OrvantaWebViewAction.h"
+#include "orvanta/Model/Actions/OrvantaWebViewAction.h"
 
 namespace orvanta {
 

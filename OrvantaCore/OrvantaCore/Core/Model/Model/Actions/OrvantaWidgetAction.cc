@@ -1,4 +1,4 @@
-#include "Actions/OrvantaWidgetAction.h"
+#include "orvanta/Model/Actions/OrvantaWidgetAction.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaBaseContentEvent.h"
+#include "orvanta/Model/Commerce/OrvantaBaseContentEvent.h"
 
 namespace orvanta {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Commerce/OrvantaContent.h"
-#include "Events/OrvantaEvent.h"
+#include "orvanta/Model/Commerce/OrvantaContent.h"
+#include "orvanta/Model/Events/OrvantaEvent.h"
 
 namespace orvanta {
 

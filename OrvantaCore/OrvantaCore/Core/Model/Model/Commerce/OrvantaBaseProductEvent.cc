@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaBaseProductEvent.h"
+#include "orvanta/Model/Commerce/OrvantaBaseProductEvent.h"
 
 namespace orvanta {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Commerce/OrvantaProduct.h"
-#include "Events/OrvantaEvent.h"
+#include "orvanta/Model/Commerce/OrvantaProduct.h"
+#include "orvanta/Model/Events/OrvantaEvent.h"
 
 namespace orvanta {
 

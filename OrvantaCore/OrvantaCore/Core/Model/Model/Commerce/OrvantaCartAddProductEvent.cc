@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaCartAddProductEvent.h"
+#include "orvanta/Model/Commerce/OrvantaCartAddProductEvent.h"
 
 namespace orvanta {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Commerce/OrvantaBaseProductEvent.h"
+#include "orvanta/Model/Commerce/OrvantaBaseProductEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaCartRemoveProductEvent.h"
+#include "orvanta/Model/Commerce/OrvantaCartRemoveProductEvent.h"
 
 namespace orvanta {
 

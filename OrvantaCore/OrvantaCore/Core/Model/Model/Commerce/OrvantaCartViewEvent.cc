@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaCartViewEvent.h"
+#include "orvanta/Model/Commerce/OrvantaCartViewEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaContent.h"
+#include "orvanta/Model/Commerce/OrvantaContent.h"
 
 namespace orvanta {
 

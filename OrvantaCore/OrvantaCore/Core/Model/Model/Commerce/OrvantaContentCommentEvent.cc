@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaContentCommentEvent.h"
+#include "orvanta/Model/Commerce/OrvantaContentCommentEvent.h"
 
 namespace orvanta {
 

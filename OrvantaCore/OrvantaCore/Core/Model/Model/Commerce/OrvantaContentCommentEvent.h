@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Commerce/OrvantaBaseContentEvent.h"
+#include "orvanta/Model/Commerce/OrvantaBaseContentEvent.h"
 
 namespace orvanta {
 

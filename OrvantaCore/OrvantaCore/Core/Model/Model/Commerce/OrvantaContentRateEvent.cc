@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaContentRateEvent.h"
+#include "orvanta/Model/Commerce/OrvantaContentRateEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaContentViewEvent.h"
+#include "orvanta/Model/Commerce/OrvantaContentViewEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaLineItem.h"
+#include "orvanta/Model/Commerce/OrvantaLineItem.h"
 
 namespace orvanta {
 

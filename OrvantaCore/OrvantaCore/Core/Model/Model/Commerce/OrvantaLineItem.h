@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Commerce/OrvantaProduct.h"
+#include "orvanta/Model/Commerce/OrvantaProduct.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaOrderCancelEvent.h"
+#include "orvanta/Model/Commerce/OrvantaOrderCancelEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaProduct.h"
+#include "orvanta/Model/Commerce/OrvantaProduct.h"
 
 namespace orvanta {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Mapping/Initialiser.h"
-#include "Mapping/OrvantaBaseModel.h"
+#include "orvanta/Model/Mapping/Initialiser.h"
+#include "orvanta/Model/Mapping/OrvantaBaseModel.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaProductCommentEvent.h"
+#include "orvanta/Model/Commerce/OrvantaProductCommentEvent.h"
 
 namespace orvanta {
 

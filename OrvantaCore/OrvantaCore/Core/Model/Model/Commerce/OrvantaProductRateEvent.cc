@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaProductRateEvent.h"
+#include "orvanta/Model/Commerce/OrvantaProductRateEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaProductViewEvent.h"
+#include "orvanta/Model/Commerce/OrvantaProductViewEvent.h"
 
 namespace orvanta {
 

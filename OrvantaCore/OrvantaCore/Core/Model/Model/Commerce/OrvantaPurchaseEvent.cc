@@ -1,6 +1,6 @@
-#include "Commerce/OrvantaPurchaseEvent.h"
+#include "orvanta/Model/Commerce/OrvantaPurchaseEvent.h"
 
-#include "Commerce/OrvantaLineItem.h"
+#include "orvanta/Model/Commerce/OrvantaLineItem.h"
 
 namespace orvanta {
 

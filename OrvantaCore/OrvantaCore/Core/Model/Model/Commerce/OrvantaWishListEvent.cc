@@ -1,4 +1,4 @@
-#include "Commerce/OrvantaWishListEvent.h"
+#include "orvanta/Model/Commerce/OrvantaWishListEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Configuration/OrvantaAppConfig.h"
+#include "orvanta/Model/Configuration/OrvantaAppConfig.h"
 
 namespace orvanta {
 

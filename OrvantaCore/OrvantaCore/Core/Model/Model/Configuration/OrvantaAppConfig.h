@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Configuration/OrvantaTrackableActionInfo.h"
-#include "Configuration/OrvantaTrackableScreenInfo.h"
-#include "Mapping/OrvantaBaseModel.h"
-#include "Notifications/OrvantaUserNotificationCategory.h"
+#include "orvanta/Model/Configuration/OrvantaTrackableActionInfo.h"
+#include "orvanta/Model/Configuration/OrvantaTrackableScreenInfo.h"
+#include "orvanta/Model/Mapping/OrvantaBaseModel.h"
+#include "orvanta/Model/Notifications/OrvantaUserNotificationCategory.h"
 
 namespace orvanta {
 

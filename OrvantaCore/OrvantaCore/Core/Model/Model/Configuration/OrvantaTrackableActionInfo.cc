@@ -1,4 +1,4 @@
-#include "Configuration/OrvantaTrackableActionInfo.h"
+#include "orvanta/Model/Configuration/OrvantaTrackableActionInfo.h"
 
 namespace orvanta {
 

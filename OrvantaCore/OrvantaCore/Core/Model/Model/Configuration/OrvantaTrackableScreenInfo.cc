@@ -1,4 +1,4 @@
-#include "Configuration/OrvantaTrackableScreenInfo.h"
+#include "orvanta/Model/Configuration/OrvantaTrackableScreenInfo.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Device/OrvantaAppAllDeviceInfo.h"
+#include "orvanta/Model/Device/OrvantaAppAllDeviceInfo.h"
 
 namespace orvanta {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Device/OrvantaAppDeviceInfo.h"
+#include "orvanta/Model/Device/OrvantaAppDeviceInfo.h"
 
 namespace orvanta {
 

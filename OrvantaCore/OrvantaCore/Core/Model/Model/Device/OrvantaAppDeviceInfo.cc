@@ -1,4 +1,4 @@
-#include "Device/OrvantaAppDeviceInfo.h"
+#include "orvanta/Model/Device/OrvantaAppDeviceInfo.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Device/OrvantaAppDeviceInfoUtil.h"
+#include "orvanta/Model/Device/OrvantaAppDeviceInfoUtil.h"
 
 #include <algorithm>
 #include <charconv>
@@ -6,12 +6,14 @@
 #include <cstring>
 #include <limits>
 
-#include "Foundation/Description.h"
-#include "Mapping/OrvantaLogger.h"
-#include "Platform/Interface/NSBundle.h"
-#include "Platform/Interface/Platform.h"
-#include "Platform/Interface/SystemCalls.h"
-#include "Platform/Interface/UIDevice.h"
+#include "orvanta/Foundation/Description.h"
+#include "orvanta/Model/Mapping/OrvantaLogger.h"
+#include "orvanta/Platform/NSBundle.h"
+#include "orvanta/Platform/NSFileManager.h"
+#include "orvanta/Platform/NSProcessInfo.h"
+#include "orvanta/Platform/Platform.h"
+#include "orvanta/Platform/SystemCalls.h"
+#include "orvanta/Platform/UIKit.h"
 
 namespace orvanta {
 

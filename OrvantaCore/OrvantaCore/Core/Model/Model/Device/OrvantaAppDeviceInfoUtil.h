@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "Device/OrvantaAppAllDeviceInfo.h"
-#include "Platform/Interface/CoreTelephony.h"
+#include "orvanta/Model/Device/OrvantaAppAllDeviceInfo.h"
+#include "orvanta/Platform/CoreTelephony.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaBannerClickEvent.h"
+#include "orvanta/Model/Events/OrvantaBannerClickEvent.h"
 
 namespace orvanta {
 

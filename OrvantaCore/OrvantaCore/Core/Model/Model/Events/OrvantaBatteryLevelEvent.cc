@@ -1,4 +1,4 @@
-#include "Events/OrvantaBatteryLevelEvent.h"
+#include "orvanta/Model/Events/OrvantaBatteryLevelEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaCategoryViewEvent.h"
+#include "orvanta/Model/Events/OrvantaCategoryViewEvent.h"
 
 namespace orvanta {
 

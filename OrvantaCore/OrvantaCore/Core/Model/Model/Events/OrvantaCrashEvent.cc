@@ -1,4 +1,4 @@
-#include "Events/OrvantaCrashEvent.h"
+#include "orvanta/Model/Events/OrvantaCrashEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaErrorEvent.h"
+#include "orvanta/Model/Events/OrvantaErrorEvent.h"
 
 namespace orvanta {
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "Events/OrvantaEvent.h"
+#include "orvanta/Model/Events/OrvantaEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaEvent.h"
+#include "orvanta/Model/Events/OrvantaEvent.h"
 
 namespace orvanta {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Identity/OrvantaIdentifiers.h"
-#include "Mapping/Initialiser.h"
+#include "orvanta/Model/Identity/OrvantaIdentifiers.h"
+#include "orvanta/Model/Mapping/Initialiser.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaGeofenceEvent.h"
+#include "orvanta/Model/Events/OrvantaGeofenceEvent.h"
 
 namespace orvanta {
 

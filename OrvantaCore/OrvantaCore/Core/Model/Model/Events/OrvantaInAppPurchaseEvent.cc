@@ -1,4 +1,4 @@
-#include "Events/OrvantaInAppPurchaseEvent.h"
+#include "orvanta/Model/Events/OrvantaInAppPurchaseEvent.h"
 
 namespace orvanta {
 

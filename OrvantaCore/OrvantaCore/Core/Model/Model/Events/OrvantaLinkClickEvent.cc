@@ -1,4 +1,4 @@
-#include "Events/OrvantaLinkClickEvent.h"
+#include "orvanta/Model/Events/OrvantaLinkClickEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaLocationAuthorizationEvent.h"
+#include "orvanta/Model/Events/OrvantaLocationAuthorizationEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaLocationUpdateEvent.h"
+#include "orvanta/Model/Events/OrvantaLocationUpdateEvent.h"
 
 namespace orvanta {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Events/OrvantaEvent.h"
-#include "Platform/Interface/CLLocation.h"
+#include "orvanta/Model/Events/OrvantaEvent.h"
+#include "orvanta/Platform/CoreLocation.h"
 
 namespace orvanta {
 

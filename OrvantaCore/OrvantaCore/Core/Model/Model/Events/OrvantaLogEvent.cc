@@ -1,4 +1,4 @@
-#include "Events/OrvantaLogEvent.h"
+#include "orvanta/Model/Events/OrvantaLogEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaLoginEvent.h"
+#include "orvanta/Model/Events/OrvantaLoginEvent.h"
 
 namespace orvanta {
 

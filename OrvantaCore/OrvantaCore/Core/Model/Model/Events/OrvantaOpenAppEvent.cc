@@ -1,4 +1,4 @@
-#include "Events/OrvantaOpenAppEvent.h"
+#include "orvanta/Model/Events/OrvantaOpenAppEvent.h"
 
 namespace orvanta {
 

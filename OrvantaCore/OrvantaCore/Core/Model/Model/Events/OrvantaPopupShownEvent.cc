@@ -1,4 +1,4 @@
-#include "Events/OrvantaPopupShownEvent.h"
+#include "orvanta/Model/Events/OrvantaPopupShownEvent.h"
 
 namespace orvanta {
 

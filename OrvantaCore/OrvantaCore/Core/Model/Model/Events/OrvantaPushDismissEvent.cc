@@ -1,4 +1,4 @@
-#include "Events/OrvantaPushDismissEvent.h"
+#include "orvanta/Model/Events/OrvantaPushDismissEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaPushOpenedEvent.h"
+#include "orvanta/Model/Events/OrvantaPushOpenedEvent.h"
 
 namespace orvanta {
 

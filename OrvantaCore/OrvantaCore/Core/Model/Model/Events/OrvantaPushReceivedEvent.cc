@@ -1,4 +1,4 @@
-#include "Events/OrvantaPushReceivedEvent.h"
+#include "orvanta/Model/Events/OrvantaPushReceivedEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaPushViewEvent.h"
+#include "orvanta/Model/Events/OrvantaPushViewEvent.h"
 
 namespace orvanta {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Events/OrvantaEvent.h"
-#include "Push/OrvantaPushObject.h"
+#include "orvanta/Model/Events/OrvantaEvent.h"
+#include "orvanta/Model/Push/OrvantaPushObject.h"
 
 namespace orvanta {
 

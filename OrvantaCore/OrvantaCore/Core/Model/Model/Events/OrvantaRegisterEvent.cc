@@ -1,4 +1,4 @@
-#include "Events/OrvantaRegisterEvent.h"
+#include "orvanta/Model/Events/OrvantaRegisterEvent.h"
 
 namespace orvanta {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Events/OrvantaEvent.h"
+#include "orvanta/Model/Events/OrvantaEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaScreenViewEvent.h"
+#include "orvanta/Model/Events/OrvantaScreenViewEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaSearchEvent.h"
+#include "orvanta/Model/Events/OrvantaSearchEvent.h"
 
 namespace orvanta {
 

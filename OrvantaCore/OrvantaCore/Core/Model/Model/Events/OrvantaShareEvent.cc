@@ -1,4 +1,4 @@
-#include "Events/OrvantaShareEvent.h"
+#include "orvanta/Model/Events/OrvantaShareEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaShowViewEvent.h"
+#include "orvanta/Model/Events/OrvantaShowViewEvent.h"
 
 namespace orvanta {
 

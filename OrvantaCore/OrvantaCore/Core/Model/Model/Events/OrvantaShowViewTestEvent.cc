@@ -1,4 +1,4 @@
-#include "Events/OrvantaShowViewTestEvent.h"
+#include "orvanta/Model/Events/OrvantaShowViewTestEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaTimeInAppEvent.h"
+#include "orvanta/Model/Events/OrvantaTimeInAppEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Events/OrvantaViewActionEvent.h"
+#include "orvanta/Model/Events/OrvantaViewActionEvent.h"
 
 namespace orvanta {
 

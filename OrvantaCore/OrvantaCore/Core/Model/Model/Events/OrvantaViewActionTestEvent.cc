@@ -1,4 +1,4 @@
-#include "Events/OrvantaViewActionTestEvent.h"
+#include "orvanta/Model/Events/OrvantaViewActionTestEvent.h"
 
 namespace orvanta {
 

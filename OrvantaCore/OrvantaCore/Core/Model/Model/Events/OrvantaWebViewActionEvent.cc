@@ -1,4 +1,4 @@
-#include "Events/OrvantaWebViewActionEvent.h"
+#include "orvanta/Model/Events/OrvantaWebViewActionEvent.h"
 
 namespace orvanta {
 

@@ -1,11 +1,11 @@
-#include "Identity/OrvantaIdentifierUtil.h"
+#include "orvanta/Model/Identity/OrvantaIdentifierUtil.h"
 
 #include <algorithm>
 #include <cstdint>
 
-#include "Platform/Interface/AdSupport.h"
-#include "Platform/Interface/Platform.h"
-#include "Platform/Interface/RandomSource.h"
+#include "orvanta/Platform/AdSupport.h"
+#include "orvanta/Platform/Platform.h"
+#include "orvanta/Platform/RandomSource.h"
 
 namespace orvanta {
 

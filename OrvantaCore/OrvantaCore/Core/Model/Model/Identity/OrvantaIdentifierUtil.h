@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "Foundation/DecimalNumber.h"
+#include "orvanta/Foundation/DecimalNumber.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Identity/OrvantaIdentifiers.h"
+#include "orvanta/Model/Identity/OrvantaIdentifiers.h"
 
 #include <algorithm>
 

@@ -1,12 +1,12 @@
-#include "Mapping/Class.h"
+#include "orvanta/Model/Mapping/Class.h"
 
 #include <algorithm>
 
-#include "Foundation/Exception.h"
-#include "Foundation/KeyPath.h"
-#include "Foundation/Number.h"
-#include "Mapping/MappingPlan.h"
-#include "Mapping/OrvantaBaseModel.h"
+#include "orvanta/Foundation/Exception.h"
+#include "orvanta/Foundation/KeyPath.h"
+#include "orvanta/Foundation/Number.h"
+#include "orvanta/Model/Mapping/MappingPlan.h"
+#include "orvanta/Model/Mapping/OrvantaBaseModel.h"
 
 namespace orvanta {
 

@@ -6,8 +6,8 @@
 #include <span>
 #include <string_view>
 
-#include "Foundation/Dictionary.h"
-#include "Foundation/Object.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/Object.h"
 
 namespace orvanta {
 

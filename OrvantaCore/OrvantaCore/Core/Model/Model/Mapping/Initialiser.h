@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "Mapping/OrvantaBaseModel.h"
+#include "orvanta/Model/Mapping/OrvantaBaseModel.h"
 
 // How a model declares initialisers that store their arguments, and the class methods that make an
 // object with one. Parameters are written as the names of the properties that they fill, in the

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "Mapping/Class.h"
+#include "orvanta/Model/Mapping/Class.h"
 
 namespace orvanta {
 

@@ -1,15 +1,15 @@
-#include "Mapping/Class.h"
+#include "orvanta/Model/Mapping/Class.h"
 
 namespace orvanta {
 
 #define ORVANTA_MODEL_CLASS(Name_) const Class& classObjectOf##Name_();
-#include "Mapping/ModelClasses.def"
+#include "orvanta/Model/Mapping/ModelClasses.def"
 #undef ORVANTA_MODEL_CLASS
 
 std::span<const Class* const> modelClasses() {
   static const Class* const kClasses[] = {
 #define ORVANTA_MODEL_CLASS(Name_) &classObjectOf##Name_(),
-#include "Mapping/ModelClasses.def"
+#include "orvanta/Model/Mapping/ModelClasses.def"
 #undef ORVANTA_MODEL_CLASS
   };
   return kClasses;

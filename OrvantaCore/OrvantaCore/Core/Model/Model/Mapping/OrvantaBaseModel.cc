@@ -1,12 +1,12 @@
-#include "Mapping/OrvantaBaseModel.h"
+#include "orvanta/Model/Mapping/OrvantaBaseModel.h"
 
 #include <algorithm>
 #include <new>
 
-#include "Foundation/Description.h"
-#include "Foundation/KeyPath.h"
-#include "Mapping/OrvantaLogger.h"
-#include "Mapping/RefusalRecorder.h"
+#include "orvanta/Foundation/Description.h"
+#include "orvanta/Foundation/KeyPath.h"
+#include "orvanta/Model/Mapping/OrvantaLogger.h"
+#include "orvanta/Model/Mapping/RefusalRecorder.h"
 
 // Making and reading; OrvantaBaseModelWriting.cc has the other direction.
 

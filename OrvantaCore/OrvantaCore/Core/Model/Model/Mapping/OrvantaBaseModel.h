@@ -4,11 +4,11 @@
 #include <mutex>
 #include <string>
 
-#include "Foundation/AttributedString.h"
-#include "Foundation/Exception.h"
-#include "Mapping/MappingPlan.h"
-#include "Mapping/OrvantaSerializableModel.h"
-#include "Mapping/Property.h"
+#include "orvanta/Foundation/AttributedString.h"
+#include "orvanta/Foundation/Exception.h"
+#include "orvanta/Model/Mapping/MappingPlan.h"
+#include "orvanta/Model/Mapping/OrvantaSerializableModel.h"
+#include "orvanta/Model/Mapping/Property.h"
 
 namespace orvanta {
 

@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <new>
 
-#include "Foundation/Description.h"
-#include "Foundation/KeyPath.h"
-#include "Mapping/OrvantaBaseModel.h"
+#include "orvanta/Foundation/Description.h"
+#include "orvanta/Foundation/KeyPath.h"
+#include "orvanta/Model/Mapping/OrvantaBaseModel.h"
 
 namespace orvanta {
 

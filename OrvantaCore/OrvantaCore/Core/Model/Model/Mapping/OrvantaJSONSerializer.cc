@@ -1,9 +1,9 @@
-#include "Mapping/OrvantaJSONSerializer.h"
+#include "orvanta/Model/Mapping/OrvantaJSONSerializer.h"
 
-#include "Foundation/Array.h"
-#include "Foundation/Dictionary.h"
-#include "Foundation/JSON.h"
-#include "Platform/Interface/Platform.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Platform/Platform.h"
 
 namespace orvanta {
 

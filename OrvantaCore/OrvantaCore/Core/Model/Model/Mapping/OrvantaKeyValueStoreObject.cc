@@ -1,6 +1,6 @@
-#include "Mapping/OrvantaKeyValueStoreObject.h"
+#include "orvanta/Model/Mapping/OrvantaKeyValueStoreObject.h"
 
-#include "Platform/Interface/Platform.h"
+#include "orvanta/Platform/Platform.h"
 
 namespace orvanta {
 

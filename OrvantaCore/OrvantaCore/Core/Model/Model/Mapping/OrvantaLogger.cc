@@ -1,8 +1,8 @@
-#include "Mapping/OrvantaLogger.h"
+#include "orvanta/Model/Mapping/OrvantaLogger.h"
 
 #include <string>
 
-#include "Platform/Interface/Platform.h"
+#include "orvanta/Platform/Platform.h"
 
 namespace orvanta {
 

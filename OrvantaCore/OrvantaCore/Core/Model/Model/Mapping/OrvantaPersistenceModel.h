@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Mapping/Property.h"
+#include "orvanta/Model/Mapping/Property.h"
 
 namespace orvanta {
 

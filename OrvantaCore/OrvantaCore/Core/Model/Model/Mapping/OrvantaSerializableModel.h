@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Foundation/Dictionary.h"
+#include "orvanta/Foundation/Dictionary.h"
 
 namespace orvanta {
 

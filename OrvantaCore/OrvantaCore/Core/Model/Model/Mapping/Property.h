@@ -6,11 +6,11 @@
 #include <tuple>
 #include <utility>
 
-#include "Foundation/Array.h"
-#include "Foundation/Dictionary.h"
-#include "Foundation/Number.h"
-#include "Foundation/Url.h"
-#include "Mapping/Class.h"
+#include "orvanta/Foundation/Array.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/Number.h"
+#include "orvanta/Foundation/Url.h"
+#include "orvanta/Model/Mapping/Class.h"
 
 // How a model declares its properties; see OrvantaPushStyle for a class as short as they get.
 

@@ -1,6 +1,6 @@
-#include "Mapping/RefusalRecorder.h"
+#include "orvanta/Model/Mapping/RefusalRecorder.h"
 
-#include "Mapping/Class.h"
+#include "orvanta/Model/Mapping/Class.h"
 
 namespace orvanta {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Foundation/Value.h"
+#include "orvanta/Foundation/Value.h"
 
 namespace orvanta {
 

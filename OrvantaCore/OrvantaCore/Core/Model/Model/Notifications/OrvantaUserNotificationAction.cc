@@ -1,4 +1,4 @@
-#include "Notifications/OrvantaUserNotificationAction.h"
+#include "orvanta/Model/Notifications/OrvantaUserNotificationAction.h"
 
 namespace orvanta {
 

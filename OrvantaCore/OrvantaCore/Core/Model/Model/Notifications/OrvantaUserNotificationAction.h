@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Mapping/OrvantaBaseModel.h"
-#include "Platform/Interface/UserNotifications.h"
+#include "orvanta/Model/Mapping/OrvantaBaseModel.h"
+#include "orvanta/Platform/UserNotifications.h"
 
 namespace orvanta {
 

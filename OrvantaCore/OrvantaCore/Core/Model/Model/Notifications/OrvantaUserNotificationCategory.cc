@@ -1,4 +1,4 @@
-#include "Notifications/OrvantaUserNotificationCategory.h"
+#include "orvanta/Model/Notifications/OrvantaUserNotificationCategory.h"
 
 namespace orvanta {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Mapping/OrvantaBaseModel.h"
-#include "Notifications/OrvantaUserNotificationAction.h"
+#include "orvanta/Model/Mapping/OrvantaBaseModel.h"
+#include "orvanta/Model/Notifications/OrvantaUserNotificationAction.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Push/OrvantaPushCarouselObject.h"
+#include "orvanta/Model/Push/OrvantaPushCarouselObject.h"
 
 namespace orvanta {
 

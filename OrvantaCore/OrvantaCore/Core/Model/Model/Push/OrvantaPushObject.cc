@@ -1,7 +1,7 @@
-#include "Push/OrvantaPushObject.h"
+#include "orvanta/Model/Push/OrvantaPushObject.h"
 
-#include "Foundation/KeyPath.h"
-#include "Mapping/RefusalRecorder.h"
+#include "orvanta/Foundation/KeyPath.h"
+#include "orvanta/Model/Mapping/RefusalRecorder.h"
 
 namespace orvanta {
 

@@ -2,12 +2,12 @@
 
 #include <functional>
 
-#include "Actions/OrvantaInAppMessageAction.h"
-#include "Mapping/OrvantaBaseModel.h"
-#include "Notifications/OrvantaUserNotificationAction.h"
-#include "Push/OrvantaPushObjectAction.h"
-#include "Push/OrvantaPushObjectAlert.h"
-#include "Push/OrvantaPushStyle.h"
+#include "orvanta/Model/Actions/OrvantaInAppMessageAction.h"
+#include "orvanta/Model/Mapping/OrvantaBaseModel.h"
+#include "orvanta/Model/Notifications/OrvantaUserNotificationAction.h"
+#include "orvanta/Model/Push/OrvantaPushObjectAction.h"
+#include "orvanta/Model/Push/OrvantaPushObjectAlert.h"
+#include "orvanta/Model/Push/OrvantaPushStyle.h"
 
 namespace orvanta {
 

@@ -1,6 +1,6 @@
-#include "Push/OrvantaPushObjectAction.h"
+#include "orvanta/Model/Push/OrvantaPushObjectAction.h"
 
-#include "Foundation/CharacterSet.h"
+#include "orvanta/Foundation/CharacterSet.h"
 
 namespace orvanta {
 

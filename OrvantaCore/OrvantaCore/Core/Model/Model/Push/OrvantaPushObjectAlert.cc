@@ -1,4 +1,4 @@
-#include "Push/OrvantaPushObjectAlert.h"
+#include "orvanta/Model/Push/OrvantaPushObjectAlert.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Push/OrvantaPushStyle.h"
+#include "orvanta/Model/Push/OrvantaPushStyle.h"
 
 namespace orvanta {
 

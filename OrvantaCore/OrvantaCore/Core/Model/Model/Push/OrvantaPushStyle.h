@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Mapping/OrvantaBaseModel.h"
+#include "orvanta/Model/Mapping/OrvantaBaseModel.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaAddTestDeviceRequest.h"
+#include "orvanta/Model/Requests/OrvantaAddTestDeviceRequest.h"
 
 namespace orvanta {
 

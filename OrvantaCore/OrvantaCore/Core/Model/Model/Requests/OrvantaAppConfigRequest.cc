@@ -1,4 +1,4 @@
-#include "Requests/OrvantaAppConfigRequest.h"
+#include "orvanta/Model/Requests/OrvantaAppConfigRequest.h"
 
 namespace orvanta {
 

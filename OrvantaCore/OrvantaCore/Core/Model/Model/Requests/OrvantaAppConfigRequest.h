@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Requests/OrvantaBaseRequest.h"
-#include "Responses/OrvantaAppConfigResponse.h"
+#include "orvanta/Model/Requests/OrvantaBaseRequest.h"
+#include "orvanta/Model/Responses/OrvantaAppConfigResponse.h"
 
 namespace orvanta {
 

@@ -1,6 +1,6 @@
-#include "Requests/OrvantaBaseRequest.h"
+#include "orvanta/Model/Requests/OrvantaBaseRequest.h"
 
-#include "Foundation/Description.h"
+#include "orvanta/Foundation/Description.h"
 
 namespace orvanta {
 

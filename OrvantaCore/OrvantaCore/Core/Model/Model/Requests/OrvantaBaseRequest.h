@@ -2,12 +2,12 @@
 
 #include <optional>
 
-#include "Identity/OrvantaIdentifiers.h"
-#include "Mapping/Initialiser.h"
-#include "Mapping/OrvantaPersistenceModel.h"
-#include "Requests/OrvantaRequestPathType.h"
-#include "Requests/OrvantaRequestSpec.h"
-#include "Responses/OrvantaBaseResponseModel.h"
+#include "orvanta/Model/Identity/OrvantaIdentifiers.h"
+#include "orvanta/Model/Mapping/Initialiser.h"
+#include "orvanta/Model/Mapping/OrvantaPersistenceModel.h"
+#include "orvanta/Model/Requests/OrvantaRequestPathType.h"
+#include "orvanta/Model/Requests/OrvantaRequestSpec.h"
+#include "orvanta/Model/Responses/OrvantaBaseResponseModel.h"
 
 namespace orvanta {
 

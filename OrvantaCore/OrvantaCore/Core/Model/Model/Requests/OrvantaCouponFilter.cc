@@ -1,4 +1,4 @@
-#include "Requests/OrvantaCouponFilter.h"
+#include "orvanta/Model/Requests/OrvantaCouponFilter.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaDeviceInfoRequest.h"
+#include "orvanta/Model/Requests/OrvantaDeviceInfoRequest.h"
 
 namespace orvanta {
 

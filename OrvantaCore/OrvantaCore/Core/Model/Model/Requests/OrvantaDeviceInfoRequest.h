@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Device/OrvantaAppAllDeviceInfo.h"
-#include "Requests/OrvantaBaseRequest.h"
-#include "Responses/OrvantaDeviceInfoResponse.h"
+#include "orvanta/Model/Device/OrvantaAppAllDeviceInfo.h"
+#include "orvanta/Model/Requests/OrvantaBaseRequest.h"
+#include "orvanta/Model/Responses/OrvantaDeviceInfoResponse.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaDisableAdIdRequest.h"
+#include "orvanta/Model/Requests/OrvantaDisableAdIdRequest.h"
 
 namespace orvanta {
 

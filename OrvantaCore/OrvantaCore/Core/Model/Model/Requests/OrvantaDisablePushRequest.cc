@@ -1,4 +1,4 @@
-#include "Requests/OrvantaDisablePushRequest.h"
+#include "orvanta/Model/Requests/OrvantaDisablePushRequest.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaEmailSubscribeRequest.h"
+#include "orvanta/Model/Requests/OrvantaEmailSubscribeRequest.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaEnableAdIdRequest.h"
+#include "orvanta/Model/Requests/OrvantaEnableAdIdRequest.h"
 
 namespace orvanta {
 

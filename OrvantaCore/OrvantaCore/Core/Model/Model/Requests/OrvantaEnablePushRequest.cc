@@ -1,4 +1,4 @@
-#include "Requests/OrvantaEnablePushRequest.h"
+#include "orvanta/Model/Requests/OrvantaEnablePushRequest.h"
 
 namespace orvanta {
 

@@ -1,8 +1,8 @@
-#include "Requests/OrvantaEventRequest.h"
+#include "orvanta/Model/Requests/OrvantaEventRequest.h"
 
 #include <algorithm>
 
-#include "Events/OrvantaEvent.h"
+#include "orvanta/Model/Events/OrvantaEvent.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaFetchCouponRequest.h"
+#include "orvanta/Model/Requests/OrvantaFetchCouponRequest.h"
 
 namespace orvanta {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Requests/OrvantaBaseRequest.h"
-#include "Requests/OrvantaCouponFilter.h"
-#include "Responses/OrvantaFetchCouponResponse.h"
+#include "orvanta/Model/Requests/OrvantaBaseRequest.h"
+#include "orvanta/Model/Requests/OrvantaCouponFilter.h"
+#include "orvanta/Model/Responses/OrvantaFetchCouponResponse.h"
 
 namespace orvanta {
 

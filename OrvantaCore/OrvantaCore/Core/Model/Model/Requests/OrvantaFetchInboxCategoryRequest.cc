@@ -1,4 +1,4 @@
-#include "Requests/OrvantaFetchInboxCategoryRequest.h"
+#include "orvanta/Model/Requests/OrvantaFetchInboxCategoryRequest.h"
 
 namespace orvanta {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Requests/OrvantaBaseRequest.h"
-#include "Requests/OrvantaInboxCategoryFilter.h"
-#include "Responses/OrvantaInboxCategoryResponse.h"
+#include "orvanta/Model/Requests/OrvantaBaseRequest.h"
+#include "orvanta/Model/Requests/OrvantaInboxCategoryFilter.h"
+#include "orvanta/Model/Responses/OrvantaInboxCategoryResponse.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaFetchInboxCountRequest.h"
+#include "orvanta/Model/Requests/OrvantaFetchInboxCountRequest.h"
 
 namespace orvanta {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Requests/OrvantaBaseRequest.h"
-#include "Requests/OrvantaInboxCountFilter.h"
-#include "Responses/OrvantaInboxCountResponse.h"
+#include "orvanta/Model/Requests/OrvantaBaseRequest.h"
+#include "orvanta/Model/Requests/OrvantaInboxCountFilter.h"
+#include "orvanta/Model/Responses/OrvantaInboxCountResponse.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaFetchInboxRequest.h"
+#include "orvanta/Model/Requests/OrvantaFetchInboxRequest.h"
 
 namespace orvanta {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Requests/OrvantaBaseRequest.h"
-#include "Requests/OrvantaInboxFilter.h"
-#include "Responses/OrvantaInboxResponse.h"
+#include "orvanta/Model/Requests/OrvantaBaseRequest.h"
+#include "orvanta/Model/Requests/OrvantaInboxFilter.h"
+#include "orvanta/Model/Responses/OrvantaInboxResponse.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaFetchUserCategoryRequest.h"
+#include "orvanta/Model/Requests/OrvantaFetchUserCategoryRequest.h"
 
 namespace orvanta {
 

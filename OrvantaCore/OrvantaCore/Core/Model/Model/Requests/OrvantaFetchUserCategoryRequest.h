@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Requests/OrvantaBaseRequest.h"
-#include "Responses/OrvantaFetchUserCategoryResponse.h"
+#include "orvanta/Model/Requests/OrvantaBaseRequest.h"
+#include "orvanta/Model/Responses/OrvantaFetchUserCategoryResponse.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaInboxCategoryFilter.h"
+#include "orvanta/Model/Requests/OrvantaInboxCategoryFilter.h"
 
 #include <limits>
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaInboxCountFilter.h"
+#include "orvanta/Model/Requests/OrvantaInboxCountFilter.h"
 
 namespace orvanta {
 

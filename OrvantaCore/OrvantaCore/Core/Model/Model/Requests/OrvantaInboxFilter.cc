@@ -1,4 +1,4 @@
-#include "Requests/OrvantaInboxFilter.h"
+#include "orvanta/Model/Requests/OrvantaInboxFilter.h"
 
 #include <limits>
 

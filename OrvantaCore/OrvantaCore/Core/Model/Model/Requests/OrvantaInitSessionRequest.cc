@@ -1,4 +1,4 @@
-#include "Requests/OrvantaInitSessionRequest.h"
+#include "orvanta/Model/Requests/OrvantaInitSessionRequest.h"
 
 namespace orvanta {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Device/OrvantaAppDeviceInfo.h"
-#include "Requests/OrvantaBaseRequest.h"
-#include "Responses/OrvantaInitSessionResponse.h"
+#include "orvanta/Model/Device/OrvantaAppDeviceInfo.h"
+#include "orvanta/Model/Requests/OrvantaBaseRequest.h"
+#include "orvanta/Model/Responses/OrvantaInitSessionResponse.h"
 
 namespace orvanta {
 

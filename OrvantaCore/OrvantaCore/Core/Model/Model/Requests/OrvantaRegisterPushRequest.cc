@@ -1,4 +1,4 @@
-#include "Requests/OrvantaRegisterPushRequest.h"
+#include "orvanta/Model/Requests/OrvantaRegisterPushRequest.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaRemoteConfigRequest.h"
+#include "orvanta/Model/Requests/OrvantaRemoteConfigRequest.h"
 
 namespace orvanta {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Requests/OrvantaBaseRequest.h"
-#include "Responses/OrvantaRemoteConfigResponse.h"
+#include "orvanta/Model/Requests/OrvantaBaseRequest.h"
+#include "orvanta/Model/Responses/OrvantaRemoteConfigResponse.h"
 
 namespace orvanta {
 

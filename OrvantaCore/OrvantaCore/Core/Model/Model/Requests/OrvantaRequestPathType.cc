@@ -1,4 +1,4 @@
-#include "Requests/OrvantaRequestPathType.h"
+#include "orvanta/Model/Requests/OrvantaRequestPathType.h"
 
 namespace orvanta {
 

@@ -1,8 +1,8 @@
-#include "Requests/OrvantaRequestSpec.h"
+#include "orvanta/Model/Requests/OrvantaRequestSpec.h"
 
 #include <charconv>
 
-#include "Foundation/Description.h"
+#include "orvanta/Foundation/Description.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaSetInboxStatusRequest.h"
+#include "orvanta/Model/Requests/OrvantaSetInboxStatusRequest.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaSetUserCategoryRequest.h"
+#include "orvanta/Model/Requests/OrvantaSetUserCategoryRequest.h"
 
 namespace orvanta {
 

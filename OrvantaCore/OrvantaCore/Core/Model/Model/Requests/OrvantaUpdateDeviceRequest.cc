@@ -1,4 +1,4 @@
-#include "Requests/OrvantaUpdateDeviceRequest.h"
+#include "orvanta/Model/Requests/OrvantaUpdateDeviceRequest.h"
 
 namespace orvanta {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Requests/OrvantaBaseRequest.h"
+#include "orvanta/Model/Requests/OrvantaBaseRequest.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Requests/OrvantaUpdateUserRequest.h"
+#include "orvanta/Model/Requests/OrvantaUpdateUserRequest.h"
 
 namespace orvanta {
 

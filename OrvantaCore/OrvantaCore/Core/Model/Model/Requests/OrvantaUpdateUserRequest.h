@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Requests/OrvantaBaseRequest.h"
-#include "Responses/OrvantaIdentifyUserResponse.h"
-#include "User/OrvantaUser.h"
+#include "orvanta/Model/Requests/OrvantaBaseRequest.h"
+#include "orvanta/Model/Responses/OrvantaIdentifyUserResponse.h"
+#include "orvanta/Model/User/OrvantaUser.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Responses/OrvantaAppConfigResponse.h"
+#include "orvanta/Model/Responses/OrvantaAppConfigResponse.h"
 
 namespace orvanta {
 

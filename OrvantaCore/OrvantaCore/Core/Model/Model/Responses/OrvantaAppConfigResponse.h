@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Configuration/OrvantaAppConfig.h"
-#include "Responses/OrvantaBaseResponseModel.h"
+#include "orvanta/Model/Configuration/OrvantaAppConfig.h"
+#include "orvanta/Model/Responses/OrvantaBaseResponseModel.h"
 
 namespace orvanta {
 

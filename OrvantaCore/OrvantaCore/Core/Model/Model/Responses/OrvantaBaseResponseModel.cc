@@ -1,4 +1,4 @@
-#include "Responses/OrvantaBaseResponseModel.h"
+#include "orvanta/Model/Responses/OrvantaBaseResponseModel.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Responses/OrvantaCouponObject.h"
+#include "orvanta/Model/Responses/OrvantaCouponObject.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Responses/OrvantaDeviceInfoResponse.h"
+#include "orvanta/Model/Responses/OrvantaDeviceInfoResponse.h"
 
 namespace orvanta {
 

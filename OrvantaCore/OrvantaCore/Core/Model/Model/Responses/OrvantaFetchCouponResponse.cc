@@ -1,4 +1,4 @@
-#include "Responses/OrvantaFetchCouponResponse.h"
+#include "orvanta/Model/Responses/OrvantaFetchCouponResponse.h"
 
 namespace orvanta {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Responses/OrvantaBaseResponseModel.h"
-#include "Responses/OrvantaCouponObject.h"
+#include "orvanta/Model/Responses/OrvantaBaseResponseModel.h"
+#include "orvanta/Model/Responses/OrvantaCouponObject.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Responses/OrvantaFetchUserCategoryResponse.h"
+#include "orvanta/Model/Responses/OrvantaFetchUserCategoryResponse.h"
 
 namespace orvanta {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Responses/OrvantaBaseResponseModel.h"
-#include "User/OrvantaUserCategoryPreference.h"
+#include "orvanta/Model/Responses/OrvantaBaseResponseModel.h"
+#include "orvanta/Model/User/OrvantaUserCategoryPreference.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Responses/OrvantaIdentifyUserResponse.h"
+#include "orvanta/Model/Responses/OrvantaIdentifyUserResponse.h"
 
 namespace orvanta {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Responses/OrvantaBaseResponseModel.h"
+#include "orvanta/Model/Responses/OrvantaBaseResponseModel.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Responses/OrvantaInboxCategoryObject.h"
+#include "orvanta/Model/Responses/OrvantaInboxCategoryObject.h"
 
 namespace orvanta {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Mapping/OrvantaBaseModel.h"
-#include "Push/OrvantaPushObject.h"
-#include "Responses/OrvantaInboxCategoryStatusObject.h"
+#include "orvanta/Model/Mapping/OrvantaBaseModel.h"
+#include "orvanta/Model/Push/OrvantaPushObject.h"
+#include "orvanta/Model/Responses/OrvantaInboxCategoryStatusObject.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Responses/OrvantaInboxCategoryResponse.h"
+#include "orvanta/Model/Responses/OrvantaInboxCategoryResponse.h"
 
 namespace orvanta {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Responses/OrvantaBaseResponseModel.h"
-#include "Responses/OrvantaInboxCategoryObject.h"
+#include "orvanta/Model/Responses/OrvantaBaseResponseModel.h"
+#include "orvanta/Model/Responses/OrvantaInboxCategoryObject.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Responses/OrvantaInboxCategoryStatusObject.h"
+#include "orvanta/Model/Responses/OrvantaInboxCategoryStatusObject.h"
 
 namespace orvanta {
 

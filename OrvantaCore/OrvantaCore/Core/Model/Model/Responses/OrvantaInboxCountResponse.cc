@@ -1,4 +1,4 @@
-#include "Responses/OrvantaInboxCountResponse.h"
+#include "orvanta/Model/Responses/OrvantaInboxCountResponse.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Responses/OrvantaInboxResponse.h"
+#include "orvanta/Model/Responses/OrvantaInboxResponse.h"
 
 namespace orvanta {
 

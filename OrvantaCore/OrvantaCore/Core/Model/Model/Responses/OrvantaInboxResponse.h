@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Push/OrvantaPushObject.h"
-#include "Responses/OrvantaBaseResponseModel.h"
+#include "orvanta/Model/Push/OrvantaPushObject.h"
+#include "orvanta/Model/Responses/OrvantaBaseResponseModel.h"
 
 namespace orvanta {
 

@@ -1,4 +1,4 @@
-#include "Responses/OrvantaInitSessionResponse.h"
+#include "orvanta/Model/Responses/OrvantaInitSessionResponse.h"
 
 namespace orvanta {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Responses/OrvantaAppConfigResponse.h"
+#include "orvanta/Model/Responses/OrvantaAppConfigResponse.h"
 
 namespace orvanta {
 

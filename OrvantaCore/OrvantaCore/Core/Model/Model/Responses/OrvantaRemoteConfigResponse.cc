@@ -1,4 +1,4 @@
-#include "Responses/OrvantaRemoteConfigResponse.h"
+#include "orvanta/Model/Responses/OrvantaRemoteConfigResponse.h"
 
 namespace orvanta {
 

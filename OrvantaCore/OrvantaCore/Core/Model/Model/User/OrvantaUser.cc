@@ -1,4 +1,4 @@
-#include "User/OrvantaUser.h"
+#include "orvanta/Model/User/OrvantaUser.h"
 
 namespace orvanta {
 

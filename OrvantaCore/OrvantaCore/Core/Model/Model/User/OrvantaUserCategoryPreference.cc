@@ -1,4 +1,4 @@
-#include "User/OrvantaUserCategoryPreference.h"
+#include "orvanta/Model/User/OrvantaUserCategoryPreference.h"
 
 namespace orvanta {
 

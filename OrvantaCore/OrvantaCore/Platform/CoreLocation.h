@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Foundation/Date.h"
+#include "orvanta/Foundation/Date.h"
 
 namespace orvanta {
 

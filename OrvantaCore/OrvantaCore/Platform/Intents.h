@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "Platform/Interface/NSError.h"
-#include "Platform/Interface/UserNotifications.h"
+#include "orvanta/Platform/NSError.h"
+#include "orvanta/Platform/UserNotifications.h"
 
 // The Intents types that the component touches, under the platform's names. They are plain data.
 

@@ -7,9 +7,9 @@
 #include <utility>
 #include <vector>
 
-#include "Foundation/Dictionary.h"
-#include "Foundation/Url.h"
-#include "Platform/Interface/NSError.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/Url.h"
+#include "orvanta/Platform/NSError.h"
 
 // The UserNotifications types that the component touches, under the platform's names.
 
@@ -36,12 +36,7 @@ class UNNotificationAttachment final : public Object {
   static constexpr const ClassObject& classObject() { return kClass; }
   const ClassObject& isa() const override { return kClass; }
   const Parts& parts() const { return parts_; }
-  std::string description() const override {
-    return "<UNNotificationAttachment; identifier: " + parts_.identifier +
-           ", family: " + parts_.family + ", URL: " + std::string(parts_.url.absoluteString()) +
-           ", type: " + parts_.type + ", options: <UN" + parts_.family +
-           "NotificationAttachmentOptions>>";
-  }
+  std::string description() const override;
 
  private:
   explicit UNNotificationAttachment(Parts parts) : parts_(std::move(parts)) {}
@@ -134,12 +129,7 @@ class UNNotificationAction : public Object {
   virtual bool takesText() const { return false; }
 
   /// By value over all fields.
-  bool isEqual(const Value& other) const override {
-    const auto* action = other.as<UNNotificationAction>();
-    return action != nullptr && takesText() == action->takesText() &&
-           identifier_ == action->identifier_ && title_ == action->title_ &&
-           options_ == action->options_;
-  }
+  bool isEqual(const Value& other) const override;
   std::size_t hash() const override { return std::hash<std::string>{}(identifier_); }
 
  protected:
@@ -180,50 +170,19 @@ struct UNNotificationCategory {
   std::shared_ptr<const void> platformObject{};    // an adapter's own, for one that was read
 
   /// By value over all fields, as the platform compares.
-  friend bool operator==(const UNNotificationCategory& a, const UNNotificationCategory& b) {
-    if (a.identifier != b.identifier || a.actions.size() != b.actions.size() ||
-        a.platformObject != b.platformObject) {
-      return false;
-    }
-    for (std::size_t i = 0; i < a.actions.size(); ++i) {
-      if (!a.actions[i]->isEqual(b.actions[i])) return false;
-    }
-    return true;
-  }
+  friend bool operator==(const UNNotificationCategory& a, const UNNotificationCategory& b);
 };
 
 /// A set of categories in the order of insertion; equal ones stand in it once, but it may hold
 /// several of one identifier. Inserting takes time by the category's own size only.
 class UNNotificationCategorySet {
  public:
-  void insert(UNNotificationCategory category) {
-    const std::string fields = fieldsOf(category);
-    if (present_.contains(fields)) return;
-    present_.set(fields, true);
-    categories_.push_back(std::move(category));
-  }
+  void insert(UNNotificationCategory category);
   std::size_t size() const { return categories_.size(); }
   auto begin() const { return categories_.begin(); }
   auto end() const { return categories_.end(); }
 
  private:
-  /// A text that equal categories share and no others.
-  static std::string fieldsOf(const UNNotificationCategory& category) {
-    std::string text;
-    const auto add = [&text](std::string_view field) {
-      text.append(std::to_string(field.size())).append(":").append(field);
-    };
-    add(category.identifier);
-    add(std::to_string(reinterpret_cast<std::uintptr_t>(category.platformObject.get())));
-    for (const Ref<UNNotificationAction>& action : category.actions) {
-      add(action->takesText() ? "text" : "");
-      add(action->identifier());
-      add(action->title());
-      add(std::to_string(action->options()));
-    }
-    return text;
-  }
-
   std::vector<UNNotificationCategory> categories_;
   Dictionary present_;
 };

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <atomic>
 #include <compare>
 #include <memory>
 #include <string_view>
 #include <utility>
 
-#include "Platform/Interface/Clock.h"
-#include "Platform/Interface/SystemLog.h"
+#include "orvanta/Platform/Clock.h"
+#include "orvanta/Platform/SystemLog.h"
 
 namespace orvanta {
 
@@ -93,18 +92,5 @@ class PlatformOverride {
   inline static thread_local Platform* current_ = nullptr;
   Platform* previous_;
 };
-
-namespace detail {
-inline constinit std::atomic<Platform*> processPlatform = nullptr;
-}
-
-inline void Platform::setCurrent(Platform* platform) { detail::processPlatform = platform; }
-
-inline Platform& Platform::current() {
-  static Platform none;
-  if (PlatformOverride::current_ != nullptr) return *PlatformOverride::current_;
-  Platform* const platform = detail::processPlatform;
-  return platform != nullptr ? *platform : none;
-}
 
 }  // namespace orvanta

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "Foundation/Object.h"
+#include "orvanta/Foundation/Object.h"
 
 namespace orvanta {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "fuzzers/fuzzer.h"
+#include "fuzzer.h"
 
 // Every input of the fuzzers' corpora, and every example, once more; in any build, without
 // libFuzzer.

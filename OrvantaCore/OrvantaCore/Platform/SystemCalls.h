@@ -6,34 +6,10 @@
 #include <string_view>
 #include <vector>
 
-// What the component asks of the process, its file systems and the kernel. Everything is read
-// afresh on every call, from any thread. A call that fails says so by what it answers; it may also
-// throw an orvanta::Exception.
-
 namespace orvanta {
 
-class NSProcessInfo {
- public:
-  virtual ~NSProcessInfo() = default;
-  /// Bytes.
-  virtual std::uint64_t physicalMemory() = 0;
-};
-
-/// The part of the file manager that knows the file systems.
-class FileSystems {
- public:
-  /// Bytes; what cannot be read is missing.
-  struct Attributes {
-    std::optional<std::uint64_t> systemSize;      // NSFileSystemSize
-    std::optional<std::uint64_t> systemFreeSize;  // NSFileSystemFreeSize
-  };
-
-  virtual ~FileSystems() = default;
-  virtual std::string NSHomeDirectory() = 0;
-  /// attributesOfFileSystemForPath:error: of the file system that a path lies on.
-  virtual Attributes attributesOfFileSystemForPath(const std::string& path) = 0;
-};
-
+/// What is asked of the kernel. Everything is read afresh on every call, from any thread. The
+/// return value says that a call failed; it may also throw an orvanta::Exception.
 class SystemCalls {
  public:
   /// One address of a network interface.

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Foundation/Dictionary.h"
+#include "orvanta/Foundation/Dictionary.h"
 
 namespace orvanta {
 

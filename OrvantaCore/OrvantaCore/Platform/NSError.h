@@ -5,9 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "Foundation/Description.h"
-#include "Foundation/Dictionary.h"
-#include "Foundation/Object.h"
+#include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/Object.h"
 
 namespace orvanta {
 
@@ -28,11 +27,7 @@ class NSError final : public Object {
   }
   /// One whose text its domain makes up: the user info does not hold it.
   static Ref<NSError> errorWithDomain(std::string_view domain, std::int64_t code,
-                                      Dictionary userInfo, std::string_view generatedDescription) {
-    Ref<NSError> error = errorWithDomain(domain, code, std::move(userInfo));
-    error->generatedDescription_ = generatedDescription;
-    return error;
-  }
+                                      Dictionary userInfo, std::string_view generatedDescription);
 
   static constexpr const ClassObject& classObject() { return kClass; }
   const ClassObject& isa() const override { return kClass; }
@@ -41,25 +36,10 @@ class NSError final : public Object {
   std::int64_t code() const { return code_; }
   const Dictionary& userInfo() const { return userInfo_; }
   /// The text in the user info, else the one that the domain made up; nil for none.
-  const Value& localizedDescription() const {
-    const Value& given = userInfo_[kLocalizedDescription];
-    return given.isNil() ? generatedDescription_ : given;
-  }
+  const Value& localizedDescription() const;
 
   /// Error Domain=… Code=… "text" UserInfo={key=value, …}; the last part only when there is one.
-  std::string description() const override {
-    std::string text = "Error Domain=" + domain_ + " Code=" + std::to_string(code_) + " \"" +
-                       describe(localizedDescription()) + "\"";
-    if (userInfo_.empty()) return text;
-    text += " UserInfo={";
-    for (const Dictionary::Entry& entry : userInfo_) {
-      if (&entry != userInfo_.begin()) text += ", ";
-      text.append(entry.key()).append("=");
-      const bool isError = entry.value.as<NSError>() != nullptr;
-      text.append(isError ? "{" : "").append(describe(entry.value)).append(isError ? "}" : "");
-    }
-    return text + "}";
-  }
+  std::string description() const override;
   std::string debugDescription() const { return description(); }
 
  private:

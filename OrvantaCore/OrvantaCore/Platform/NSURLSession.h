@@ -6,9 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "Foundation/Array.h"
-#include "Foundation/Url.h"
-#include "Platform/Interface/NSError.h"
+#include "orvanta/Foundation/Url.h"
+#include "orvanta/Platform/NSError.h"
 
 namespace orvanta {
 
@@ -35,16 +34,7 @@ class NSURLResponse final : public Object {
   const std::optional<int>& statusCode() const { return parts_.statusCode; }
   const std::vector<std::pair<std::string, std::string>>& headers() const { return parts_.headers; }
 
-  std::string description() const override {
-    const std::string url = " { URL: " + describe(parts_.url) + " }";
-    if (!parts_.statusCode) return "<NSURLResponse>" + url;
-    Dictionary fields;
-    for (const auto& [name, value] : parts_.headers) fields.set(name, Array{Value(value)});
-    std::string text = describe(fields);
-    text.erase(0, 1);  // the dictionary's bracket is the format's
-    return "<NSHTTPURLResponse>" + url + " { Status Code: " + std::to_string(*parts_.statusCode) +
-           ", Headers {" + text + " }";
-  }
+  std::string description() const override;
 
  private:
   explicit NSURLResponse(Parts parts) : parts_(std::move(parts)) {}

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "Platform/Interface/RuntimeClass.h"
+#include "orvanta/Platform/RuntimeClass.h"
 
 namespace orvanta {
 

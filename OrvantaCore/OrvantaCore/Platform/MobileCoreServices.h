@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// Uniform type identifiers.
+/// Uniform type identifiers (UTTypeCreatePreferredIdentifierForTag).
 class TypeIdentifiers {
  public:
   virtual ~TypeIdentifiers() = default;
