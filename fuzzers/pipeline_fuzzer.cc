@@ -6,8 +6,8 @@
 #include "fuzzer.h"
 #include "orvanta/Foundation/Exception.h"
 #include "orvanta/Foundation/JSON.h"
-#include "orvanta/Linux/MediaTypes.h"
-#include "orvanta/Linux/RemoteNotification.h"
+#include "orvanta/Simulator/RemoteNotification.h"
+#include "orvanta/Simulator/UniformTypes.h"
 #include "orvanta/Model/Mapping/OrvantaLogger.h"
 #include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
 #include "support/FakePlatform.h"
@@ -125,7 +125,7 @@ class Run {
       setName(argument());
     } else if (c == 't') {
       platform_.download.response.mimeType = argument();
-      HostTypeIdentifiers().preferredIdentifierForMIMEType(platform_.download.response.mimeType);
+      UniformTypes().preferredIdentifierForMIMEType(platform_.download.response.mimeType);
     } else if (c == 'h') {
       platform_.download.response.headers.emplace_back("Content-Type", argument());
     } else if (c == '+') {
@@ -212,7 +212,7 @@ void pipeline(std::string_view input) {
           second.dictionary() != nullptr ? *second.dictionary() : Dictionary());
   run.play();
   OrvantaLogger::setLogLevel(level);
-  launchVerdict(*first.dictionary());
+  launchDecision(*first.dictionary());
 }
 
 }  // namespace orvanta::fuzzing

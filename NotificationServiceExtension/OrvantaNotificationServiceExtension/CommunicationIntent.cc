@@ -3,6 +3,7 @@
 
 #include "orvanta/Model/Mapping/OrvantaLogger.h"
 #include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
+#include "orvanta/NotificationService/RequestedEnrichments.h"
 #include "orvanta/Platform/Intents.h"
 #include "orvanta/Platform/Platform.h"
 #include "orvanta/Platform/UIKit.h"
@@ -17,8 +18,6 @@ constexpr LogSite site(int line) {
       "withContentHandler:completionHandler:]",
       "OrvantaNotificationServiceExtension", line};
 }
-
-constexpr OperatingSystemVersion kFirstWithCommunication{15, 0, 0};
 
 /// The JPEG data of a picture in the bundle's resources.
 std::optional<std::string> jpegData(std::string_view name) {
@@ -48,11 +47,12 @@ void OrvantaNotificationServiceExtension::setNotificationIntentForNotificationCo
     const std::shared_ptr<UNMutableNotificationContent>& content, UNContentHandler contentHandler,
     ErrorCompletion completionHandler) {
   const Ref<OrvantaPushObject> object = pushObject();
-  const auto icon = object ? pushIcon(*object) : std::nullopt;
+  const auto icon = object ? requestedEnrichments(*object).senderIcon : std::nullopt;
   auto data = icon ? jpegData(*icon) : std::nullopt;
   Platform& platform = Platform::current();
   Intents* intents = platform.intents();
-  if (!data || intents == nullptr || platform.operatingSystemVersion() < kFirstWithCommunication) {
+  if (!data || intents == nullptr ||
+      platform.operatingSystemVersion() < kFirstVersionWithCommunication) {
     contentHandler(content);
     return;
   }

@@ -4,6 +4,7 @@
 #include "orvanta/Foundation/Description.h"
 #include "orvanta/Model/Mapping/OrvantaLogger.h"
 #include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
+#include "orvanta/NotificationService/RequestedEnrichments.h"
 #include "orvanta/Platform/MobileCoreServices.h"
 #include "orvanta/Platform/NSFileManager.h"
 #include "orvanta/Platform/NSURLSession.h"
@@ -47,7 +48,7 @@ void OrvantaNotificationServiceExtension::downloadAndSetMediaImageForNotificatio
     const std::shared_ptr<UNMutableNotificationContent>& content,
     ErrorCompletion completionHandler) {
   const Ref<OrvantaPushObject> object = pushObject();
-  const Url* media = object ? object->mediaAttachmentURL().get() : nullptr;
+  const Url* media = object ? requestedEnrichments(*object).media : nullptr;
   const Value mediaValue = orNil(media);
   logDebug(site(175), labelled("Start request with URL : ", mediaValue));
   Platform& platform = Platform::current();

@@ -4,31 +4,27 @@
 
 #include "orvanta/Foundation/Exception.h"
 #include "orvanta/Model/Mapping/OrvantaLogger.h"
+#include "orvanta/Model/Notifications/OrvantaUserNotificationCategory.h"
 #include "orvanta/NotificationService/NotificationHelper.h"
+#include "orvanta/NotificationService/RequestedEnrichments.h"
 #include "orvanta/Platform/Platform.h"
 
 // The pipeline; MediaAttachment.cc and CommunicationIntent.cc have the steps that it calls.
 
 namespace orvanta {
 
-Ref<OrvantaUserNotificationCategory> interactiveCategory(const OrvantaPushObject& object) {
-  const auto identifier = object.interactiveCategoryIdentifier().get();
-  const Array* given = object.interactiveActions().get();
-  if (!identifier || given == nullptr) return nullptr;
+/// Makes the category of the buttons that a payload asks for; nil when it asks for none.
+static Ref<OrvantaUserNotificationCategory> interactiveCategory(const OrvantaPushObject& object) {
+  const RequestedEnrichments enrichments = requestedEnrichments(object);
+  if (!enrichments.category) return nullptr;
   Array actions;
-  for (const Value& action : *given) {
-    if (action.as<OrvantaUserNotificationAction>() != nullptr) actions.append(action);
+  for (const Value& element : *object.interactiveActions().get()) {
+    if (element.as<OrvantaUserNotificationAction>() != nullptr) actions.append(element);
   }
-  if (actions.empty()) return nullptr;
   auto category = make<OrvantaUserNotificationCategory>();
   category->setActions(actions);
-  category->setIdentifier(*identifier);
+  category->setIdentifier(*enrichments.category);
   return category;
-}
-
-std::optional<std::string_view> pushIcon(const OrvantaPushObject& object) {
-  const auto* style = object.pushStyle().get();
-  return style != nullptr ? style->pushIcon().get() : std::nullopt;
 }
 
 Ref<OrvantaPushObject> OrvantaNotificationServiceExtension::pushObject() const {
@@ -60,8 +56,9 @@ void OrvantaNotificationServiceExtension::didReceiveNotificationRequest(
 void OrvantaNotificationServiceExtension::updateNotificationContent(
     const UNContentHandler& contentHandler, const Ref<OrvantaPushObject>& object) {
   const std::shared_ptr<UNMutableNotificationContent> content = bestAttemptContent_;
-  const bool hasMedia = object && object->mediaAttachmentURL().get() != nullptr;
-  const bool hasIcon = object && pushIcon(*object);
+  const auto enrichments = object ? requestedEnrichments(*object) : RequestedEnrichments();
+  const bool hasMedia = enrichments.media != nullptr;
+  const bool hasIcon = enrichments.senderIcon.has_value();
 
   // The object of the best attempt is read anew: a later request on this instance replaces it.
   const auto applyIntent = [self = shared_from_this(), contentHandler, content, hasIcon] {

@@ -2,10 +2,8 @@
 
 #include <memory>
 #include <optional>
-#include <string_view>
 
 #include "orvanta/Foundation/Url.h"
-#include "orvanta/Model/Notifications/OrvantaUserNotificationCategory.h"
 #include "orvanta/Model/Push/OrvantaPushObject.h"
 #include "orvanta/Platform/NSError.h"
 #include "orvanta/Platform/NSURLSession.h"
@@ -84,12 +82,5 @@ class OrvantaNotificationServiceExtension final
   std::shared_ptr<UNMutableNotificationContent> bestAttemptContent_;
   std::weak_ptr<UNUserNotificationCenter> notificationCenter_;
 };
-
-/// The buttons that a payload asks for; nil when it names no category, or no action. Elements that
-/// are no actions are passed over.
-Ref<OrvantaUserNotificationCategory> interactiveCategory(const OrvantaPushObject& object);
-
-/// The name of the sender's picture, if the payload asks for one; it lives as long as the object.
-std::optional<std::string_view> pushIcon(const OrvantaPushObject& object);
 
 }  // namespace orvanta

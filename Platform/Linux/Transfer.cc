@@ -13,7 +13,7 @@
 #include "orvanta/Foundation/CharacterSet.h"
 #include "orvanta/Linux/DownloadFile.h"
 #include "orvanta/Linux/HeaderText.h"
-#include "orvanta/Linux/URLErrors.h"
+#include "orvanta/Simulator/URLErrors.h"
 
 namespace orvanta {
 

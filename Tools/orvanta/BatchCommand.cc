@@ -144,7 +144,7 @@ ExitCode batch(const BatchOptions& options, const Streams& streams) {
       warn(lines, *request, streams.err);
       folding.take(std::move(request));
     } else {
-      streams.err << "orvanta: " << lines.place() << ": " << printable(reason) << '\n';
+      streams.err << "orvanta: " << lines.place() << ": " << escapeForTerminal(reason) << '\n';
       ++badLines;
     }
   }

@@ -1,7 +1,8 @@
-#include "orvanta/Linux/ClockAndLog.h"
-#include "orvanta/Linux/HostDevice.h"
-#include "orvanta/Linux/KeyReaders.h"
+#include "orvanta/Linux/MachineProfile.h"
 #include "orvanta/Model/Device/OrvantaAppDeviceInfoUtil.h"
+#include "orvanta/Simulator/ConfigReader.h"
+#include "orvanta/Simulator/RecordingLog.h"
+#include "orvanta/Simulator/SimulatedDevice.h"
 #include "orvanta/Tool/Commands.h"
 #include "orvanta/Tool/Input.h"
 #include "orvanta/Tool/Text.h"
@@ -14,14 +15,14 @@ static DeviceProfile profileFrom(const std::string& argument, const Streams& str
   const Input input = readInput(argument, streams);
   try {
     return DeviceProfile::fromDictionary(input.object);
-  } catch (const InputError& error) {
-    throw Failure(ExitCode::unreadable, input.name + ": " + printable(error.what()));
+  } catch (const ConfigError& error) {
+    throw Failure(ExitCode::unreadable, input.name + ": " + escapeForTerminal(error.what()));
   }
 }
 
 ExitCode device(const DeviceOptions& options, const Streams& streams) {
   RecordingLog log(streams.err);
-  HostDevice device(profileFrom(options.device, streams), &log);
+  SimulatedDevice device(completedByMachine(profileFrom(options.device, streams)), &log);
   const PlatformOverride override(device);
   const Dictionary info = options.all
                               ? OrvantaAppDeviceInfoUtil::allDeviceInfo()->dictionaryValue()

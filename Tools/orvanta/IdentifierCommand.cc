@@ -10,7 +10,8 @@ namespace orvanta::tool {
 namespace {
 
 [[noreturn]] void refuse(const std::string& text, const std::string& reason) {
-  throw Failure(ExitCode::notMade, "\"" + printable(text) + "\" is no short identifier: " + reason);
+  throw Failure(ExitCode::notMade,
+                "\"" + escapeForTerminal(text) + "\" is no short identifier: " + reason);
 }
 
 /// The number that a text of base 62 stands for.

@@ -50,7 +50,7 @@ void warnOfDuplicates(const Input& input, std::ostream& err) {
   for (std::size_t i = 0; i < std::min(kMostNamed, duplicates.size()); ++i) {
     const TextPosition first = TextPosition::of(duplicates[i].firstOffset, input.text);
     err << "orvanta: " << place(input.name, duplicates[i].offset, input.text)
-        << ": warning: the key \"" << printable(duplicates[i].key)
+        << ": warning: the key \"" << escapeForTerminal(duplicates[i].key)
         << "\" stands here again (first at " << first.line << ':' << first.column
         << "); its last value counts\n";
   }
@@ -72,7 +72,7 @@ void checkReadable(const std::string& file) {
 std::string duplicateKeyWarning(const std::string& text) {
   const std::vector<DuplicateKey> duplicates = findDuplicateKeys(text);
   if (duplicates.empty()) return {};
-  return "the key \"" + printable(duplicates.front().key) +
+  return "the key \"" + escapeForTerminal(duplicates.front().key) +
          "\" stands twice; its last value counts";
 }
 
@@ -81,8 +81,8 @@ std::ifstream openForReading(const std::string& file) {
   std::ifstream in(file, std::ios::binary);
   if (in) in.peek();  // a folder opens, but cannot be read
   if (!in && !in.eof()) {
-    throw Failure(ExitCode::unreadable,
-                  printable(file) + ": " + (errno != 0 ? std::strerror(errno) : "cannot be read"));
+    throw Failure(ExitCode::unreadable, escapeForTerminal(file) + ": " +
+                                            (errno != 0 ? std::strerror(errno) : "cannot be read"));
   }
   in.clear();
   return in;
@@ -95,7 +95,8 @@ void tellOfTerminal(const std::istream& standardIn) {
 }
 
 Input readInput(const std::string& file, const Streams& streams) {
-  Input input{.name = file == "-" ? "standard input" : printable(file), .text = {}, .object = {}};
+  Input input{
+      .name = file == "-" ? "standard input" : escapeForTerminal(file), .text = {}, .object = {}};
   input.text = readText(file, input.name, streams.in);
   JSONError error;
   const Value value = parseJSON(input.text, &error);

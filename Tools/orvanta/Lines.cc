@@ -62,7 +62,8 @@ bool Lines::readLine(std::istream& in) {
 
 std::string Lines::place() const {
   const std::string& file = files_[opened_ - 1];
-  return (file == "-" ? "standard input" : printable(file)) + ":" + std::to_string(lineInFile_);
+  return (file == "-" ? "standard input" : escapeForTerminal(file)) + ":" +
+         std::to_string(lineInFile_);
 }
 
 }  // namespace orvanta::tool

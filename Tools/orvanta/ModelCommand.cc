@@ -17,19 +17,20 @@ const Class& classForArgument(const std::string& name) {
       modelClasses().begin(), modelClasses().end(), [&](const Class* a, const Class* b) {
         return editDistance(a->name, name) < editDistance(b->name, name);
       });
-  throw Failure(ExitCode::usage, "there is no class \"" + printable(name) + "\"; the nearest is " +
-                                     std::string((*nearest)->name));
+  throw Failure(ExitCode::usage, "there is no class \"" + escapeForTerminal(name) +
+                                     "\"; the nearest is " + std::string((*nearest)->name));
 }
 
 std::string refusalText(const RefusalRecorder& recorder, const Class& cls) {
-  return recorder.refusal() ? printable(recorder.refusal()->description())
+  return recorder.refusal() ? escapeForTerminal(recorder.refusal()->description())
                             : std::string(cls.name) + " refused without a reason";
 }
 
 void checkWritable(const Dictionary& dictionary, const Class& cls) {
   for (const Dictionary::Entry& entry : dictionary) {
     if (!isValidJSONObject(Array{entry.value})) {
-      throw Failure(ExitCode::notMade, std::string(cls.name) + " \"" + printable(entry.key()) +
+      throw Failure(ExitCode::notMade, std::string(cls.name) + " \"" +
+                                           escapeForTerminal(entry.key()) +
                                            "\": " + std::string(entry.value.kindName()) +
                                            " without a JSON text, such as an infinite number");
     }

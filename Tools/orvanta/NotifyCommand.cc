@@ -1,24 +1,21 @@
-#include <fcntl.h>
-#include <sys/file.h>
 #include <unistd.h>
 
-#include <cctype>
 #include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <system_error>
 
-#include "orvanta/Foundation/Url.h"
-#include "orvanta/Linux/ClockAndLog.h"
-#include "orvanta/Linux/KeyReaders.h"
-#include "orvanta/Linux/NotificationHost.h"
+#include "orvanta/Linux/LinuxHost.h"
+#include "orvanta/Linux/StateFolder.h"
 #include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
+#include "orvanta/Simulator/ConfigReader.h"
+#include "orvanta/Simulator/NotificationSimulator.h"
+#include "orvanta/Simulator/RecordingLog.h"
+#include "orvanta/Simulator/Report/JSONReport.h"
+#include "orvanta/Simulator/Report/TextReport.h"
 #include "orvanta/Tool/Commands.h"
 #include "orvanta/Tool/Input.h"
-#include "orvanta/Tool/Ledger.h"
-#include "orvanta/Tool/Sheet.h"
 #include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
@@ -27,68 +24,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A state folder: the one named, which stays, or a fresh one, which goes with this object.
-class StateFolder {
- public:
-  explicit StateFolder(const std::string& named) : isTemporary_(named.empty()) {
-    if (isTemporary_) {
-      std::string name = (fs::temp_directory_path() / "orvanta-XXXXXX").string();
-      if (mkdtemp(name.data()) == nullptr) {
-        throw Failure(ExitCode::unreadable, name + ": no temporary folder can be made");
-      }
-      path_ = name;
-    } else {
-      std::error_code error;
-      fs::create_directories(named, error);
-      if (error) throw Failure(ExitCode::unreadable, printable(named) + ": " + error.message());
-      path_ = fs::canonical(named);
-      // One run at a time: another one on this folder waits here.
-      lock_ = open((path_ / ".lock").c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600);
-      if (lock_ < 0 || flock(lock_, LOCK_EX) != 0) {
-        throw Failure(ExitCode::unreadable, printable(named) + ": the folder cannot be locked");
-      }
-    }
-  }
-  StateFolder(const StateFolder&) = delete;
-  StateFolder& operator=(const StateFolder&) = delete;
-  ~StateFolder() {
-    std::error_code ignored;
-    if (isTemporary_) fs::remove_all(path_, ignored);
-    if (lock_ >= 0) close(lock_);
-  }
-
-  const fs::path& path() const { return path_; }
-  /// A text in which the folder's paths and URLs read as "state/…".
-  std::string neutral(std::string_view text) const {
-    std::string result(text);
-    const std::string url(Url::fileURLWithPath(path_.string() + "/").absoluteString());
-    for (const std::string& from : {url, path_.string() + "/"}) {
-      for (auto at = result.find(from); at != std::string::npos; at = result.find(from, at + 1)) {
-        // Not inside a longer path.
-        const char before = at == 0 ? ' ' : result[at - 1];
-        const bool isInside = std::isalnum(static_cast<unsigned char>(before)) != 0 ||
-                              std::string_view("/._-%").find(before) != std::string_view::npos;
-        if (!isInside) result.replace(at, from.size(), "state/");
-      }
-    }
-    return result;
-  }
-
- private:
-  bool isTemporary_;
-  int lock_ = -1;
-  fs::path path_;
-};
-
 UrlMapping mappingFrom(const std::string& argument) {
   const auto equals = argument.find('=');
   if (equals == std::string::npos || equals == 0 || equals + 1 == argument.size()) {
     throw Failure(ExitCode::usage,
-                  "--map-url \"" + printable(argument) + "\": PREFIX=TARGET is needed");
+                  "--map-url \"" + escapeForTerminal(argument) + "\": PREFIX=TARGET is needed");
   }
   UrlMapping mapping{argument.substr(0, equals), argument.substr(equals + 1)};
   if (mapping.isFolder() && !fs::is_directory(mapping.target)) {
-    throw Failure(ExitCode::unreadable, printable(mapping.target) + ": no such folder (--map-url)");
+    throw Failure(ExitCode::unreadable,
+                  escapeForTerminal(mapping.target) + ": no such folder (--map-url)");
   }
   return mapping;
 }
@@ -106,7 +51,7 @@ std::uint64_t bytesFrom(const std::string& argument) {
   }
   const bool isWhole = result.ec == std::errc() && (result.ptr == end || factor != 1);
   if (!isWhole || bytes == 0 || bytes > 1'000'000'000'000U / factor) {
-    throw Failure(ExitCode::usage, "--max-download \"" + printable(argument) +
+    throw Failure(ExitCode::usage, "--max-download \"" + escapeForTerminal(argument) +
                                        "\": a number of bytes is needed, such as 5M");
   }
   return bytes * factor;
@@ -117,8 +62,8 @@ Scenario scenarioFrom(const std::string& file, const Streams& streams) {
   const Input input = readInput(file, streams);
   try {
     return Scenario::fromDictionary(input.object);
-  } catch (const InputError& error) {
-    throw Failure(ExitCode::unreadable, input.name + ": " + printable(error.what()));
+  } catch (const ConfigError& error) {
+    throw Failure(ExitCode::unreadable, input.name + ": " + escapeForTerminal(error.what()));
   }
 }
 
@@ -143,59 +88,54 @@ static ExitCode runNotify(const NotifyOptions& options, const Streams& streams) 
   if (options.payload == "-" && options.scenario == "-") {
     throw Failure(ExitCode::usage, "standard input can be read only once");
   }
-  HostOptions host;
-  host.scenario = scenarioFrom(options.scenario, streams);
+  SimulationOptions simulation{.scenario = scenarioFrom(options.scenario, streams),
+                               .timeBudget = options.timeBudget};
   if (!options.osVersion.empty()) {
     const auto version = parseVersion(options.osVersion);
     if (!version) {
-      throw Failure(ExitCode::usage, "--os-version \"" + printable(options.osVersion) +
+      throw Failure(ExitCode::usage, "--os-version \"" + escapeForTerminal(options.osVersion) +
                                          "\": a version such as 17.0 is needed");
     }
-    host.scenario.os = *version;
+    simulation.scenario.os = *version;
   }
   if (!options.resources.empty() && !fs::is_directory(options.resources)) {
     throw Failure(ExitCode::unreadable,
-                  printable(options.resources) + ": no such folder (--resources)");
+                  escapeForTerminal(options.resources) + ": no such folder (--resources)");
   }
-  host.resources = options.resources;
+  LinuxHostOptions machine{.resources = options.resources, .realTime = options.realTime};
   for (const std::string& mapping : options.mapUrls) {
-    host.urlMappings.push_back(mappingFrom(mapping));
+    machine.urlMappings.push_back(mappingFrom(mapping));
   }
-  host.timeBudget = options.timeBudget;
-  host.realTime = options.realTime;
-  host.limits.bytes = bytesFrom(options.maxDownload);
+  machine.limits.bytes = bytesFrom(options.maxDownload);
 
   const Input input = readInput(options.payload, streams);
   const StateFolder state(options.state);
-  const auto neutral = [&](std::string_view text) { return state.neutral(text); };
-  host.stateFolder = state.path();
+  const PathRewriter rewritePaths = [&](std::string_view string) {
+    return state.rewritePaths(string);
+  };
+  machine.stateFolder = state.path();
   RecordingLog log(streams.err);
-  log.setFilter(neutral);
-  host.log = &log;
+  log.setFilter(rewritePaths);
+  machine.log = &log;
   bool isDrawn = false;
   if (&streams.err == &std::cerr && isatty(STDERR_FILENO) != 0) {
-    host.progress = [&](std::uint64_t received, std::uint64_t expected) {
+    machine.progress = [&](std::uint64_t received, std::uint64_t expected) {
       isDrawn = true;
       drawProgress(received, expected);
     };
   }
 
-  const OperatingSystemVersion os = host.scenario.os.value_or(host.os);
-  NotificationHost runner([] { return std::make_shared<OrvantaNotificationServiceExtension>(); },
-                          std::move(host));
-  HostReport report;
-  try {
-    report = runner.run(input.object);
-  } catch (const fs::filesystem_error&) {
-    throw;
-  } catch (const std::runtime_error& error) {
-    throw Failure(ExitCode::unreadable, printable(error.what()));
-  }
+  LinuxHost host(std::move(machine));
+  const NotificationSimulator simulator(
+      [] { return std::make_shared<OrvantaNotificationServiceExtension>(); }, host.services(),
+      std::move(simulation));
+  const SimulationReport report = simulator.run(input.object);
   if (isDrawn) streams.err << "\r\033[K";
   if (options.json) {
-    printJSON(ledger(report, log.entries(), neutral), streams.out, /*pretty=*/true);
+    printJSON(reportAsJSON(report, log.entries(), rewritePaths), streams.out, /*pretty=*/true);
   } else {
-    printSheet(input, report, os, neutral, streams.out);
+    writeTextReport({input.name, input.text.size(), input.object}, report, rewritePaths,
+                    streams.out);
   }
   return ExitCode::done;
 }
@@ -204,9 +144,14 @@ ExitCode notify(const NotifyOptions& options, const Streams& streams) {
   try {
     return runNotify(options, streams);
   } catch (const fs::filesystem_error& error) {
-    throw Failure(ExitCode::unreadable,
-                  (error.path1().empty() ? "temporary folder" : printable(error.path1().string())) +
-                      ": " + error.code().message());
+    throw Failure(
+        ExitCode::unreadable,
+        (error.path1().empty() ? "temporary folder" : escapeForTerminal(error.path1().string())) +
+            ": " + error.code().message());
+  } catch (const Failure&) {
+    throw;
+  } catch (const std::runtime_error& error) {
+    throw Failure(ExitCode::unreadable, escapeForTerminal(error.what()));
   }
 }
 

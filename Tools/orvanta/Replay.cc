@@ -4,9 +4,10 @@
 
 #include "orvanta/Foundation/Exception.h"
 #include "orvanta/Foundation/JSON.h"
-#include "orvanta/Linux/RemoteNotification.h"
 #include "orvanta/Model/Mapping/RefusalRecorder.h"
 #include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
+#include "orvanta/NotificationService/RequestedEnrichments.h"
+#include "orvanta/Simulator/RemoteNotification.h"
 #include "orvanta/Tool/Lines.h"
 #include "orvanta/Tool/Text.h"
 
@@ -60,7 +61,7 @@ void Replay::refuse(const ReplayLine& line, const std::string& reason) {
   ++counts_.badLines;
   // A job sees its lines in their order, so its first ten hold all that can be among the first.
   if (counts_.firstBadLines.size() < kMostBadLines) {
-    counts_.firstBadLines.emplace(line.number, line.place + ": " + printable(reason));
+    counts_.firstBadLines.emplace(line.number, line.place + ": " + escapeForTerminal(reason));
   }
 }
 
@@ -94,9 +95,10 @@ void Replay::run(const ReplayLine& line) {
     ++counts_.undefinedKey;
   }
   if (push) {
-    const bool hasButtons = bool(interactiveCategory(*push));
-    const bool hasMedia = push->mediaAttachmentURL().get() != nullptr;
-    const bool hasIcon = pushIcon(*push).has_value();
+    const RequestedEnrichments asked = requestedEnrichments(*push);
+    const bool hasButtons = asked.category.has_value();
+    const bool hasMedia = asked.media != nullptr;
+    const bool hasIcon = asked.senderIcon.has_value();
     counts_.buttons += hasButtons ? 1 : 0;
     counts_.media += hasMedia ? 1 : 0;
     counts_.icon += hasIcon ? 1 : 0;

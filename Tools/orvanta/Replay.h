@@ -6,7 +6,7 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "orvanta/Linux/ReplayPlatform.h"
+#include "orvanta/Simulator/InstantPlatform.h"
 
 namespace orvanta::tool {
 
@@ -49,7 +49,7 @@ class Replay {
  private:
   void refuse(const ReplayLine& line, const std::string& reason);
 
-  ReplayPlatform platform_;
+  InstantPlatform platform_;
   ReplayCounts counts_;
 };
 

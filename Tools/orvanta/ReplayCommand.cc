@@ -193,7 +193,7 @@ void printText(const ReplayCounts& counts, std::ostream& out) {
   row("  media asked for", counts.media);
   row("  sender icon asked for", counts.icon);
   row("  without a push object", counts.refused);
-  for (const auto& [key, count] : counts.refusedBy) row("    " + printable(key), count);
+  for (const auto& [key, count] : counts.refusedBy) row("    " + escapeForTerminal(key), count);
   row(R"(  "aps" or "_ov" is no dictionary)", counts.undefinedKey);
   row("bytes: half of the payloads up to", counts.sizeAt(0.50));
   row("  90 % up to", counts.sizeAt(0.90));

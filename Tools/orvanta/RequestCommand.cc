@@ -32,7 +32,8 @@ ExitCode request(const RequestOptions& options, const Streams& streams) {
   const auto spec = request->requestSpec();
   if (options.text) {
     std::istringstream lines(spec->description().substr(1));
-    for (std::string line; std::getline(lines, line);) streams.out << printable(line) << '\n';
+    for (std::string line; std::getline(lines, line);)
+      streams.out << escapeForTerminal(line) << '\n';
     return ExitCode::done;
   }
   checkWritable(spec->HTTPBody, cls);

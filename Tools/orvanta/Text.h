@@ -6,12 +6,9 @@
 #include <string_view>
 
 #include "orvanta/Foundation/Value.h"
+#include "orvanta/Simulator/Report/TerminalText.h"
 
 namespace orvanta::tool {
-
-/// A text for a terminal: control characters are written as \u00xx; with an indent a line break
-/// stays one, followed by that many spaces.
-std::string printable(std::string_view text, std::size_t indent = 0);
 
 /// How many characters must be inserted, left out or replaced to turn one text into the other.
 std::size_t editDistance(std::string_view a, std::string_view b);

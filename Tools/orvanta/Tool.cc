@@ -5,10 +5,11 @@
 #include <memory>
 #include <ostream>
 
-#include "orvanta/Linux/ClockAndLog.h"
-#include "orvanta/Linux/SystemRandom.h"
 #include "orvanta/Model/Mapping/OrvantaLogger.h"
 #include "orvanta/Platform/Platform.h"
+#include "orvanta/Simulator/RecordingLog.h"
+#include "orvanta/Simulator/SystemClock.h"
+#include "orvanta/Simulator/SystemRandom.h"
 #include "orvanta/Tool/Commands.h"
 
 namespace orvanta::tool {
@@ -58,7 +59,7 @@ CLI::App* addNotify(CLI::App& app, NotifyOptions& options) {
       "whether the system starts the extension at all, each step, each delivery, and the "
       "notification as the user sees it.");
   command->add_option("PAYLOAD", options.payload, "JSON file")->capture_default_str();
-  command->add_flag("--json", options.json, "Print a ledger for programs instead");
+  command->add_flag("--json", options.json, "Print a report for programs instead");
   command->add_option("--os-version", options.osVersion, "iOS version to simulate (17.0)")
       ->option_text("V");
   command

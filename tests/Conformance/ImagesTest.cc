@@ -20,12 +20,12 @@ std::string lightFile() {
   return pngFile("\x78\x01\x01\x02\0\xFD\xFF\0\xFF\1\1\1\0\x60\x87\x12\xB5"sv);
 }
 
-struct HostPictures : HostSubject {
+struct LinuxImages : LinuxSubject {
   void addDark(const std::string& name) { folder.write(name, darkFile()); }
   void addLight(const std::string& name) { folder.write(name, lightFile()); }
   HostImages service{folder.path()};
 };
-struct DoublePictures : DoubleSubject {
+struct DoubleImages : DoubleSubject {
   void addDark(const std::string& name) { platform.pictures.insert(name); }
   void addLight(const std::string& name) { platform.pictures.insert(name); }
   Images& service = *platform.images();
@@ -40,8 +40,8 @@ class ImagesConformance : public ::testing::Test {
   }
   Subject subject;
 };
-using Pictures = ::testing::Types<HostPictures, DoublePictures>;
-TYPED_TEST_SUITE(ImagesConformance, Pictures, SubjectNames);
+using AllImages = ::testing::Types<LinuxImages, DoubleImages>;
+TYPED_TEST_SUITE(ImagesConformance, AllImages, SubjectNames);
 
 TYPED_TEST(ImagesConformance, ANameWithoutExtensionMeansPNG) {
   this->subject.addDark("moon.png");

@@ -1,13 +1,13 @@
 #include "Conformance/Subjects.h"
-#include "orvanta/Linux/HostServices.h"
+#include "orvanta/Simulator/SimulatedIntents.h"
 
 namespace orvanta::testing {
 namespace {
 
-struct HostIntentsSubject : HostSubject {
-  explicit HostIntentsSubject(bool fails)
-      : service(loop, timeline, folder.path(), {.donationFails = fails, .updateFails = fails}) {}
-  HostIntents service;
+struct MemoryIntentsSubject : MemorySubject {
+  explicit MemoryIntentsSubject(bool fails)
+      : service(loop, log, state, {.donationFails = fails, .updateFails = fails}) {}
+  SimulatedIntents service;
 };
 struct DoubleIntentsSubject : DoubleSubject {
   explicit DoubleIntentsSubject(bool fails) : service(*platform.intents()) {
@@ -20,7 +20,7 @@ struct DoubleIntentsSubject : DoubleSubject {
 
 template <class Subject>
 class IntentsConformance : public ::testing::Test {};
-using IntentsSubjects = ::testing::Types<HostIntentsSubject, DoubleIntentsSubject>;
+using IntentsSubjects = ::testing::Types<MemoryIntentsSubject, DoubleIntentsSubject>;
 TYPED_TEST_SUITE(IntentsConformance, IntentsSubjects, SubjectNames);
 
 TYPED_TEST(IntentsConformance, ADonationIsAnsweredOnceAndAfterTheCall) {

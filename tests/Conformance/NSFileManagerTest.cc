@@ -1,12 +1,11 @@
 #include <unistd.h>
 
 #include "Conformance/Subjects.h"
-#include "orvanta/Linux/Files.h"
 
 namespace orvanta::testing {
 namespace {
 
-struct HostFiles : HostSubject {
+struct LinuxFiles : LinuxSubject {
   void add(const std::string& name, const std::string& content) { folder.write(name, content); }
   Url url(const std::string& name) const { return folder.url(name); }
   std::string content(const std::string& name) const { return folder.read(name); }
@@ -19,7 +18,19 @@ struct HostFiles : HostSubject {
     work();
     return !isRoot || ::seteuid(0) == 0;
   }
-  HostFileManager service{folder / "Caches"};
+  NSFileManager& service = files;
+};
+struct MemoryFiles : MemorySubject {
+  void add(const std::string& name, const std::string& content) {
+    Url download = *files.makeDownload(name, content.size());
+    files.moveItemAtURL(download, url(name));
+  }
+  Url url(const std::string& name) const { return files.url(name); }
+  std::string content(const std::string& name) {
+    return std::string(files.size(url(name)).value_or(0), 'x');
+  }
+  bool withoutPermission(const std::function<void()>& /*work*/) { return false; }
+  NSFileManager& service = files;
 };
 struct DoubleFiles : DoubleSubject {
   void add(const std::string& name, const std::string& content) {
@@ -54,7 +65,7 @@ class NSFileManagerConformance : public ::testing::Test {
   }
   Subject subject;
 };
-using FileManagers = ::testing::Types<HostFiles, DoubleFiles>;
+using FileManagers = ::testing::Types<LinuxFiles, MemoryFiles, DoubleFiles>;
 TYPED_TEST_SUITE(NSFileManagerConformance, FileManagers, SubjectNames);
 
 TYPED_TEST(NSFileManagerConformance, TheCachesFoldersAreFileURLsThatEndInASlash) {

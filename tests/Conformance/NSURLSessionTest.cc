@@ -1,5 +1,6 @@
 #include "Conformance/Subjects.h"
-#include "orvanta/Linux/HostURLSession.h"
+#include "orvanta/Linux/MappingDownloader.h"
+#include "orvanta/Simulator/SimulatedURLSession.h"
 
 namespace orvanta::testing {
 namespace {
@@ -11,11 +12,8 @@ struct Answer {
   bool fileIsThere = false;
 };
 
-struct HostSession : HostSubject {
-  HostSession() {
-    folder.write("photo.jpg", "pixels");
-    std::filesystem::create_directories(folder / "tmp");
-  }
+struct LinuxSession : LinuxSubject {
+  LinuxSession() { folder.write("photo.jpg", "pixels"); }
   bool exists(const Url& url) const { return std::filesystem::exists(url.path()); }
   void take(const Url& url) { std::filesystem::rename(url.path(), folder / "taken"); }
   bool wasTaken() const { return folder.read("taken") == "pixels"; }
@@ -25,14 +23,29 @@ struct HostSession : HostSubject {
   Url refused = *Url::parse("file:///outside");
   void willMiss() {}
   void willRefuse() {}
-  HostURLSession service{loop,
-                         timeline,
-                         {.mappings = {{"https://m.example/", folder.path().string()}},
-                          .answer = {},
-                          .limits = {},
-                          .progress = {},
-                          .temporaryFolder = folder / "tmp",
-                          .cachesFolder = folder.path()}};
+  MappingDownloader downloader{files, {{"https://m.example/", folder.path().string()}}, {}, {}};
+  SimulatedURLSession simulated{loop, log, files, &downloader, std::nullopt};
+  NSURLSession& session() { return simulated; }
+};
+/// Downloads what a scenario says.
+struct MemorySession : MemorySubject {
+  bool exists(const Url& url) { return files.size(url).has_value(); }
+  void take(const Url& url) { files.moveItemAtURL(url, files.url("taken")); }
+  bool wasTaken() { return exists(files.url("taken")); }
+
+  Url photo = *Url::parse("https://m.example/photo.jpg");
+  Url missing = photo;
+  Url refused = photo;
+  Scenario::Media media;
+  void willMiss() { media.status = 404; }
+  void willRefuse() { media.fails = true; }
+  SimulatedURLSession& session() {
+    if (!service_) service_.emplace(loop, log, files, nullptr, media);
+    return *service_;
+  }
+
+ private:
+  std::optional<SimulatedURLSession> service_;
 };
 struct DoubleSession : DoubleSubject {
   bool exists(const Url& url) const { return platform.files.contains(url.path()); }
@@ -46,14 +59,14 @@ struct DoubleSession : DoubleSubject {
   Url refused = photo;
   void willMiss() { platform.download.response.statusCode = 404; }
   void willRefuse() { platform.download.error = NSError::errorWithDomain(kNSURLErrorDomain, -1); }
-  NSURLSession& service = *platform.sharedSession();
+  NSURLSession& session() { return *platform.sharedSession(); }
 };
 
 template <class Subject>
 class NSURLSessionConformance : public ::testing::Test {
  protected:
   void ask(const std::optional<Url>& url) {
-    subject.service.downloadTaskWithURL(
+    subject.session().downloadTaskWithURL(
         url, [this](const std::optional<Url>& location, const Ref<NSURLResponse>& response,
                     const Ref<NSError>& error) {
           answers.push_back({location, response, error, location && subject.exists(*location)});
@@ -64,7 +77,7 @@ class NSURLSessionConformance : public ::testing::Test {
   std::vector<Answer> answers;
   bool takesFile = false;
 };
-using Sessions = ::testing::Types<HostSession, DoubleSession>;
+using Sessions = ::testing::Types<LinuxSession, MemorySession, DoubleSession>;
 TYPED_TEST_SUITE(NSURLSessionConformance, Sessions, SubjectNames);
 
 TYPED_TEST(NSURLSessionConformance, CallsBackOncePerTaskAndAfterTheCall) {

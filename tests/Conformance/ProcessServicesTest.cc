@@ -1,9 +1,10 @@
 #include <sstream>
 
 #include "Conformance/Subjects.h"
-#include "orvanta/Linux/ClockAndLog.h"
-#include "orvanta/Linux/HostBundle.h"
-#include "orvanta/Linux/MediaTypes.h"
+#include "orvanta/Simulator/RecordingLog.h"
+#include "orvanta/Simulator/StringsFile.h"
+#include "orvanta/Simulator/SystemClock.h"
+#include "orvanta/Simulator/UniformTypes.h"
 #include "support/ModelZoo.h"
 
 // The services that answer at once, and from any thread.
@@ -13,7 +14,7 @@ namespace {
 
 // ---- Clock -------------------------------------------------------------------
 
-struct HostClock : HostSubject {
+struct MachineClock : MemorySubject {
   SystemClock service;
 };
 struct DoubleClock : DoubleSubject {
@@ -22,7 +23,7 @@ struct DoubleClock : DoubleSubject {
 
 template <class Subject>
 class ClockConformance : public ::testing::Test {};
-using Clocks = ::testing::Types<HostClock, DoubleClock>;
+using Clocks = ::testing::Types<MachineClock, DoubleClock>;
 TYPED_TEST_SUITE(ClockConformance, Clocks, SubjectNames);
 
 TYPED_TEST(ClockConformance, NeverGoesBackOnAnyThread) {
@@ -41,7 +42,7 @@ TYPED_TEST(ClockConformance, NeverGoesBackOnAnyThread) {
 
 // ---- System log ----------------------------------------------------------------
 
-struct HostLog : HostSubject {
+struct StreamLog : MemorySubject {
   std::vector<std::string> entries() const { return service.entries(); }
   std::ostringstream out;
   RecordingLog service{out};
@@ -53,7 +54,7 @@ struct DoubleLog : DoubleSubject {
 
 template <class Subject>
 class SystemLogConformance : public ::testing::Test {};
-using Logs = ::testing::Types<HostLog, DoubleLog>;
+using Logs = ::testing::Types<StreamLog, DoubleLog>;
 TYPED_TEST_SUITE(SystemLogConformance, Logs, SubjectNames);
 
 TYPED_TEST(SystemLogConformance, TakesWholeEntriesFromAnyThread) {
@@ -67,15 +68,10 @@ TYPED_TEST(SystemLogConformance, TakesWholeEntriesFromAnyThread) {
 
 // ---- Bundle ----------------------------------------------------------------------
 
-struct HostTexts : HostSubject {
-  HostTexts() {
-    folder.write("Localizable.strings", R"("►►" = "Weiter"; "empty" = ""; "two words" = "x\ny";)");
-  }
-  HostBundle& service() {
-    if (!bundle) bundle.emplace(folder.path());
-    return *bundle;
-  }
-  std::optional<HostBundle> bundle;
+struct FileStrings : MemorySubject {
+  NSBundle& service() { return bundle; }
+  SimulatedBundle bundle{
+      parseStrings(R"("►►" = "Weiter"; empty = ""; "two words" = "x\ny";)", "Localizable.strings")};
 };
 struct DoubleTexts : DoubleSubject {
   DoubleTexts() { platform.texts = {{"►►", "Weiter"}, {"empty", ""}, {"two words", "x\ny"}}; }
@@ -84,7 +80,7 @@ struct DoubleTexts : DoubleSubject {
 
 template <class Subject>
 class NSBundleConformance : public ::testing::Test {};
-using Bundles = ::testing::Types<HostTexts, DoubleTexts>;
+using Bundles = ::testing::Types<FileStrings, DoubleTexts>;
 TYPED_TEST_SUITE(NSBundleConformance, Bundles, SubjectNames);
 
 TYPED_TEST(NSBundleConformance, AnswersWithTheTextOrTheKeyOnAnyThread) {
@@ -102,8 +98,8 @@ TYPED_TEST(NSBundleConformance, AnswersWithTheTextOrTheKeyOnAnyThread) {
 
 // ---- Type identifiers ----------------------------------------------------------
 
-struct HostTypes : HostSubject {
-  HostTypeIdentifiers service;
+struct SimulatedTypes : MemorySubject {
+  UniformTypes service;
 };
 struct DoubleTypes : DoubleSubject {
   TypeIdentifiers& service = *platform.typeIdentifiers();
@@ -111,7 +107,7 @@ struct DoubleTypes : DoubleSubject {
 
 template <class Subject>
 class TypeIdentifiersConformance : public ::testing::Test {};
-using Types = ::testing::Types<HostTypes, DoubleTypes>;
+using Types = ::testing::Types<SimulatedTypes, DoubleTypes>;
 TYPED_TEST_SUITE(TypeIdentifiersConformance, Types, SubjectNames);
 
 TYPED_TEST(TypeIdentifiersConformance, OtherTypesHaveDynamicOnesOfTheirOwn) {

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "orvanta/Linux/EventLoop.h"
+#include "orvanta/Linux/FolderDeviceFiles.h"
+#include "orvanta/Linux/FolderStateStore.h"
+#include "orvanta/Simulator/Event.h"
+#include "orvanta/Simulator/EventLoop.h"
 #include "support/FakePlatform.h"
 #include "support/TemporaryFolder.h"
 #include "support/Values.h"
@@ -12,17 +15,30 @@
 
 namespace orvanta::testing {
 
-/// What the subjects on the host share.
-struct HostSubject {
-  static constexpr const char* kName = "Host";
+/// What the subjects on the simulated device of this machine share.
+struct LinuxSubject {
+  static constexpr const char* kName = "Linux";
   void runAll() { loop.run(); }
 
   TemporaryFolder folder;
+  FolderDeviceFiles files{folder.path()};
+  FolderStateStore state{folder.path()};
   EventLoop loop;
-  Timeline timeline{loop};
+  EventLog log{loop};
 };
 
-/// And those on the double.
+/// The same on the simulated device that keeps everything in memory.
+struct MemorySubject {
+  static constexpr const char* kName = "Memory";
+  void runAll() { loop.run(); }
+
+  InMemoryDeviceFiles files;
+  InMemoryStateStore state;
+  EventLoop loop;
+  EventLog log{loop};
+};
+
+/// The same on the double.
 struct DoubleSubject {
   static constexpr const char* kName = "Double";
   void runAll() { platform.runAll(); }

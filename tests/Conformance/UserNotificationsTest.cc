@@ -1,14 +1,14 @@
 #include "Conformance/Subjects.h"
-#include "orvanta/Linux/HostServices.h"
-#include "orvanta/Linux/MediaTypes.h"
+#include "orvanta/Simulator/SimulatedAttachments.h"
+#include "orvanta/Simulator/SimulatedNotificationCenter.h"
 
 namespace orvanta::testing {
 namespace {
 
 // ---- The center -------------------------------------------------------------
 
-struct HostCenter : HostSubject {
-  HostNotificationCenter service{loop, timeline, folder.path(), 0.0};
+struct LinuxCenter : LinuxSubject {
+  SimulatedNotificationCenter service{loop, log, state, 0.0};
 };
 struct DoubleCenter : DoubleSubject {
   UNUserNotificationCenter& service = *platform.center;
@@ -16,7 +16,7 @@ struct DoubleCenter : DoubleSubject {
 
 template <class Subject>
 class UNUserNotificationCenterConformance : public ::testing::Test {};
-using Centers = ::testing::Types<HostCenter, DoubleCenter>;
+using Centers = ::testing::Types<LinuxCenter, DoubleCenter>;
 TYPED_TEST_SUITE(UNUserNotificationCenterConformance, Centers, SubjectNames);
 
 UNNotificationCategorySet setOf(const std::vector<UNNotificationCategory>& categories) {
@@ -66,13 +66,19 @@ TYPED_TEST(UNUserNotificationCenterConformance, AnswersReadsInTheirOrder) {
 
 // ---- Attachments ------------------------------------------------------------
 
-struct HostAttachments : HostSubject {
+struct LinuxAttachments : LinuxSubject {
   Url addFile(const std::string& name, std::uint64_t bytes) {
     Url url = folder.write(name, "");
     std::filesystem::resize_file(folder / name, bytes);
     return url;
   }
-  HostAttachmentFactory service;
+  SimulatedAttachments service{files};
+};
+struct MemoryAttachments : MemorySubject {
+  Url addFile(const std::string& name, std::uint64_t bytes) {
+    return *files.makeDownload(name, bytes);
+  }
+  SimulatedAttachments service{files};
 };
 struct DoubleAttachments : DoubleSubject {
   Url addFile(const std::string& name, std::uint64_t bytes) {
@@ -84,7 +90,7 @@ struct DoubleAttachments : DoubleSubject {
 
 template <class Subject>
 class UNNotificationAttachmentFactoryConformance : public ::testing::Test {};
-using Factories = ::testing::Types<HostAttachments, DoubleAttachments>;
+using Factories = ::testing::Types<LinuxAttachments, MemoryAttachments, DoubleAttachments>;
 TYPED_TEST_SUITE(UNNotificationAttachmentFactoryConformance, Factories, SubjectNames);
 
 TYPED_TEST(UNNotificationAttachmentFactoryConformance, ChecksTypeAndSize) {

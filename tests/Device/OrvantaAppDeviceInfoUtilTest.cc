@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "orvanta/Linux/HostDevice.h"
+#include "orvanta/Simulator/SimulatedDevice.h"
 #include "orvanta/Model/Device/OrvantaAppDeviceInfoUtil.h"
 #include "support/ModelZoo.h"
 
@@ -12,7 +12,7 @@ using Util = OrvantaAppDeviceInfoUtil;
 /// A fact of the device of a profile, as JSON.
 template <class Fact>
 std::string fact(const std::string& profile, Fact (*read)()) {
-  HostDevice device(DeviceProfile::fromDictionary(dictionaryOf(profile)));
+  SimulatedDevice device(DeviceProfile::fromDictionary(dictionaryOf(profile)));
   const PlatformOverride override(device);
   if constexpr (std::is_same_v<Fact, Held<String>>) {
     return read() ? written(Array{read().value()}) : "nil";
@@ -68,7 +68,7 @@ TEST(DeviceInfo, TellsTheConnectionByTheInterfacesAndTheRadio) {
 
 /// A platform whose SIMs differ by the way that is asked, and whose radio throws.
 struct Faulty final : Platform, CTTelephonyNetworkInfo {
-  HostDevice phone{DeviceProfile::phone()};  // with "pdp_ip0" before "en0"
+  SimulatedDevice phone{DeviceProfile::phone()};  // with "pdp_ip0" before "en0"
   RecordingPlatform recorder;
   PlatformOverride override{*this};
   OperatingSystemVersion version;

@@ -19,7 +19,7 @@
 #include "orvanta/Linux/DownloadFile.h"
 #include "orvanta/Linux/HeaderText.h"
 #include "orvanta/Linux/Transfer.h"
-#include "orvanta/Linux/URLErrors.h"
+#include "orvanta/Simulator/URLErrors.h"
 #include "support/LoopbackServer.h"
 #include "support/TemporaryFolder.h"
 #include "support/Values.h"

@@ -31,13 +31,13 @@ TEST(DeviceCommand, ReadsWhatAProfileOmitsFromTheMachine) {
 TEST(DeviceCommand, NamesTheKeyAndTheValueOfAProfileThatIsWrong) {
   const std::pair<std::string_view, std::string_view> rows[] = {
       {R"({"batery":1})", R"(unknown key "batery")"},
-      {R"({"battery":-0.5})", R"("battery" is -0.5, but a number from 0 to 1, or -1, is needed)"},
+      {R"({"battery":-0.5})", R"("battery": expected a number from 0 to 1, or -1, found -0.5)"},
       {R"({"systemVersion":"new"})",
-       R"("systemVersion" is "new", but a version such as "17.0" is needed)"},
+       R"("systemVersion": expected a version such as "17.0", found "new")"},
       {R"({"screen":{"width":1}})",
-       R"("screen" is {"width":1}, but width, height and scale are needed)"},
+       R"("screen": expected an object with width, height and scale, found {"width":1})"},
       {R"({"interfaces":[{"name":"en0","ipv4":1}]})",
-       R"("interfaces[0].ipv4" is 1, but true or false is needed)"},
+       R"("interfaces[0].ipv4": expected true or false, found 1)"},
   };
   for (const auto& [profile, told] : rows) {
     const ToolRun run = runTool({"device", "--device", "-"}, profile);

@@ -28,28 +28,33 @@ Array attachmentsShown(const ToolRun& run) {
 TEST(NotifyCommand, NamesTheKeyOfABadScenario) {
   const struct {
     const char* scenario;
-    const char* told;
+    const char* message;
   } rows[] = {
       {R"({"unknown":1})", R"(unknown key "unknown")"},
       {R"({"media":{"typo":1}})", R"(unknown key "media.typo")"},
-      {R"({"os":"fifteen"})", R"("os" is "fifteen")"},
-      {R"({"title":5})", R"("title" is 5)"},
+      {R"({"os":"fifteen"})", R"("os": expected a version such as "15.0", found "fifteen")"},
+      {R"({"title":5})", R"("title": expected a string, found 5)"},
       {R"({"images":["a",1]})", R"("images")"},
-      {R"({"attachments":-1})", R"("attachments" is -1)"},
-      {R"({"media":{"result":"maybe"}})", R"("media.result" is "maybe")"},
-      {R"({"media":{"tempName":"../x"}})", R"("media.tempName" is "../x")"},
-      {R"({"media":{"bytes":1.5}})", R"("media.bytes" is 1.5)"},
-      {R"({"center":"here"})", R"("center" is "here")"},
+      {R"({"attachments":-1})",
+       R"("attachments": expected a whole number from 0 to 100, found -1)"},
+      {R"({"media":{"result":"maybe"}})",
+       R"("media.result": expected "ok" or "error", found "maybe")"},
+      {R"({"media":{"tempName":"../x"}})",
+       R"("media.tempName": expected a plain file name, found "../x")"},
+      {R"({"media":{"bytes":1.5}})",
+       R"("media.bytes": expected a whole number from 0 to 1000000000, found 1.5)"},
+      {R"({"center":"here"})", R"("center": expected "gone", found "here")"},
       {R"({"delays":{"donation":"1"}})", R"("delays.donation")"},
-      {R"({"expireAt":true})", R"("expireAt" is true)"},
-      {R"({"second":{"payload":[]}})", R"("second.payload" is [])"},
+      {R"({"expireAt":true})",
+       R"("expireAt": expected a number of seconds from 0 to 1e9, found true)"},
+      {R"({"second":{"payload":[]}})", R"("second.payload": expected an object, found [])"},
   };
   const TemporaryFolder folder;
   for (const auto& row : rows) {
     const std::string file = folder.file("scenario.json", row.scenario);
     const ToolRun run = runTool({"notify", "--scenario", file}, kMedia);
     EXPECT_EQ(run.exit, ExitCode::unreadable) << row.scenario;
-    EXPECT_NE(run.err.find(row.told), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find(row.message), std::string::npos) << run.err;
     EXPECT_EQ(run.out, "") << row.scenario;
   }
 }
@@ -138,7 +143,7 @@ TEST(NotifyCommand, EscapesAHostilePayloadOnTheTerminal) {
   EXPECT_NE(run.out.find("a\\u001b[31mb"), std::string::npos);
 }
 
-TEST(NotifyCommand, EscapesDeleteAndC1InItsLedger) {
+TEST(NotifyCommand, EscapesDeleteAndC1InItsReport) {
   const ToolRun run =
       runTool({"notify", "--json"}, R"({"aps":{"alert":{"title":"a\u007fb\u009bc\u00a0d"}}})");
   EXPECT_NE(run.out.find("\"a\\u007fb\\u009bc\u00a0d\""), std::string::npos) << run.out;

@@ -29,16 +29,16 @@ std::string textOf(const fs::path& file) {
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
-/// Each example's ledger is what the program prints, to the letter; scripts/update-ledgers writes
+/// Each example has the report that the program prints, byte for byte; scripts/update-reports writes
 /// them anew.
 class ScenarioExamplesTest : public ::testing::TestWithParam<fs::path> {};
 
-TEST_P(ScenarioExamplesTest, PrintsItsLedger) {
+TEST_P(ScenarioExamplesTest, PrintsItsReport) {
   const fs::path& folder = GetParam();
   const ToolRun result = runTool({"notify", folder / "payload.json", "--scenario",
                                   folder / "scenario.json", "--log-level", "2", "--json"});
   EXPECT_EQ(result.exit, tool::ExitCode::done) << result.err;
-  EXPECT_EQ(result.out, textOf(folder / "ledger.json"));
+  EXPECT_EQ(result.out, textOf(folder / "report.json"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Examples, ScenarioExamplesTest, ::testing::ValuesIn(scenarioFolders()),
