@@ -5,17 +5,25 @@
 
 namespace orvanta {
 
-/// Where time comes from. Both readings are asked for from any thread.
+/// The wall clock and the monotonic clock.
+///
+/// Called by OrvantaIdentifierUtil (short identifiers) and OrvantaKeyValueStoreObject (creation
+/// dates), on their callers' threads.
+///
+/// Requirements for implementers:
+/// - Both readings are safe to call from any thread at the same time and cannot fail.
+/// - The monotonic clock never goes back, also as seen across threads. Its origin is arbitrary.
+/// - The wall clock may be set, forward or back, while the process runs.
 class Clock {
  public:
   virtual ~Clock() = default;
   /// Nanoseconds since 1970-01-01 00:00 UTC.
   virtual std::int64_t wallNanoseconds() = 0;
-  /// Nanoseconds since some fixed moment; never goes back.
+  /// Nanoseconds since an arbitrary fixed moment.
   virtual std::int64_t monotonicNanoseconds() = 0;
 
-  /// The wall time at the first call plus the monotonic time since then: nanoseconds since
-  /// 1970-01-01 00:00 UTC that no later change of the clock moves.
+  /// Returns the wall time at the first call plus the monotonic time since then, in nanoseconds
+  /// since 1970-01-01 00:00 UTC: setting the clock later does not move it.
   std::int64_t steadyWallNanoseconds() {
     std::call_once(started_, [this] {
       firstWall_ = wallNanoseconds();

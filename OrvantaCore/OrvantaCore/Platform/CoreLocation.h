@@ -4,9 +4,9 @@
 
 namespace orvanta {
 
-/// One fix of the device's position, as far as the library looks at it.
+/// A location fix: the part of the platform's class that OrvantaLocationUpdateEvent reads.
 struct CLLocation {
-  double horizontalAccuracy = 0.0;  // metres; negative when the coordinates are not valid
+  double horizontalAccuracy = 0.0;  // meters; negative if the coordinates are invalid
   Date timestamp;
 };
 

@@ -9,7 +9,7 @@
 
 namespace orvanta {
 
-/// The operator behind a SIM.
+/// The network operator of a SIM.
 class CTCarrier : public Object {
  public:
   static Ref<CTCarrier> carrierWithName(std::optional<std::string> name) {
@@ -18,7 +18,7 @@ class CTCarrier : public Object {
   static constexpr const ClassObject& classObject() { return kClass; }
   const ClassObject& isa() const override { return kClass; }
 
-  /// UTF-8; none when the system does not tell.
+  /// UTF-8; nullopt if the system does not report it.
   const std::optional<std::string>& carrierName() const { return carrierName_; }
 
  private:
@@ -27,17 +27,25 @@ class CTCarrier : public Object {
   std::optional<std::string> carrierName_;
 };
 
-/// The cellular network. Each call answers like one on an object that was just made, on the
-/// caller's thread; it may throw an orvanta::Exception.
+/// The carrier and the radio technology of the cellular network.
+///
+/// Called by OrvantaAppDeviceInfoUtil on its caller's thread: one of the two carrier methods,
+/// depending on the system's version, and the radio technology if "pdp_ip0" has an IPv4 address.
+///
+/// Requirements for implementers:
+/// - Read the current state on every call, as a new CTTelephonyNetworkInfo does.
+/// - Report a missing fact by the return value. An orvanta::Exception may be thrown: it reaches the
+///   caller of the carrier methods, and ends the search of `connectionType`.
 class CTTelephonyNetworkInfo {
  public:
   virtual ~CTTelephonyNetworkInfo() = default;
-  /// From iOS 12.0 on: the values of the dictionary, one per SIM, in its own order.
+  /// iOS 12.0 and later: the values of the platform's dictionary, one per SIM, in the dictionary's
+  /// order. The first one counts.
   virtual std::vector<Ref<CTCarrier>> serviceSubscriberCellularProviders() = 0;
-  /// Before iOS 12.0; nil without a SIM.
+  /// Before iOS 12.0. Returns nil without a SIM.
   virtual Ref<CTCarrier> subscriberCellularProvider() = 0;
-  /// The value of a CTRadioAccessTechnology constant, which equals its name, such as
-  /// "CTRadioAccessTechnologyLTE"; none without a cellular connection.
+  /// Returns the value of a CTRadioAccessTechnology constant, which equals the constant's name
+  /// ("CTRadioAccessTechnologyLTE"); nullopt without a cellular connection.
   virtual std::optional<std::string> currentRadioAccessTechnology() = 0;
 };
 

@@ -8,7 +8,8 @@
 #include "orvanta/Platform/NSError.h"
 #include "orvanta/Platform/UserNotifications.h"
 
-// The Intents types that the component touches, under the platform's names. They are plain data.
+// The Intents types that the extension uses, under the platform's names, as plain data. A field
+// that the extension does not set is left out.
 
 namespace orvanta {
 
@@ -21,7 +22,7 @@ struct INPersonHandle {
   int type = 0;  // 0: INPersonHandleTypeUnknown
 };
 
-/// A person without name components, display name, contact and custom identifier.
+/// The framework's name components, display name, contact and custom identifier stay nil.
 struct INPerson {
   INPersonHandle personHandle;
   std::optional<INImage> image;
@@ -31,34 +32,45 @@ struct INSpeakableString {
   std::string spokenPhrase;
 };
 
-/// An intent without content, conversation identifier and service name.
+/// The framework's content, conversation identifier and service name stay nil.
 struct INSendMessageIntent {
   std::optional<std::vector<INPerson>> recipients;
   int outgoingMessageType = 0;  // 0: INOutgoingMessageTypeUnknown
   std::optional<INSpeakableString> speakableGroupName;
   INPerson sender;
-  /// setImage:forParameterNamed: for the group's name, the only parameter that gets one.
+  /// Set with setImage:forParameterNamed: for `speakableGroupName`; no other parameter gets one.
   std::optional<INImage> speakableGroupNameImage;
 };
 
-/// An interaction without response and of the default direction.
+/// An interaction without a response, in the default direction.
 struct INInteraction {
   INSendMessageIntent intent;
 };
 
-/// The Intents framework, of iOS 15.0 and later. A platform may do without.
+/// Donates intents and builds communication notifications from them (iOS 15.0 and later).
+///
+/// Called by the extension's sender step after the sender's image was encoded and the system's
+/// version checked: `donateInteraction` first, and after a successful donation `contentByUpdating`,
+/// from the donation's completion.
+///
+/// Requirements for implementers:
+/// - Call the completion of a donation exactly once, on a serial queue, never before
+///   `donateInteraction` has returned. Pass nil for success.
+/// - Copy what you need of the arguments before returning; they belong to the caller.
+/// - Outlive every pending completion: it calls `contentByUpdating` on this object.
+/// - Neither method throws. Return nullptr from `Platform::intents` if the framework is missing.
 class Intents {
  public:
+  /// One of the two is set.
   struct Update {
     std::shared_ptr<const UNNotificationContent> content;
     Ref<NSError> error;
   };
 
   virtual ~Intents() = default;
-  /// donateInteractionWithCompletion: answers exactly once, on a queue of its own and never before
-  /// the call has returned.
+  /// donateInteractionWithCompletion:
   virtual void donateInteraction(const INInteraction& interaction, ErrorCompletion completion) = 0;
-  /// contentByUpdatingWithProvider:error: a new content, or an error and none.
+  /// contentByUpdatingWithProvider:error: returns a new content and leaves `content` unchanged.
   virtual Update contentByUpdating(const UNNotificationContent& content,
                                    const INSendMessageIntent& provider) = 0;
 };

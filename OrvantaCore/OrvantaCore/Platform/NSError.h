@@ -10,7 +10,8 @@
 
 namespace orvanta {
 
-/// An error of a platform operation.
+/// An error of a platform operation: a domain, a code within the domain, and details. Immutable, so
+/// it can be shared between threads.
 class NSError final : public Object {
  public:
   static constexpr std::string_view kLocalizedDescription = "NSLocalizedDescription";
@@ -20,12 +21,13 @@ class NSError final : public Object {
                                       Dictionary userInfo = {}) {
     return Ref<NSError>::adopt(new NSError(domain, code, std::move(userInfo)));
   }
-  /// One whose user info holds its text.
+  /// Puts the description into the user info, under kLocalizedDescription.
   static Ref<NSError> errorWithDomain(std::string_view domain, std::int64_t code,
                                       std::string_view localizedDescription) {
     return errorWithDomain(domain, code, Dictionary{{kLocalizedDescription, localizedDescription}});
   }
-  /// One whose text its domain makes up: the user info does not hold it.
+  /// For an error whose description is generated from its domain and code: it is not in the user
+  /// info, and so not printed there.
   static Ref<NSError> errorWithDomain(std::string_view domain, std::int64_t code,
                                       Dictionary userInfo, std::string_view generatedDescription);
 
@@ -35,10 +37,11 @@ class NSError final : public Object {
   const std::string& domain() const { return domain_; }
   std::int64_t code() const { return code_; }
   const Dictionary& userInfo() const { return userInfo_; }
-  /// The text in the user info, else the one that the domain made up; nil for none.
+  /// The description in the user info, else the generated one, else nil.
   const Value& localizedDescription() const;
 
-  /// Error Domain=… Code=… "text" UserInfo={key=value, …}; the last part only when there is one.
+  /// `Error Domain=… Code=… "description" UserInfo={key=value, …}`, without the last part if the
+  /// user info is empty. Log lines contain this string.
   std::string description() const override;
   std::string debugDescription() const { return description(); }
 
@@ -53,7 +56,7 @@ class NSError final : public Object {
   Value generatedDescription_;
 };
 
-/// Told how an operation ended; nil for success.
+/// Receives the outcome of an operation: nil for success.
 using ErrorCompletion = std::function<void(const Ref<NSError>& error)>;
 
 }  // namespace orvanta

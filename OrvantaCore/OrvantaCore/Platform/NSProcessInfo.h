@@ -4,8 +4,12 @@
 
 namespace orvanta {
 
-/// What is asked of the process. Read afresh on every call, from any thread; a call may throw an
-/// orvanta::Exception.
+/// The machine as the process sees it.
+///
+/// Called by OrvantaAppDeviceInfoUtil::totalRAM on its caller's thread.
+///
+/// Requirements for implementers: safe from any thread. An orvanta::Exception may be thrown; it
+/// reaches the caller of totalRAM.
 class NSProcessInfo {
  public:
   virtual ~NSProcessInfo() = default;

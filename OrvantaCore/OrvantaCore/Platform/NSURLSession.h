@@ -11,14 +11,15 @@
 
 namespace orvanta {
 
-/// What came back for a request.
+/// The metadata of a response: HTTP if it has a status code. Immutable, so it can be shared between
+/// threads.
 class NSURLResponse final : public Object {
  public:
   struct Parts {
     Url url;
-    /// The Content-Type without its parameters, in lower case.
+    /// Content-Type without parameters, in lower case.
     std::optional<std::string> mimeType;
-    /// None when the answer did not come over HTTP.
+    /// nullopt for a response that is not HTTP.
     std::optional<int> statusCode;
     std::vector<std::pair<std::string, std::string>> headers;
   };
@@ -34,6 +35,7 @@ class NSURLResponse final : public Object {
   const std::optional<int>& statusCode() const { return parts_.statusCode; }
   const std::vector<std::pair<std::string, std::string>>& headers() const { return parts_.headers; }
 
+  /// The string that the "Response : " log line prints.
   std::string description() const override;
 
  private:
@@ -44,12 +46,21 @@ class NSURLResponse final : public Object {
 
 /// Downloads files.
 ///
-/// An implementer calls back exactly once per task, never before the call that started it has
-/// returned, on a queue of its own. On success there are a location and a response and no error,
-/// whatever the HTTP status says; the file at the location is the callee's to move away before it
-/// returns, and gone afterwards. On failure there are an error and no location, and a response if
-/// one had begun. Requests that run into nothing for 60 seconds fail; redirects are followed, 20
-/// at most. A missing URL fails with NSURLErrorDomain -1002.
+/// Called by the extension's media step, once per notification with a media URL, on whatever thread
+/// that step runs. The callback moves and attaches the file and then runs the rest of the pipeline.
+///
+/// Requirements for implementers:
+/// - Call the completion handler exactly once per task, on a serial queue, never before
+///   `downloadTaskWithURL` has returned. Several tasks may be pending.
+/// - Success: pass a location, a response and no error. A complete response is a success whatever
+///   its HTTP status.
+/// - The callee may move the file at the location until the handler returns. Delete the file then
+///   if it is still there.
+/// - Failure: pass an error and no location, and the response if one had arrived. Use
+///   kNSURLErrorDomain with the codes below. A missing URL fails with kNSURLErrorUnsupportedURL.
+/// - Follow up to 20 redirects (then fail with kNSURLErrorHTTPTooManyRedirects). Fail with
+///   kNSURLErrorTimedOut after 60 seconds without data: the defaults of the system's session.
+/// - Do not throw.
 class NSURLSession {
  public:
   using DownloadCompletion =
@@ -57,7 +68,7 @@ class NSURLSession {
                          const Ref<NSError>& error)>;
 
   virtual ~NSURLSession() = default;
-  /// Makes a task and starts it.
+  /// Creates a download task and resumes it. Tasks cannot be canceled.
   virtual void downloadTaskWithURL(const std::optional<Url>& url,
                                    DownloadCompletion completionHandler) = 0;
 };

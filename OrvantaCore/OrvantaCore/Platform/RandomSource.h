@@ -4,11 +4,17 @@
 
 namespace orvanta {
 
-/// Where chance comes from (`arc4random_uniform`). Asked from any thread.
+/// Random numbers (`arc4random_uniform`).
+///
+/// Called by OrvantaIdentifierUtil once per short identifier, on its caller's thread.
+///
+/// Requirements for implementers: safe to call from any thread at the same time; seed it yourself;
+/// do not fail.
 class RandomSource {
  public:
   virtual ~RandomSource() = default;
-  /// A number from 0 to below the bound, each as likely as any other; 0 for a bound of 0.
+  /// Returns a uniformly distributed number in [0, upperBound), without modulo bias; 0 if
+  /// upperBound is 0.
   virtual std::uint32_t uniform(std::uint32_t upperBound) = 0;
 };
 

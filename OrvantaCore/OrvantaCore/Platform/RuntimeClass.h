@@ -2,8 +2,8 @@
 
 namespace orvanta {
 
-/// A class of the platform that is looked up by its name at run time, so that nobody has to link
-/// its framework; see Platform::classNamed.
+/// A platform class that is looked up by name at run time (Platform::classNamed), so that programs
+/// need not link its framework. Derive one interface per class; callers use dynamic_cast.
 class RuntimeClass {
  public:
   virtual ~RuntimeClass() = default;

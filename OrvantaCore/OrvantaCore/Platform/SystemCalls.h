@@ -8,32 +8,38 @@
 
 namespace orvanta {
 
-/// What is asked of the kernel. Everything is read afresh on every call, from any thread. The
-/// return value says that a call failed; it may also throw an orvanta::Exception.
+/// The system calls that describe the device.
+///
+/// Called by OrvantaAppDeviceInfoUtil on its caller's thread.
+///
+/// Requirements for implementers:
+/// - Read the current state on every call. Safe from any thread.
+/// - Report a failure by the return value. An orvanta::Exception may be thrown: it reaches the
+///   caller of OrvantaAppDeviceInfoUtil, and ends the search of `connectionType`.
 class SystemCalls {
  public:
   /// One address of a network interface.
   struct InterfaceAddress {
     std::string name;
-    int family = 0;  // 2 for IPv4; 0 for an entry without address
+    int family = 0;  // 2 (AF_INET) for IPv4; 0 if the entry has no address
   };
-  /// Of flavour 2, HOST_VM_INFO, with a count of 15.
+  /// host_statistics with HOST_VM_INFO (2) and a count of 15.
   struct VMStatistics {
     std::uint64_t freeCount = 0;  // pages
     std::uint64_t pageSize = 0;   // bytes, the kernel's vm_page_size
   };
 
   virtual ~SystemCalls() = default;
-  /// The bytes of a value ("hw.machine": text with a terminating zero, "hw.cputype": 4 bytes in the
-  /// machine's order); none on failure.
+  /// Returns the bytes of a value: "hw.machine" a zero-terminated string, "hw.cputype" 4 bytes in
+  /// host byte order. Returns nullopt on failure.
   virtual std::optional<std::string> sysctlbyname(std::string_view name) = 0;
-  /// The machine field, UTF-8; none on failure.
+  /// Returns the `machine` field, UTF-8; nullopt on failure.
   virtual std::optional<std::string> uname() = 0;
-  /// In the system's order; empty on failure. The list is released by then.
+  /// Returns the addresses in the system's order; empty on failure. Release the system's list.
   virtual std::vector<InterfaceAddress> getifaddrs() = 0;
-  /// None on failure.
+  /// Returns nullopt on failure.
   virtual std::optional<VMStatistics> hostStatistics() = 0;
-  /// Opens a file for reading and closes it at once; whether it could be opened.
+  /// Returns whether the file can be opened for reading. Close it before returning.
   virtual bool fopen(const std::string& path) = 0;
 };
 

@@ -4,10 +4,14 @@
 
 namespace orvanta {
 
-/// The platform's system log.
+/// The system log.
 ///
-/// An implementer takes one finished entry a call, UTF-8, line breaks included, from any thread,
-/// and neither throws nor calls back into the component. Filtering by level has happened before.
+/// Called by OrvantaLogger for each entry that passes the log level, on the thread that logs.
+///
+/// Requirements for implementers:
+/// - Accept one complete entry per call: UTF-8, with line breaks. Write it unchanged.
+/// - Keep entries whole when several threads write at the same time.
+/// - Do not throw and do not call back into the library.
 class SystemLog {
  public:
   virtual ~SystemLog() = default;

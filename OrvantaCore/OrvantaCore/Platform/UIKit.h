@@ -7,9 +7,15 @@
 
 #include "orvanta/Foundation/Object.h"
 
-// The device, its screen and the bundle's pictures. Facts of the device are read afresh on every
-// call, on the caller's thread. A call may throw an orvanta::Exception, which reaches whoever asked
-// for the fact.
+// The device, its screen and the bundle's images.
+//
+// OrvantaAppDeviceInfoUtil calls UIDevice and UIScreen on its caller's thread; the extension's
+// sender step calls Images on the thread that the step runs on.
+//
+// Requirements for implementers:
+// - UIDevice, UIScreen: read the current state on every call. An orvanta::Exception may be thrown;
+//   it reaches the caller of OrvantaAppDeviceInfoUtil.
+// - Images: work synchronously, from any thread. Do not throw.
 
 namespace orvanta {
 
@@ -19,9 +25,10 @@ class UIDevice {
   virtual ~UIDevice() = default;
   /// "17.0"; UTF-8.
   virtual std::string systemVersion() = 0;
-  /// Stays as it was set last.
+  /// Monitoring is off at first. Called with true before each reading of the level, and never with
+  /// false.
   virtual void setBatteryMonitoringEnabled(bool enabled) = 0;
-  /// 0.0 to 1.0; -1.0 when it is unknown, and as long as monitoring is off.
+  /// 0.0 to 1.0; -1.0 if unknown, or while monitoring is off.
   virtual float batteryLevel() = 0;
   /// 0 unknown, 1 portrait, 2 upside down, 3 landscape left, 4 landscape right, 5 face up, 6 face
   /// down.
@@ -37,13 +44,14 @@ struct CGSize {
 class UIScreen {
  public:
   virtual ~UIScreen() = default;
-  /// The size of the screen's bounds, in points.
+  /// `bounds.size`, in points.
   virtual CGSize boundsSize() = 0;
   /// Pixels per point.
   virtual double scale() = 0;
 };
 
-/// A decoded picture; only the port that made it looks inside.
+/// A decoded image. Derive a class that holds the platform's image: only `Images` of the same port
+/// reads it.
 class UIImage : public Object {
  public:
   static constexpr const ClassObject& classObject() { return kClass; }
@@ -53,15 +61,19 @@ class UIImage : public Object {
   static constexpr ClassObject kClass{"UIImage", nullptr};
 };
 
-/// Pictures of the running bundle. A platform may do without.
+/// Images of the main bundle: the sender's image of a communication notification.
+///
+/// The extension calls `imageNamed` with the name in the payload, then `JPEGRepresentation` with
+/// quality 1.0.
 class Images {
  public:
   virtual ~Images() = default;
-  /// imageNamed: the picture of that name in the bundle's resources, nil when there is none. A name
-  /// without extension means a PNG file; "@3x" and "@2x" variants come first.
+  /// imageNamed: returns the image in the bundle's resources, nil if there is none or it cannot be
+  /// decoded. A name without extension means a PNG file. Prefers the "@3x", then the "@2x" variant.
+  /// Names are case-sensitive; the payload may contain any string.
   virtual Ref<UIImage> imageNamed(std::string_view name) = 0;
-  /// UIImageJPEGRepresentation: the bytes of a JPEG file, from quality 0.0 to 1.0; none for nil or
-  /// a picture that cannot be encoded.
+  /// UIImageJPEGRepresentation: returns the bytes of a JPEG file of quality 0.0 to 1.0 (best).
+  /// Returns nullopt for nil, an image of another port, or one that cannot be encoded.
   virtual std::optional<std::string> JPEGRepresentation(const Ref<UIImage>& image,
                                                         double compressionQuality) = 0;
 };

@@ -11,23 +11,26 @@
 #include "orvanta/Foundation/Url.h"
 #include "orvanta/Platform/NSError.h"
 
-// The UserNotifications types that the component touches, under the platform's names.
+// The UserNotifications types that the extension uses, under the platform's names. A port
+// implements UNNotificationAttachmentFactory and UNUserNotificationCenter, and drives a
+// UNNotificationServiceExtension; the requirements are at these classes. Objects held by `Ref` are
+// immutable and can be shared between threads.
 
 namespace orvanta {
 
 // ---- Content ---------------------------------------------------------------
 
-/// A media file of a notification, made by an attachment factory.
+/// A media file of a notification. Created by UNNotificationAttachmentFactory.
 class UNNotificationAttachment final : public Object {
  public:
   struct Parts {
     std::string identifier;
     Url url;
-    std::optional<std::string> typeHint;  // as asked for
-    std::string type;                     // the type identifier that was settled on
+    std::optional<std::string> typeHint;  // as passed to the factory
+    std::string type;                     // uniform type identifier, from the hint or the extension
     std::string family;                   // "Image", "Audio" or "Movie"
     std::uint64_t bytes = 0;
-    std::shared_ptr<const void> platformObject{};  // an adapter's own
+    std::shared_ptr<const void> platformObject{};  // the port's; not read by the library
   };
   static Ref<UNNotificationAttachment> attachmentWithParts(Parts parts) {
     return Ref<UNNotificationAttachment>::adopt(new UNNotificationAttachment(std::move(parts)));
@@ -36,6 +39,7 @@ class UNNotificationAttachment final : public Object {
   static constexpr const ClassObject& classObject() { return kClass; }
   const ClassObject& isa() const override { return kClass; }
   const Parts& parts() const { return parts_; }
+  /// The string that the "Present Attachment : " log line prints.
   std::string description() const override;
 
  private:
@@ -44,7 +48,18 @@ class UNNotificationAttachment final : public Object {
   Parts parts_;
 };
 
-/// Makes attachments.
+/// Creates attachments (the class method of the platform's UNNotificationAttachment).
+///
+/// Called by the extension's media step in the download's callback, after the file was moved to the
+/// caches folder.
+///
+/// Requirements for implementers:
+/// - Work synchronously, from any thread. Do not throw.
+/// - Return an attachment or an error of "UNErrorDomain", never both. Errors:
+///   100: the URL is not a file URL, or the file is missing or unreadable;
+///   101: notifications do not show the type;
+///   102: the file exceeds the system's limit for attachments: 10 MB per image, 5 MB per audio
+///   file, 50 MB per movie (1 MB is 10^6 bytes; a file of exactly the limit is accepted).
 class UNNotificationAttachmentFactory {
  public:
   struct Result {
@@ -52,18 +67,15 @@ class UNNotificationAttachmentFactory {
     Ref<NSError> error;
   };
   virtual ~UNNotificationAttachmentFactory() = default;
-  /// attachmentWithIdentifier:URL:options:error:, where the one option is a type identifier as type
-  /// hint. One of the two results is there. Refused, in UNErrorDomain: a URL that is no file URL of
-  /// a readable file (100), a type that notifications do not show, by the hint or else the file's
-  /// extension (101), a file over the type's limit of 10 MB (image), 5 MB (audio) or 50 MB (movie),
-  /// MB being 10^6 bytes (102).
+  /// attachmentWithIdentifier:URL:options:error: with the type hint as the only option. The type is
+  /// the hint, a uniform type identifier; without a hint it follows from the file's extension.
   virtual Result attachmentWithIdentifier(const std::string& identifier, const Url& url,
                                           const std::optional<std::string>& typeHint) = 0;
 };
 
-/// What turned a content into a communication notification.
+/// The sender and group of a communication notification.
 struct UNCommunication {
-  std::string sender;  // the name that is shown
+  std::string sender;  // displayed name
   bool senderHasImage = false;
   std::optional<std::string> group;
   bool groupHasImage = false;
@@ -71,24 +83,25 @@ struct UNCommunication {
   friend bool operator==(const UNCommunication&, const UNCommunication&) = default;
 };
 
-/// What a notification shows. Shared as const, it is the platform's immutable content.
+/// The content of a notification. The library shares it as `shared_ptr<const …>`, which corresponds
+/// to the platform's immutable class.
 struct UNNotificationContent {
   std::optional<std::string> title;
   std::optional<std::string> subtitle;
   std::optional<std::string> body;
-  Value badge;                     // a number; nil leaves the application's badge alone
-  Value sound;                     // a text, or a dictionary for a critical alert; nil for silence
-  std::string categoryIdentifier;  // empty when there is none
-  std::string threadIdentifier;    // empty when there is none
+  Value badge;                     // a number; nil leaves the application's badge unchanged
+  Value sound;                     // a string, or a dictionary for a critical alert; nil for none
+  std::string categoryIdentifier;  // empty for none
+  std::string threadIdentifier;    // empty for none
   Dictionary userInfo;             // the whole payload
   std::vector<Ref<UNNotificationAttachment>> attachments;
-  /// Set by the platform's own update; the component does not touch it.
+  /// Set by Intents::contentByUpdating; not read by the library.
   std::optional<UNCommunication> communication;
-  /// Whatever an adapter carries along, such as the system's own content object; copies share it.
+  /// The port's, such as the system's content object; copies share it. Not read by the library.
   std::shared_ptr<const void> platformObject;
 };
 
-/// A content of one's own, made as a copy, to be changed before it is handed over.
+/// A mutable copy of a content.
 struct UNMutableNotificationContent : UNNotificationContent {
   UNMutableNotificationContent() = default;
   explicit UNMutableNotificationContent(const UNNotificationContent& content)
@@ -100,7 +113,7 @@ struct UNNotificationRequest {
   std::shared_ptr<const UNNotificationContent> content;  // never null
 };
 
-/// Takes the content to show; null means that there is none and the original is shown.
+/// Receives the content to present. For nullptr the system presents the original content.
 using UNContentHandler = std::function<void(std::shared_ptr<const UNNotificationContent>)>;
 
 // ---- Actions and categories ------------------------------------------------
@@ -112,7 +125,7 @@ enum UNNotificationActionOptions : unsigned {
   UNNotificationActionOptionForeground = 4,
 };
 
-/// A button.
+/// A button of a notification.
 class UNNotificationAction : public Object {
  public:
   static Ref<UNNotificationAction> actionWithIdentifier(std::string identifier, std::string title,
@@ -128,7 +141,7 @@ class UNNotificationAction : public Object {
   unsigned options() const { return options_; }
   virtual bool takesText() const { return false; }
 
-  /// By value over all fields.
+  /// Compares all fields.
   bool isEqual(const Value& other) const override;
   std::size_t hash() const override { return std::hash<std::string>{}(identifier_); }
 
@@ -143,7 +156,7 @@ class UNNotificationAction : public Object {
   unsigned options_;
 };
 
-/// A button that takes a line of text, with the platform's own button title and placeholder.
+/// A button that asks for a line of text, with the system's default send button and placeholder.
 class UNTextInputNotificationAction final : public UNNotificationAction {
  public:
   static Ref<UNTextInputNotificationAction> actionWithIdentifier(std::string identifier,
@@ -162,19 +175,20 @@ class UNTextInputNotificationAction final : public UNNotificationAction {
                                                &UNNotificationAction::classObject()};
 };
 
-/// Buttons under an identifier. The component makes them without intent identifiers and options;
-/// those of a category that was read travel in the platform's object.
+/// A set of buttons that a notification selects by identifier. The library's own categories have no
+/// intent identifiers and no options. Those of a category read from the center stay in
+/// `platformObject`, which the port must use when it writes the category back.
 struct UNNotificationCategory {
   std::string identifier;
-  std::vector<Ref<UNNotificationAction>> actions;  // none is nil
-  std::shared_ptr<const void> platformObject{};    // an adapter's own, for one that was read
+  std::vector<Ref<UNNotificationAction>> actions;  // elements are never nil
+  std::shared_ptr<const void> platformObject{};    // the port's; nullptr for the library's own
 
-  /// By value over all fields, as the platform compares.
+  /// Compares all fields, as the platform does.
   friend bool operator==(const UNNotificationCategory& a, const UNNotificationCategory& b);
 };
 
-/// A set of categories in the order of insertion; equal ones stand in it once, but it may hold
-/// several of one identifier. Inserting takes time by the category's own size only.
+/// A set of categories in insertion order. Contains equal categories once, but may contain several
+/// with the same identifier. The time to insert does not depend on the size of the set.
 class UNNotificationCategorySet {
  public:
   void insert(UNNotificationCategory category);
@@ -187,10 +201,18 @@ class UNNotificationCategorySet {
   Dictionary present_;
 };
 
-/// The application's notification center.
+/// The notification categories of the application.
 ///
-/// An implementer answers a read exactly once, on a serial queue of its own and never before the
-/// call has returned. A write replaces the whole set; nobody is told when it is done.
+/// Called by NotificationHelper: a read, then from the read's completion a write of the merged set.
+/// The completion then runs the rest of the extension's pipeline.
+///
+/// Requirements for implementers:
+/// - Call the completion of a read exactly once, on a serial queue, in the order of the reads,
+///   never before the call has returned. A read cannot fail: pass an empty set.
+/// - A write replaces the whole set and is visible to every later read. It is not acknowledged.
+/// - Keep the object alive as long as the process: the extension holds it weakly, and buttons are
+///   not registered if it is gone. Pending completions keep a strong reference.
+/// - Neither method throws.
 class UNUserNotificationCenter {
  public:
   using CategoriesCompletion = std::function<void(const UNNotificationCategorySet& categories)>;
@@ -202,11 +224,17 @@ class UNUserNotificationCenter {
 
 // ---- The extension ---------------------------------------------------------
 
-/// What the system's extension host makes one of per request, and calls.
+/// The object that the system creates for a notification request. Here the port is the caller and
+/// the library the implementer.
 ///
-/// A host calls didReceiveNotificationRequest first; serviceExtensionTimeWillExpire, if at all,
-/// when its time budget runs out before the handler was called, from any thread. It keeps the
-/// original content to show when the handler is never called, and ignores a second call.
+/// Requirements for callers:
+/// - Call `didReceiveNotificationRequest` first. Call `serviceExtensionTimeWillExpire` at most once
+///   per request, if the time budget (about 30 seconds on the system) ends before the handler was
+///   called. Any thread is allowed, but run it on the serial queue of the callbacks if you can:
+///   no lock orders an expiry against a step that runs at the same time.
+/// - Accept calls of the content handler on any thread, before and after the expiry. The first call
+///   counts; ignore later ones, and present the original content for nullptr or without a call.
+/// - Pending steps keep the object alive: hold it in a `std::shared_ptr`.
 class UNNotificationServiceExtension {
  public:
   virtual ~UNNotificationServiceExtension() = default;
