@@ -4,8 +4,8 @@
 
 namespace orvanta {
 
-/// What a notification does when it is opened or one of its controls is used; the common type of
-/// the actions.
+/// Base of the actions that run when the user opens a notification or taps one of its buttons.
+/// Received in payloads; the class is named by "klazz".
 class OrvantaAction : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaAction, OrvantaBaseModel)
 };

@@ -4,8 +4,8 @@
 
 namespace orvanta {
 
-/// Shows a message inside the application. Colours and the image are texts, sizes and times plain
-/// numbers; the presenting side gives them their meaning.
+/// Shows a message inside the application. Colors and the image are strings, sizes and times plain
+/// numbers; the code that presents the message defines formats and units.
 class OrvantaInAppMessageAction : public OrvantaAction {
   ORVANTA_MODEL(OrvantaInAppMessageAction, OrvantaAction)
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Asks for a review of the application; its class says it all.
+/// Asks the user to review the application. Has no parameters.
 class OrvantaReviewAction : public OrvantaAction {
   ORVANTA_MODEL(OrvantaReviewAction, OrvantaAction)
 };

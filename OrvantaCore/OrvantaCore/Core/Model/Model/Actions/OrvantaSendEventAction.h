@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Sends an event.
+/// Sends an event; `eventData` is its dictionary.
 class OrvantaSendEventAction : public OrvantaAction {
   ORVANTA_MODEL(OrvantaSendEventAction, OrvantaAction)
 

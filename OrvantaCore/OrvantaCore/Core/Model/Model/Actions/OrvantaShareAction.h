@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Opens the share sheet; its class says it all.
+/// Opens the share sheet. Has no parameters.
 class OrvantaShareAction : public OrvantaAction {
   ORVANTA_MODEL(OrvantaShareAction, OrvantaAction)
 };

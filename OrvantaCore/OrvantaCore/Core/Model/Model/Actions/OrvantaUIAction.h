@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Changes a setting of the user interface.
+/// Changes a setting of the user interface; `item` names it.
 class OrvantaUIAction : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaUIAction, OrvantaBaseModel)
 

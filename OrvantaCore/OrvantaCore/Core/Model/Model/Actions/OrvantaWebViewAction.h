@@ -4,8 +4,8 @@
 
 namespace orvanta {
 
-/// Shows a web view. Sizes and times are plain numbers; the presenting side gives them their
-/// meaning.
+/// Shows a web view. Sizes and times are plain numbers; the code that presents it defines the
+/// units.
 class OrvantaWebViewAction : public OrvantaAction {
   ORVANTA_MODEL(OrvantaWebViewAction, OrvantaAction)
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// What a control of a widget does.
+/// Runs when the user taps a control of a widget.
 class OrvantaWidgetAction : public OrvantaAction {
   ORVANTA_MODEL(OrvantaWidgetAction, OrvantaAction)
 

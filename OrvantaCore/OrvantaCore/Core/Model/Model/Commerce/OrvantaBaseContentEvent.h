@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// An event about a content, whose keys stand beside the event's own.
+/// Base of the events about a content. Its keys are mixed with the event's own on the wire.
 class OrvantaBaseContentEvent : public OrvantaEvent {
   ORVANTA_ABSTRACT_EVENT(OrvantaBaseContentEvent, OrvantaEvent)
 
@@ -13,10 +13,10 @@ class OrvantaBaseContentEvent : public OrvantaEvent {
 
   ORVANTA_EVENT_INITIALISER(initWithContent, eventWithContent, content)
 
-  /// Makes the content of the whole dictionary first; when that refuses, so does the event, and its
-  /// own fields stay as they were.
+  /// Reads the content from the whole dictionary first. If that fails, returns false and leaves the
+  /// event's own properties unchanged.
   bool updateWithDictionary(const Dictionary* dictionary) override;
-  /// One flat dictionary, in which the event's entries stand over the content's.
+  /// Returns one flat dictionary; the event's entries win over the content's.
   Dictionary dictionaryValueWithPolicy(bool classInfo) const override;
 };
 

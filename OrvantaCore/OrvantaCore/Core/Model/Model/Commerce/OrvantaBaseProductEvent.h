@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// An event about a product, whose keys stand beside the event's own.
+/// Base of the events about a product. Its keys are mixed with the event's own on the wire.
 class OrvantaBaseProductEvent : public OrvantaEvent {
   ORVANTA_ABSTRACT_EVENT(OrvantaBaseProductEvent, OrvantaEvent)
 
@@ -13,10 +13,10 @@ class OrvantaBaseProductEvent : public OrvantaEvent {
 
   ORVANTA_EVENT_INITIALISER(initWithProduct, eventWithProduct, product)
 
-  /// Makes the product of the whole dictionary first; when that refuses, so does the event, and its
-  /// own fields stay as they were.
+  /// Reads the product from the whole dictionary first. If that fails, returns false and leaves the
+  /// event's own properties unchanged.
   bool updateWithDictionary(const Dictionary* dictionary) override;
-  /// One flat dictionary, in which the event's entries stand over the product's.
+  /// Returns one flat dictionary; the event's entries win over the product's.
   Dictionary dictionaryValueWithPolicy(bool classInfo) const override;
 };
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A product was put into the cart.
+/// The user added a product to the cart. `basketTotal` is in the application's currency unit.
 class OrvantaCartAddProductEvent : public OrvantaBaseProductEvent {
   ORVANTA_EVENT(OrvantaCartAddProductEvent, OrvantaBaseProductEvent, "o:acp")
 

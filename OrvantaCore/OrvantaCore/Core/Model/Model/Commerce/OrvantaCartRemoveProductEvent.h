@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A product was taken out of the cart.
+/// The user removed a product from the cart.
 class OrvantaCartRemoveProductEvent : public OrvantaBaseProductEvent {
   ORVANTA_EVENT(OrvantaCartRemoveProductEvent, OrvantaBaseProductEvent, "o:rcp")
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The cart was looked at.
+/// The user viewed the cart. `subTotal` is in the application's currency unit.
 class OrvantaCartViewEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaCartViewEvent, OrvantaEvent, "o:vt")
 

@@ -5,7 +5,8 @@
 
 namespace orvanta {
 
-/// Something to read, hear or watch. The caller gives `contentType` its meaning.
+/// An article, video or other item, part of content events. The application defines the values of
+/// `contentType`.
 class OrvantaContent : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaContent, OrvantaBaseModel)
 

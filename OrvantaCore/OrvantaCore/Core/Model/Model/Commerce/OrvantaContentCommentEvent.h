@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A content was commented on.
+/// The user commented on a content.
 class OrvantaContentCommentEvent : public OrvantaBaseContentEvent {
   ORVANTA_EVENT(OrvantaContentCommentEvent, OrvantaBaseContentEvent, "o:cc")
 

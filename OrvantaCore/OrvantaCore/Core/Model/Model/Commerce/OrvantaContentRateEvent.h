@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A content was rated; the caller gives `rating` its scale.
+/// The user rated a content. The application defines the scale of `rating`.
 class OrvantaContentRateEvent : public OrvantaBaseContentEvent {
   ORVANTA_EVENT(OrvantaContentRateEvent, OrvantaBaseContentEvent, "o:rc")
 

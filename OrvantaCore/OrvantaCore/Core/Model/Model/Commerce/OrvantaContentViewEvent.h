@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A content was looked at.
+/// The user viewed a content.
 class OrvantaContentViewEvent : public OrvantaBaseContentEvent {
   ORVANTA_EVENT(OrvantaContentViewEvent, OrvantaBaseContentEvent, "o:vc")
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A product in a purchase.
+/// A product in a purchase, with its quantity.
 class OrvantaLineItem : public OrvantaProduct {
   ORVANTA_MODEL(OrvantaLineItem, OrvantaProduct)
 

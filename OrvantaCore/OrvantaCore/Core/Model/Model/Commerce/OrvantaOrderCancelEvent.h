@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// An order was cancelled.
+/// The user canceled an order. Amounts are in the application's currency unit.
 class OrvantaOrderCancelEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaOrderCancelEvent, OrvantaEvent, "o:co")
 

@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// A product, as it is looked at or bought. Prices are in the units that the caller counts in.
+/// A product, part of product events. `price` is in the application's currency unit.
 class OrvantaProduct : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaProduct, OrvantaBaseModel)
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A product was commented on.
+/// The user commented on a product.
 class OrvantaProductCommentEvent : public OrvantaBaseProductEvent {
   ORVANTA_EVENT(OrvantaProductCommentEvent, OrvantaBaseProductEvent, "o:cp")
 

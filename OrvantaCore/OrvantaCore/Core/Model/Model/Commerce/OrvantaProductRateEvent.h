@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A product was rated; the caller gives `rating` its scale.
+/// The user rated a product. The application defines the scale of `rating`.
 class OrvantaProductRateEvent : public OrvantaBaseProductEvent {
   ORVANTA_EVENT(OrvantaProductRateEvent, OrvantaBaseProductEvent, "o:rp")
 

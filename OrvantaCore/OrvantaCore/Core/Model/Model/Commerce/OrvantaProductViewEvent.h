@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A product was looked at.
+/// The user viewed a product.
 class OrvantaProductViewEvent : public OrvantaBaseProductEvent {
   ORVANTA_EVENT(OrvantaProductViewEvent, OrvantaBaseProductEvent, "o:vp")
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A product was put on the wish list.
+/// The user added a product to the wish list.
 class OrvantaWishListEvent : public OrvantaBaseProductEvent {
   ORVANTA_EVENT(OrvantaWishListEvent, OrvantaBaseProductEvent, "o:wl")
 

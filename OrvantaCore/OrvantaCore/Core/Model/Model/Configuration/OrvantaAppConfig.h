@@ -7,19 +7,20 @@
 
 namespace orvanta {
 
-/// The configuration of the application, as the server sends it.
+/// The application's configuration. Received in the replies to OrvantaAppConfigRequest and
+/// OrvantaInitSessionRequest.
 class OrvantaAppConfig : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaAppConfig, OrvantaBaseModel)
 
   ORVANTA_PROPERTY("v", strong, Number, version, setVersion)
   ORVANTA_PROPERTY("badge", assign, bool, shouldManageBadge, setShouldManageBadge)
   ORVANTA_PROPERTY("locHist", assign, bool, shouldSendLocationData, setShouldSendLocationData)
-  /// Seconds, like the other intervals; 2^63 never elapses.
+  /// Intervals are in seconds; kNever (2^63) does not elapse.
   ORVANTA_PROPERTY("sei", assign, double, sessionExpirationInterval, setSessionExpirationInterval)
   ORVANTA_PROPERTY("cei", assign, double, cacheExpirationInterval, setCacheExpirationInterval)
   ORVANTA_PROPERTY("sai", assign, bool, shouldSendAdvertisingId, setShouldSendAdvertisingId)
   ORVANTA_PROPERTY("url", copy, String, baseURL, setBaseURL)
-  /// Dictionaries as received.
+  /// Dictionaries, as received.
   ORVANTA_PROPERTY("geofs", strong, Array, geofences, setGeofences)
   ORVANTA_PROPERTY("htmlTemps", strong, Dictionary, richPushTemplates, setRichPushTemplates)
   ORVANTA_PROPERTY("interCats", strong, Array, interactiveCategories, setInteractiveCategories,
@@ -44,10 +45,10 @@ class OrvantaAppConfig : public OrvantaBaseModel {
 
   static constexpr double kNever = 9223372036854775808.0;
 
-  /// Ten properties go back to their defaults before the dictionary is read: `version`,
-  /// `shouldManageBadge`, `shouldSendLocationData`, `shouldSendAdvertisingId`,
-  /// `shouldSendScreenEvent`, the three intervals and the two permissions. What else the
-  /// dictionary lacks stays as it was.
+  /// Resets ten properties to their defaults, then reads: `version` 0; `shouldManageBadge`,
+  /// `shouldSendLocationData`, `shouldSendAdvertisingId`, `shouldSendScreenEvent` false;
+  /// `sessionExpirationInterval` 180 s, the other two intervals kNever; `eventPermission` 2,
+  /// `offlineEventPermission` true. Other properties that the dictionary lacks stay.
   bool updateWithDictionary(const Dictionary* dictionary) override;
 };
 

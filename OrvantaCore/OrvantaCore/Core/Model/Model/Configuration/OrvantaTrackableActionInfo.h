@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// An action on a screen that is to be tracked.
+/// A control whose use is reported as OrvantaViewActionEvent. Received in OrvantaAppConfig.
 class OrvantaTrackableActionInfo : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaTrackableActionInfo, OrvantaBaseModel)
 

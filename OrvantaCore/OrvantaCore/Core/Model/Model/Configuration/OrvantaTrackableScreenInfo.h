@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A screen that is to be tracked.
+/// A screen whose display is reported as OrvantaShowViewEvent. Received in OrvantaAppConfig.
 class OrvantaTrackableScreenInfo : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaTrackableScreenInfo, OrvantaBaseModel)
 

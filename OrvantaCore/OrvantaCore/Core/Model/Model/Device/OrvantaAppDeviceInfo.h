@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The short description of the device and the application that several requests carry.
+/// Basic facts about the device and the application. Sent in OrvantaInitSessionRequest.
 class OrvantaAppDeviceInfo : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaAppDeviceInfo, OrvantaBaseModel)
 

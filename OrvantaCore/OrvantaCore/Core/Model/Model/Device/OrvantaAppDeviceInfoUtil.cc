@@ -31,7 +31,7 @@ constexpr std::int32_t kWiFi = 1;
 constexpr std::int32_t kCellular = 2;
 
 struct RadioTechnology {
-  std::string_view name;  // behind "CTRadioAccessTechnology"
+  std::string_view name;  // without the prefix "CTRadioAccessTechnology"
   std::int32_t connectionType;
 };
 constexpr RadioTechnology kRadioTechnologies[] = {
@@ -50,8 +50,8 @@ std::int32_t connectionTypeFor(std::string_view technology) {
   return kCellular;
 }
 
-Held<String> held(const std::optional<std::string>& text) {
-  return text ? Held<String>(*text) : nullptr;
+Held<String> stringOrNil(const std::optional<std::string>& string) {
+  return string ? Held<String>(*string) : nullptr;
 }
 
 std::uint64_t mebibytes(std::uint64_t bytes) {
@@ -59,13 +59,13 @@ std::uint64_t mebibytes(std::uint64_t bytes) {
   return static_cast<std::uint64_t>(static_cast<float>(bytes) * 0x1p-20F);
 }
 
-/// Truncates; clamps what has no place in 32 bits, NaN to 0.
+/// Truncates and clamps to 32 bits; returns 0 for NaN.
 std::int32_t truncated(double number) {
-  constexpr double kMost = std::numeric_limits<std::int32_t>::max();
-  return std::isnan(number) ? 0 : static_cast<std::int32_t>(std::clamp(number, -kMost, kMost));
+  constexpr double kMax = std::numeric_limits<std::int32_t>::max();
+  return std::isnan(number) ? 0 : static_cast<std::int32_t>(std::clamp(number, -kMax, kMax));
 }
 
-/// The text of "%g", whatever the locale.
+/// Formats like "%g" in the C locale.
 std::string shortText(double number) {
   constexpr int kSignificantDigits = 6;
   char text[32];
@@ -99,7 +99,7 @@ std::optional<std::int32_t> processorType() {
   return type;
 }
 
-/// The architecture of a 32-bit ARM device. Of a minor number only the last digit counts.
+/// Returns the architecture of a 32-bit ARM device. Only the last digit of the minor number counts.
 std::string_view architectureOfARM(std::string_view machine) {
   const char last = machine.empty() ? '0' : machine.back();
   const bool isSwift = (machine.starts_with("iPhone5,") && last >= '1' && last <= '4') ||
@@ -136,10 +136,10 @@ Held<String> OrvantaAppDeviceInfoUtil::operatingSystemVersion() {
 
 Held<String> OrvantaAppDeviceInfoUtil::deviceModel() {
   SystemCalls* const calls = Platform::current().systemCalls();
-  return calls != nullptr ? held(calls->uname()) : nullptr;
+  return calls != nullptr ? stringOrNil(calls->uname()) : nullptr;
 }
 
-Held<String> OrvantaAppDeviceInfoUtil::device() { return held(machineName()); }
+Held<String> OrvantaAppDeviceInfoUtil::device() { return stringOrNil(machineName()); }
 
 Held<String> OrvantaAppDeviceInfoUtil::architecture() {
   const std::optional<std::int32_t> type = processorType();
@@ -219,7 +219,7 @@ Ref<CTCarrier> OrvantaAppDeviceInfoUtil::getCarrier() {
 
 Held<String> OrvantaAppDeviceInfoUtil::carrierName() {
   const Ref<CTCarrier> carrier = getCarrier();
-  return carrier ? held(carrier->carrierName()) : nullptr;
+  return carrier ? stringOrNil(carrier->carrierName()) : nullptr;
 }
 
 std::int32_t OrvantaAppDeviceInfoUtil::connectionType() {

@@ -9,18 +9,18 @@
 
 namespace orvanta {
 
-/// Facts about the device and the application, each read afresh from the platform on every call. A
-/// fact that the platform does not know is nil, or what its method tells. An Exception that a
-/// service throws passes, but for connectionType.
+/// Facts about the device and the application. Each call reads the current value from the platform.
+/// A fact that the platform does not report is nil, unless its method says otherwise. An Exception
+/// of a platform service reaches the caller, except from connectionType.
 class OrvantaAppDeviceInfoUtil {
  public:
   OrvantaAppDeviceInfoUtil() = delete;
 
   // ---- Application ----
 
-  /// Of the main bundle; empty when there is none.
+  /// Info.plist of the main bundle; empty if there is none.
   static Dictionary infoDictionary();
-  /// These two of the information dictionary, whatever their kind.
+  /// "CFBundleShortVersionString" and "CFBundleVersion", also if they are not strings.
   static Held<String> applicationVersion();
   static Held<String> appBuild();
   /// The first of the main bundle's preferred localizations.
@@ -31,50 +31,51 @@ class OrvantaAppDeviceInfoUtil {
   static Held<String> operatingSystemVersion();
   static std::string_view operatingSystemName() { return "iOS"; }
   static std::string_view manufacturer() { return "Apple"; }
-  /// "iPhone15,2", of uname.
+  /// "iPhone15,2", from uname.
   static Held<String> deviceModel();
-  /// The same of "hw.machine".
+  /// The same, from sysctl "hw.machine".
   static Held<String> device();
-  /// "arm64", "armv7s" or "armv7"; nil for a processor of another kind.
+  /// "arm64", "armv7s" or "armv7"; nil for other processors.
   static Held<String> architecture();
-  /// Pixels, width first: "1170x2532", with six significant digits.
+  /// In pixels, width first: "1170x2532", each with up to six significant digits.
   static Held<String> resolution();
-  /// Whole pixels per point: "@3x".
+  /// Pixels per point, truncated to an integer: "@3x".
   static Held<String> density();
   // NOLINTNEXTLINE(readability-identifier-naming): named as the property
   static std::string_view OpenGLESversion() { return ""; }
-  /// Percent. Switches battery monitoring on, and leaves it on. 100 when the level is unknown.
+  /// Percent; 100 if the level is unknown. Enables battery monitoring and leaves it enabled.
   static std::int32_t batteryLevel();
-  /// "Portrait", "FaceUp", …; "Unknown" for a value that has no name.
+  /// "Portrait", "FaceUp", …; "Unknown" for any other value.
   static std::string_view orientation();
-  /// Whether there is a shell to open; nothing acts on it.
+  /// Whether "/bin/bash" can be opened. The library does not act on it.
   static bool isJailbroken();
 
-  // ---- Memory and disk, in whole MiB by way of a 32-bit float ----
+  // ---- Memory and disk, in MiB, computed as 32-bit float and truncated ----
 
-  /// All ones when it cannot be read.
+  /// 2^64 - 1 if it cannot be read.
   static std::uint64_t freeRAM();
-  /// These three are 0 then. The disk is the file system of the home directory.
+  /// 0 if it cannot be read, like the next two. The disk is the home directory's file system.
   static std::uint64_t totalRAM();
   static std::uint64_t freeDisk();
   static std::uint64_t totalDisk();
 
   // ---- Network ----
 
-  /// One of the SIMs' carriers from iOS 12.0 on, the SIM's before; nil without one.
+  /// The carrier of the SIM; of the first SIM the platform lists on iOS 12.0 and later. Nil without
+  /// a SIM.
   static Ref<CTCarrier> getCarrier();
   /// The same carrier, in spite of the name.
   static Ref<CTCarrier> currentServiceTechnology() { return getCarrier(); }
   static Held<String> carrierName();
-  /// 0 no interface in use that counts; 1 Wi-Fi; cellular: 2 by an unknown technology, 3 GPRS, EDGE
-  /// or CDMA 1x, 4 third generation, 5 LTE. An Exception ends the search with an error line in the
-  /// log, and the result so far counts.
+  /// 0 not connected; 1 Wi-Fi ("en0" has an IPv4 address); cellular ("pdp_ip0" has one): 2 unknown
+  /// technology, 3 GPRS, EDGE or CDMA 1x, 4 third generation, 5 LTE. An Exception
+  /// of a platform service is logged as an error; the type determined so far is returned.
   static std::int32_t connectionType();
 
   // ---- All together ----
 
   static Ref<OrvantaAppDeviceInfo> currentAppDeviceInfo();
-  /// Leaves the user agent out.
+  /// Sets everything but the user agent.
   static Ref<OrvantaAppAllDeviceInfo> allDeviceInfo();
 };
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A banner was tapped.
+/// The user tapped a banner.
 class OrvantaBannerClickEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaBannerClickEvent, OrvantaEvent, "o:bc")
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The battery reached a level that is to be reported.
+/// The battery reached a level that the configuration asks to report.
 class OrvantaBatteryLevelEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaBatteryLevelEvent, OrvantaEvent, "o:bl")
 

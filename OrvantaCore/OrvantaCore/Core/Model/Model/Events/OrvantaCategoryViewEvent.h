@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A category was looked at.
+/// The user viewed a category.
 class OrvantaCategoryViewEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaCategoryViewEvent, OrvantaEvent, "o:cv")
 

@@ -4,8 +4,8 @@
 
 namespace orvanta {
 
-/// The application crashed, or met an exception that it survived: a snapshot of device and
-/// application, filled field by field by whoever caught it.
+/// The application crashed, or caught an exception and went on: a snapshot of device and
+/// application. The crash reporter sets the properties and defines their units.
 class OrvantaCrashEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaCrashEvent, OrvantaEvent, "o:cr")
 
@@ -36,7 +36,7 @@ class OrvantaCrashEvent : public OrvantaEvent {
   ORVANTA_PROPERTY("ev", copy, String, type, setType)
   ORVANTA_PROPERTY("txt", copy, String, custom, setCustom)
   ORVANTA_PROPERTY("fe", assign, std::int32_t, totalDisk, setTotalDisk)
-  /// In memory only.
+  /// Not sent.
   ORVANTA_PROPERTY(kUnmapped, strong, String, crashInfo, setCrashInfo)
 };
 

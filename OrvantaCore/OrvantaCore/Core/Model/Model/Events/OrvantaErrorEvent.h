@@ -7,9 +7,9 @@
 
 namespace orvanta {
 
-/// Events that could not be sent, and why. Owns neither: message and array are the caller's, who
-/// keeps them until the event is written; each reads as nil once its owner is gone. What is read
-/// from a dictionary has no owner and is nil at once.
+/// Events that could not be sent, and the reason. Holds the array and the message weakly: the
+/// caller owns them until the event is written, and each is nil once released. Values read from a
+/// dictionary have no owner and are nil.
 class OrvantaErrorEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaErrorEvent, OrvantaEvent, "o:err")
 

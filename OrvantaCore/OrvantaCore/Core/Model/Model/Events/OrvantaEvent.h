@@ -5,34 +5,35 @@
 
 namespace orvanta {
 
-/// Common base of every analytics event. Whoever records an event stamps its identifiers, creation
-/// date and location; keys beside the five of this class mean something within one class only.
+/// Base of the analytics events. Events are sent in an OrvantaEventRequest; the code that records
+/// an event sets its identifiers, creation date and location. A wire key of a subclass, such as
+/// "ea", has a meaning within that class only.
 class OrvantaEvent : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaEvent, OrvantaBaseModel)
 
   ORVANTA_PROPERTY("ids", strong, OrvantaIdentifiers, identifiers, setIdentifiers,
                    OrvantaIdentifiers)
-  /// The event code: "o:" and one to four letters. A concrete class answers its constant, whatever
-  /// was read; the others what was read, else nil.
+  /// The event code: "o:" and one to four letters. A concrete class returns its constant, whatever
+  /// was read; other classes return what was read, else nil.
   ORVANTA_OVERRIDABLE("code", copy, String, eventKey)
   ORVANTA_PROPERTY("fv", copy, String, locationString, setLocationString)
   ORVANTA_PROPERTY("ts", strong, Date, creationDate, setCreationDate)
   ORVANTA_PROPERTY("revenue", assign, double, revenue, setRevenue)
 
-  /// 2^63: no amount was given.
+  /// 2^63: the amount is unset.
   static constexpr double kNoAmount = 9223372036854775808.0;
 
-  /// None: this class is abstract. A subclass that opens with one of the macros below has a class
-  /// method of its own; further class methods that it inherits make objects of the ancestor.
+  /// Returns nil: this class is abstract. The macros below declare the class method of a subclass.
+  /// Other inherited class methods create objects of the ancestor.
   static Ref<OrvantaEvent> event() { return nullptr; }
-  /// What every initialiser of an event begins with: `init`, and no revenue given. An event that is
-  /// made in another way has a revenue of 0.0.
+  /// Calls `init` and sets the revenue to kNoAmount. Every initializer of an event starts with it;
+  /// an event created in another way has a revenue of 0.0.
   bool initInternal();
-  /// 0 or 1; the request that carries the event alone has the same.
+  /// 0 or 1. The priority of a request with this event alone.
   virtual std::int64_t priority() const { return 0; }
 };
 
-/// Opens the body of a class of events; a concrete one has a code.
+/// Starts the body of an event class: ORVANTA_EVENT of a concrete one, with its code.
 #define ORVANTA_ABSTRACT_EVENT(Self_, Super_) \
   ORVANTA_MODEL(Self_, Super_)                \
   ORVANTA_FACTORY(event, initInternal)
@@ -40,13 +41,14 @@ class OrvantaEvent : public OrvantaBaseModel {
   ORVANTA_ABSTRACT_EVENT(Self_, Super_)     \
   Held<String> eventKey() const override { return std::string_view(code_); }
 
-/// An initialiser that stores its arguments, and the class method that makes an event with it.
+/// Declares an initializer that stores its arguments, and the class method that creates an event
+/// with it.
 #define ORVANTA_EVENT_INITIALISER(init_, factory_, ...) \
   ORVANTA_INITIALISER(init_, initInternal, __VA_ARGS__) \
   ORVANTA_FACTORY(factory_, init_, __VA_ARGS__)
 
-/// The same for an initialiser that takes from an object of another class, which may be nullptr,
-/// the properties of these names.
+/// The same for an initializer that copies the properties of these names from an object of another
+/// class. The object may be nullptr.
 #define ORVANTA_TAKE_(name_) this->name_##_ = source->name_()
 #define ORVANTA_EVENT_INITIALISER_FROM(Source_, init_, factory_, ...) \
   bool init_(const Source_* source) {                                 \

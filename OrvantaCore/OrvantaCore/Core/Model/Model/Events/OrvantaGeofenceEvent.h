@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A geofence was crossed; the caller gives `type` its meaning.
+/// The device crossed a geofence. The application defines the values of `type`.
 class OrvantaGeofenceEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaGeofenceEvent, OrvantaEvent, "o:gu")
 

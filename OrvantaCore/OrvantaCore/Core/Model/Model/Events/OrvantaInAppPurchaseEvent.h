@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Something was bought inside the application.
+/// The user bought something inside the application. `price` is in `currency`.
 class OrvantaInAppPurchaseEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaInAppPurchaseEvent, OrvantaEvent, "o:ip")
 

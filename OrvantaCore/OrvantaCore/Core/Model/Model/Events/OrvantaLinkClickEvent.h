@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A campaign link was followed.
+/// The user followed a campaign link.
 class OrvantaLinkClickEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaLinkClickEvent, OrvantaEvent, "o:lc")
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The user allowed or refused to be located.
+/// The location permission changed. `authorizationStatus` is the platform's CLAuthorizationStatus.
 class OrvantaLocationAuthorizationEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaLocationAuthorizationEvent, OrvantaEvent, "o:la")
 

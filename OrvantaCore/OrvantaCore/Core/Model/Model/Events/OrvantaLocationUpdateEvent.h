@@ -5,15 +5,15 @@
 
 namespace orvanta {
 
-/// The device was located. Where, stands in `locationString`, which the recorder fills.
+/// A location fix. The coordinates are in `locationString`, set by the code that records the event.
 class OrvantaLocationUpdateEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaLocationUpdateEvent, OrvantaEvent, "o:lu")
 
-  /// Metres.
+  /// Meters; negative if the coordinates are invalid.
   ORVANTA_PROPERTY("fw", assign, double, accuracy, setAccuracy)
   ORVANTA_PROPERTY("fu", strong, Date, locationDate, setLocationDate)
 
-  /// Takes the fix's horizontal accuracy and time; its coordinates are not kept.
+  /// Copies the horizontal accuracy and the time of the fix, not its coordinates.
   bool initWithLocation(const CLLocation& location);
   static Ref<Self> eventWithLocation(const CLLocation& location);
 };

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A log line of the application.
+/// A log entry of the application.
 class OrvantaLogEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaLogEvent, OrvantaEvent, "o:log")
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A user logged in.
+/// The user logged in.
 class OrvantaLoginEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaLoginEvent, OrvantaEvent, "o:cl")
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The application was opened.
+/// The user opened the application.
 class OrvantaOpenAppEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaOpenAppEvent, OrvantaEvent, "o:oa")
 

@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// The in-app message of a push was shown.
+/// The application showed the in-app message of a push.
 class OrvantaPopupShownEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaPopupShownEvent, OrvantaEvent, "o:psw")
 

@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// A notification was dismissed.
+/// The user dismissed a notification.
 class OrvantaPushDismissEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaPushDismissEvent, OrvantaEvent, "o:pdm")
 

@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// A notification was opened, or one of its controls used.
+/// The user opened a notification or tapped one of its buttons.
 class OrvantaPushOpenedEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaPushOpenedEvent, OrvantaEvent, "o:po")
 
@@ -14,7 +14,7 @@ class OrvantaPushOpenedEvent : public OrvantaEvent {
   ORVANTA_PROPERTY("ea", copy, String, actionIdentifier, setActionIdentifier)
   ORVANTA_PROPERTY("txt", copy, String, inputText, setInputText)
 
-  /// Takes the identifiers, the action that the user chose and the text that the user typed.
+  /// Copies the identifiers, the identifier of the tapped button and the text that the user typed.
   bool initWithPushObject(const OrvantaPushObject* pushObject);
   static Ref<Self> eventWithPushObject(const OrvantaPushObject* pushObject);
   bool initWithPushId(Held<String> pushId, Held<String> pushInstanceId,

@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// A notification arrived.
+/// The device received a notification.
 class OrvantaPushReceivedEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaPushReceivedEvent, OrvantaEvent, "o:prd")
 

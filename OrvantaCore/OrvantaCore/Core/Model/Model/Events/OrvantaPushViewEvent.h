@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// A notification was looked at.
+/// The user viewed a notification.
 class OrvantaPushViewEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaPushViewEvent, OrvantaEvent, "o:pv")
 

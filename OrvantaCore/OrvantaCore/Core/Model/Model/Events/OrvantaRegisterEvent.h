@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A user registered.
+/// The user created an account.
 class OrvantaRegisterEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaRegisterEvent, OrvantaEvent, "o:rg")
 

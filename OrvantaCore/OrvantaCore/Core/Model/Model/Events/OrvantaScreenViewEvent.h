@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A screen was left.
+/// The user left a screen.
 class OrvantaScreenViewEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaScreenViewEvent, OrvantaEvent, "o:sv")
 

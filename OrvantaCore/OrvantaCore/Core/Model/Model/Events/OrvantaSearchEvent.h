@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Something was searched for.
+/// The user searched.
 class OrvantaSearchEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaSearchEvent, OrvantaEvent, "o:sr")
 

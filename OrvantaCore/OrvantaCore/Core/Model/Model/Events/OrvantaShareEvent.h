@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Something was shared.
+/// The user shared something.
 class OrvantaShareEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaShareEvent, OrvantaEvent, "o:sh")
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A tracked screen was shown.
+/// A trackable screen appeared; `code` is its OrvantaTrackableScreenInfo's.
 class OrvantaShowViewEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaShowViewEvent, OrvantaEvent, "o:shv")
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A screen was shown on a test device.
+/// A screen appeared on a test device.
 class OrvantaShowViewTestEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaShowViewTestEvent, OrvantaEvent, "o:shvt")
 

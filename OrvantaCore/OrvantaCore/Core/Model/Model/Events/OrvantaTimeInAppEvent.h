@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The application was left.
+/// The user left the application.
 class OrvantaTimeInAppEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaTimeInAppEvent, OrvantaEvent, "o:tia")
 

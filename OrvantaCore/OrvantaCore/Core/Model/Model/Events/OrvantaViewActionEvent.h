@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// A tracked action was used.
+/// The user used a trackable control; `code` is its OrvantaTrackableActionInfo's.
 class OrvantaViewActionEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaViewActionEvent, OrvantaEvent, "o:va")
 

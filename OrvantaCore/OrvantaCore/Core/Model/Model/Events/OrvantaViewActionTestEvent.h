@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// An action was used on a test device.
+/// The user used a control on a test device.
 class OrvantaViewActionTestEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaViewActionTestEvent, OrvantaEvent, "o:vat")
 

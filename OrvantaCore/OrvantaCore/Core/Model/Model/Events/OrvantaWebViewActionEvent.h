@@ -4,16 +4,16 @@
 
 namespace orvanta {
 
-/// A web view reported something; its fields are free.
+/// An event of a web view, with free-form data.
 class OrvantaWebViewActionEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaWebViewActionEvent, OrvantaEvent, "o:rpa")
 
   ORVANTA_PROPERTY(kUnmapped, strong, Dictionary, eventData, setEventData)
 
   ORVANTA_EVENT_INITIALISER(initWithEventData, eventWithEventData, eventData)
-  /// The whole dictionary becomes the event data; the five common keys are read besides.
+  /// Stores the whole dictionary as event data, then reads the five keys of OrvantaEvent from it.
   bool updateWithDictionary(const Dictionary* dictionary) override;
-  /// The event data stands over the event's own entries, "code" and "klazz" included.
+  /// The event data wins over the event's own entries, including "code" and "klazz".
   Dictionary dictionaryValueWithPolicy(bool classInfo) const override;
 };
 

@@ -26,12 +26,13 @@ DecimalNumber OrvantaIdentifierUtil::generateShortIdentifierDecimalNumber() {
   const std::int64_t now =
       clock != nullptr ? std::max<std::int64_t>(clock->steadyWallNanoseconds(), 0) : 0;
 
-  // "%hu%.9Lf" of the random number and the seconds, which no floating point can hold.
-  std::string text = std::to_string((random != nullptr ? random->uniform(kRandoms) : 0) + 1);
+  // Formats like "%hu%.9Lf" of the random number and the seconds. Integers, since a double has too
+  // few digits.
+  std::string digits = std::to_string((random != nullptr ? random->uniform(kRandoms) : 0) + 1);
   const std::string fraction = std::to_string(now % kNanosecondsPerSecond);
-  text.append(std::to_string(now / kNanosecondsPerSecond)).append(".");
-  text.append(9 - fraction.size(), '0').append(fraction);
-  return DecimalNumber::decimalNumberWithString(text).multiplyingByPowerOf10(9);
+  digits.append(std::to_string(now / kNanosecondsPerSecond)).append(".");
+  digits.append(9 - fraction.size(), '0').append(fraction);
+  return DecimalNumber::decimalNumberWithString(digits).multiplyingByPowerOf10(9);
 }
 
 std::string OrvantaIdentifierUtil::base62String(const DecimalNumber& number) {
@@ -40,7 +41,7 @@ std::string OrvantaIdentifierUtil::base62String(const DecimalNumber& number) {
   static const DecimalNumber kBase(static_cast<std::int64_t>(kBase62Digits.size()));
   static const DecimalNumber kLimit = DecimalNumber(1).multiplyingByPowerOf10(38);
   std::string text;
-  if (number < kZero || number >= kLimit) return text;  // NaN stands below every number
+  if (number < kZero || number >= kLimit) return text;  // NaN compares less than every number
   if (number != number.dividingByRoundingDown(kOne)) return text;
   for (DecimalNumber rest = number; rest != kZero;) {
     const DecimalNumber quotient = rest.dividingByRoundingDown(kBase);

@@ -8,7 +8,7 @@
 
 namespace orvanta {
 
-/// Makes identifiers. From any thread.
+/// Creates identifiers. Safe from any thread.
 class OrvantaIdentifierUtil {
  public:
   OrvantaIdentifierUtil() = delete;
@@ -17,17 +17,18 @@ class OrvantaIdentifierUtil {
   static constexpr std::string_view kBase62Digits =
       "abcdefghijklmnopqrstuvwxyz1234567890ABCDEFGHIJKLMNOPQRSTUVWXYZ";
 
-  /// The device's advertising identifier as its UUID's text; none where the platform has no
-  /// "ASIdentifierManager". Whether the user allows tracking is not asked here.
+  /// Returns the device's advertising identifier as a UUID string; nullopt if the platform has no
+  /// "ASIdentifierManager". Does not check whether the user allows tracking: the platform returns
+  /// zeros if not.
   static std::optional<std::string> advertisingId();
 
-  /// A random number from 1 to 65534 and behind it the nanoseconds since 1970 of the platform
-  /// clock's steady wall time: 20 to 24 digits in this century and the next two.
+  /// Returns the digits of a random number from 1 to 65534, followed by those of the nanoseconds
+  /// since 1970 (Clock::steadyWallNanoseconds): 20 to 24 digits until the year 2286.
   static DecimalNumber generateShortIdentifierDecimalNumber();
-  /// The number's digits of base 62, the least significant first. Zero has none. Takes an integer
-  /// from 0 to below 10^38; empty for anything else.
+  /// Returns the number in base 62, least significant digit first; an empty string for 0 and for
+  /// anything but an integer in [0, 10^38).
   static std::string base62String(const DecimalNumber& number);
-  /// The text of a new number; 11 to 14 characters for those digits.
+  /// Returns a new number in base 62: 11 to 14 characters.
   static std::string generateShortIdentifier();
 };
 

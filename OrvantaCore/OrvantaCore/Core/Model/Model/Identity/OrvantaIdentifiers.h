@@ -4,8 +4,8 @@
 
 namespace orvanta {
 
-/// The identities that tie a request or an event to an installation, a device, a session, a user
-/// and, where it applies, a push message, a flow and a test.
+/// Identifies the installation, device, session and user of a request or an event, and the push
+/// message, flow and A/B test if there is one. Sent under "ids".
 class OrvantaIdentifiers : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaIdentifiers, OrvantaBaseModel)
 
@@ -21,11 +21,11 @@ class OrvantaIdentifiers : public OrvantaBaseModel {
   ORVANTA_PROPERTY("oid", copy, Number, abTestOptionId, setAbTestOptionId)
   ORVANTA_PROPERTY("slt", copy, Number, slotId, setSlotId)
 
-  /// Sets to nil whichever of these eleven the other has the same of. Nothing changes when the
-  /// other is nil.
+  /// Sets to nil each of the eleven properties that is equal in `other`. Null objects stay. Does
+  /// nothing if `other` is nullptr.
   void removePropertiesSameWithIdentifiers(const OrvantaIdentifiers* other);
-  /// The same for the properties of these names. A null object stays, and so does what differs.
-  /// Throws the undefined-key exception for a name that is no property.
+  /// The same for the named properties. Throws the undefined-key exception if a name is not a
+  /// property.
   void removePropertiesWithKeys(std::span<const std::string_view> names,
                                 const OrvantaIdentifiers* other);
 };

@@ -11,8 +11,8 @@ Ref<UNNotificationAction> OrvantaUserNotificationAction::interactiveAction() con
   if (activationMode_ == 0) options |= UNNotificationActionOptionForeground;
   std::string identifier(identifier_.get().value_or(""));
   std::string title(title_.get().value_or(""));
-  constexpr std::uint64_t kTakesText = 1;
-  if (behaviour_ == kTakesText) {
+  constexpr std::uint64_t kTextInput = 1;
+  if (behaviour_ == kTextInput) {
     return UNTextInputNotificationAction::actionWithIdentifier(std::move(identifier),
                                                                std::move(title), options);
   }

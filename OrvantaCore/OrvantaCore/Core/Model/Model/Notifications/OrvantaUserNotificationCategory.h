@@ -5,16 +5,17 @@
 
 namespace orvanta {
 
-/// A set of buttons under the identifier by which a notification asks for them.
+/// The buttons that a notification selects with "aps.category". Received in OrvantaAppConfig, or
+/// built from the buttons in a payload.
 class OrvantaUserNotificationCategory : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaUserNotificationCategory, OrvantaBaseModel)
 
-  /// OrvantaUserNotificationAction in the order of display.
+  /// OrvantaUserNotificationAction, in display order.
   ORVANTA_PROPERTY("ia", strong, MutableArray, actions, setActions, OrvantaUserNotificationAction)
   ORVANTA_PROPERTY("id", strong, String, identifier, setIdentifier)
 
-  /// The platform's category: every action's platform action, in order. Elements that are no
-  /// actions are passed over; an identifier that is no text is empty.
+  /// Returns the platform's category, with the actions in order. Skips elements that are not
+  /// actions; an identifier that is not a string becomes the empty string.
   UNNotificationCategory category() const;
 };
 

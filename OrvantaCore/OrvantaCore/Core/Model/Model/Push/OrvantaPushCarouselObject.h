@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// One item of a carousel notification.
+/// An item of a carousel notification.
 class OrvantaPushCarouselObject : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaPushCarouselObject, OrvantaBaseModel)
 
@@ -12,7 +12,7 @@ class OrvantaPushCarouselObject : public OrvantaBaseModel {
   ORVANTA_PROPERTY("ctitle", copy, String, title, setTitle)
   ORVANTA_PROPERTY("ctext", copy, String, text, setText)
   ORVANTA_PROPERTY("act", copy, Dictionary, actionDictionary, setActionDictionary)
-  /// A text: it is not parsed as a URL.
+  /// A string; not parsed as a URL.
   ORVANTA_PROPERTY("bpp", copy, String, mediaUrl, setMediaUrl)
 };
 

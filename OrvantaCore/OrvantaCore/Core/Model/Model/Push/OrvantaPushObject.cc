@@ -18,7 +18,7 @@ bool OrvantaPushObject::updateWithDictionary(const Dictionary* dictionary) {
                                         read(kAlertPath, "alert"));
   const Value clickAction = read(kActionPath, "action");
   {
-    const RefusalRecorder ignored;  // an action that cannot be made does not matter
+    const RefusalRecorder ignored;  // a click action that cannot be read is not a failure
     action_ = make<OrvantaPushObjectAction>(&OrvantaPushObjectAction::initWithValue, clickAction);
   }
   if (auto* action = action_.get()) action->setDeeplinkURLAsURL();

@@ -11,16 +11,19 @@
 
 namespace orvanta {
 
-/// The parsed payload of one remote notification. Made once per notification.
+/// The parsed payload of a remote notification, also received in inbox replies.
+///
+///   const auto push = make<OrvantaPushObject>(content.userInfo);  // nil if a value cannot be read
+///   if (push && push->mediaAttachmentURL().get() != nullptr) …    // the payload has a media URL
 class OrvantaPushObject : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaPushObject, OrvantaBaseModel)
 
-  /// Of "aps.alert", which may be a text or a dictionary; there after every successful update.
+  /// Parsed from "aps.alert", a string or a dictionary. Never nil after a successful update.
   ORVANTA_PROPERTY(kUnmapped, strong, OrvantaPushObjectAlert, alert, setAlert)
   ORVANTA_PROPERTY("aps.category", copy, String, interactiveCategoryIdentifier,
                    setInteractiveCategoryIdentifier)
   ORVANTA_PROPERTY("aps.sound", copy, String, sound, setSound)
-  /// kUnsetInteger when the payload has none.
+  /// kUnsetInteger if the payload has none.
   ORVANTA_PROPERTY("aps.badge", assign, std::uint64_t, badge, setBadge)
   ORVANTA_PROPERTY("_ov.pt", assign, std::uint64_t, pushType, setPushType)
   ORVANTA_PROPERTY("_ov.mu", strong, Url, mediaAttachmentURL, setMediaAttachmentURL)
@@ -35,12 +38,12 @@ class OrvantaPushObject : public OrvantaBaseModel {
   ORVANTA_PROPERTY("_ov.prms", strong, Dictionary, customDictionary, setCustomDictionary)
   ORVANTA_PROPERTY("_ov.iam", strong, OrvantaInAppMessageAction, inAppMessage, setInAppMessage,
                    OrvantaInAppMessageAction)
-  /// The click action as the payload has it; `action` is its model.
+  /// The click action as received; `action` is its model.
   ORVANTA_PROPERTY("_ov.act", strong, Dictionary, defaultActionDictionary,
                    setDefaultActionDictionary)
-  /// There after every successful update, empty when the payload has no click action.
+  /// Parsed from "_ov.act"; empty if the payload has no click action, nil if it cannot be read.
   ORVANTA_PROPERTY(kUnmapped, strong, OrvantaPushObjectAction, action, setAction)
-  /// Items as plain dictionaries, unless they name their class.
+  /// Dictionaries, or OrvantaPushCarouselObject if they name that class under "klazz".
   ORVANTA_PROPERTY("_ov.crsl", copy, Array, carousel, setCarousel)
   ORVANTA_PROPERTY("_ov.ia", strong, Array, interactiveActions, setInteractiveActions,
                    OrvantaUserNotificationAction)
@@ -50,22 +53,22 @@ class OrvantaPushObject : public OrvantaBaseModel {
   ORVANTA_READONLY("_ov.ps", strong, OrvantaPushStyle, pushStyle, OrvantaPushStyle)
   ORVANTA_READONLY("_ov.thc", assign, bool, isThumbnail)
   ORVANTA_PROPERTY(kUnmapped, assign, bool, includedInInbox, setIncludedInInbox)
-  /// The action that the user chose; setting it selects `actionDictionary`: that of the first
-  /// interactive action of this identifier, for nil the default one. An unknown identifier leaves
-  /// it as it is.
+  /// The button that the user tapped. Setting it also sets `actionDictionary`: to that of the first
+  /// button with this identifier, or to the click action for nil. An unknown identifier leaves it
+  /// unchanged.
   ORVANTA_CUSTOM_SETTER(kUnmapped, strong, String, interactiveActionIdentifier,
                         setInteractiveActionIdentifier)
-  /// What the user typed into a text-input action.
+  /// The text that the user typed into a text-input button.
   ORVANTA_PROPERTY(kUnmapped, strong, String, inputText, setInputText)
-  /// The action dictionary in force.
+  /// The action to run: the click action, until a button is selected.
   ORVANTA_PROPERTY(kUnmapped, strong, Dictionary, actionDictionary, setActionDictionary)
   ORVANTA_PROPERTY(kUnmapped, copy, Block<void()>, willPresentNotificationHandler,
                    setWillPresentNotificationHandler)
 
-  /// Reads the alert and the click action by hand, then the table. Throws the undefined-key
-  /// exception for a payload whose "aps" or "_ov" is no dictionary; so does initWithDictionary.
+  /// Reads the alert and the click action directly, then the table. Throws the undefined-key
+  /// exception if "aps" or "_ov" has no keys, such as a string or null; so does initWithDictionary.
   bool updateWithDictionary(const Dictionary* dictionary) override;
-  /// The alert's entries stand at the top level, under the object's own.
+  /// The alert's entries are at the top level; the object's own win over them.
   Dictionary dictionaryValueWithPolicy(bool classInfo) const override;
 };
 

@@ -4,17 +4,17 @@
 
 namespace orvanta {
 
-/// What a tap on the notification does.
+/// Runs when the user taps the notification. Received in push payloads ("_ov.act").
 class OrvantaPushObjectAction : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaPushObjectAction, OrvantaBaseModel)
 
   ORVANTA_PROPERTY("uri", strong, String, deeplinkURLString, setDeeplinkURLString)
   ORVANTA_PROPERTY(kUnmapped, strong, Url, deeplinkURL, setDeeplinkURL)
 
-  /// A dictionary is mapped; anything else gives an empty action.
+  /// Reads a dictionary; any other value gives an empty action.
   bool initWithValue(const Value& value);
-  /// Sets the URL from the text, every character outside the URL-host set percent-encoded: of
-  /// "shop://a/b" it makes "shop:%2F%2Fa%2Fb". None when there is no text.
+  /// Sets `deeplinkURL` from the string, with every character outside the platform's URL-host set
+  /// percent-encoded: "shop://a/b" becomes "shop:%2F%2Fa%2Fb". Nil without a string.
   void setDeeplinkURLAsURL();
 };
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The texts that a payload shows.
+/// The strings that a notification displays. Received in push payloads ("aps.alert").
 class OrvantaPushObjectAlert : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaPushObjectAlert, OrvantaBaseModel)
 
@@ -12,9 +12,9 @@ class OrvantaPushObjectAlert : public OrvantaBaseModel {
   ORVANTA_PROPERTY("subtitle", copy, String, subtitle, setSubtitle)
   ORVANTA_PROPERTY("body", copy, String, body, setBody)
 
-  /// An alert of a body alone.
+  /// An alert with a body only.
   bool initWithString(const Value& body);
-  /// A text is the body, a dictionary is mapped; anything else gives an empty alert.
+  /// Takes a string as body and reads a dictionary; any other value gives an empty alert.
   bool initWithValue(const Value& value);
 };
 

@@ -4,12 +4,13 @@
 
 namespace orvanta {
 
-/// How a payload wants its notification to look.
+/// The appearance of a notification. Received in push payloads ("_ov.ps").
 class OrvantaPushStyle : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaPushStyle, OrvantaBaseModel)
 
   ORVANTA_PROPERTY("ffm", copy, String, fontFamily, setFontFamily)
-  /// The name of an image in the application's resources, shown as the sender's picture.
+  /// Name of an image in the application's resources. Its presence makes the notification a
+  /// communication notification with this image of the sender.
   ORVANTA_READONLY("iospi", copy, String, pushIcon)
 };
 

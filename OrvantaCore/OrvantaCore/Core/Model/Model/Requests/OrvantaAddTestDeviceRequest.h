@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Makes the device a test device.
+/// Registers the device as a test device.
 class OrvantaAddTestDeviceRequest : public OrvantaBaseRequest {
   ORVANTA_UNRANKED_REQUEST(OrvantaAddTestDeviceRequest, OrvantaRequestPathTypeAddTestDevice,
                            OrvantaBaseResponseModel)

@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// Asks for the configuration.
+/// Fetches the application's configuration.
 class OrvantaAppConfigRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaAppConfigRequest, OrvantaRequestPathTypeAppConfig,
                   OrvantaAppConfigResponse)

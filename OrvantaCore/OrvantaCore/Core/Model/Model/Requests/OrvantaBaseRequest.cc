@@ -8,8 +8,8 @@ ORVANTA_IMPLEMENTATION(OrvantaBaseRequest)
 
 namespace {
 
-Held<String> text(std::optional<std::string_view> found) {
-  return found ? Held<String>(*found) : nullptr;
+Held<String> stringOrNil(std::optional<std::string_view> string) {
+  return string ? Held<String>(*string) : nullptr;
 }
 
 }  // namespace
@@ -30,8 +30,8 @@ Ref<OrvantaRequestSpec> OrvantaBaseRequest::requestSpec() const {
   constexpr double kTimeout = 20.0;
   auto spec = Ref<OrvantaRequestSpec>::adopt(new OrvantaRequestSpec);
   spec->HTTPBody = dictionaryValue();
-  spec->HTTPMethod = text(OrvantaHTTPMethodStringForType(HTTPMethod_));
-  spec->path = text(OrvantaRequestPathStringForType(path_));
+  spec->HTTPMethod = stringOrNil(OrvantaHTTPMethodStringForType(HTTPMethod_));
+  spec->path = stringOrNil(OrvantaRequestPathStringForType(path_));
   spec->queuePriority = queuePriority_;
   spec->timeoutInterval = kTimeout;
   return spec;

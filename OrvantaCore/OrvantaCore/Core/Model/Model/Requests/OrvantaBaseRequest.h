@@ -11,40 +11,41 @@
 
 namespace orvanta {
 
-/// Base of every request of the back end. A request may be stored as its dictionary and restored;
-/// whenever it is sent it is turned into a spec.
+/// Base of the requests to the back end. The sending layer stores a request as its dictionary,
+/// restores it, and sends it as an OrvantaRequestSpec.
 class OrvantaBaseRequest : public OrvantaBaseModel, public OrvantaPersistenceModel {
   ORVANTA_MODEL(OrvantaBaseRequest, OrvantaBaseModel)
 
   ORVANTA_PROTOCOL_PROPERTY(kUnmapped, strong, Number, storageId, setStorageId)
-  /// The storage ids of the records that were folded into this request; empty at first.
+  /// The storage ids of the requests that were merged into this one; initially empty.
   ORVANTA_PROTOCOL_PROPERTY(kUnmapped, strong, MutableArray, idsContained, setIdsContained)
-  /// OrvantaHTTPMethodType and OrvantaRequestPathType.
+  /// OrvantaHTTPMethodType; `path` is an OrvantaRequestPathType.
   ORVANTA_PROPERTY(kUnmapped, assign, std::uint64_t, HTTPMethod, setHTTPMethod)
   ORVANTA_PROPERTY(kUnmapped, assign, std::uint64_t, path, setPath)
   ORVANTA_PROPERTY(kUnmapped, assign, std::int64_t, queuePriority, setQueuePriority)
-  /// The model of the reply's body.
+  /// The class of the reply's model.
   ORVANTA_PROPERTY(kUnmapped, strong, ClassReference, responseClass, setResponseClass)
   ORVANTA_PROPERTY("ids", strong, OrvantaIdentifiers, identifiers, setIdentifiers,
                    OrvantaIdentifiers)
 
-  /// The update, and then `setUp`, once per object.
+  /// Updates from the dictionary, then calls `setUp`.
   bool initWithDictionary(const Dictionary* dictionary) override;
-  /// What the class says of every request of it. An override calls the superclass's first.
+  /// Sets what all requests of the class share: endpoint, method, class of the reply. Called once
+  /// per object. An override calls the superclass's first.
   virtual void setUp();
-  /// For the order in which stored requests are sent; none where a class does not rank its
-  /// requests.
+  /// Priority among the stored requests that wait to be sent; nullopt if the class has none.
   virtual std::optional<std::int64_t> priority() const { return std::nullopt; }
-  /// This request as one call: POST unless told otherwise, 20 seconds, its dictionary as the body.
+  /// Returns this request as an HTTP call: its method (default POST), a timeout of 20 seconds, its
+  /// dictionary as the body.
   virtual Ref<OrvantaRequestSpec> requestSpec() const;
-  /// The ids contained, for adding to them.
+  /// Mutable access to `idsContained`.
   Array& editIdsContained() { return idsContained_.editArray(); }
 
-  /// The spec, storage id and ids contained.
+  /// Describes the spec, the storage id and the contained ids. Calls requestSpec.
   std::string description() const override;
 };
 
-/// Opens the body of a class of requests: its endpoint and the model of its reply.
+/// Starts the body of a request class: its endpoint and the model of its reply.
 #define ORVANTA_UNRANKED_REQUEST(Self_, path_, Response_) \
   ORVANTA_MODEL(Self_, OrvantaBaseRequest)                \
   void setUp() override {                                 \
@@ -52,13 +53,14 @@ class OrvantaBaseRequest : public OrvantaBaseModel, public OrvantaPersistenceMod
     setPath(path_);                                       \
     setResponseClass(Response_::classObject());           \
   }
-/// The same for one whose requests have the priority 1.
+/// The same with priority 1.
 #define ORVANTA_REQUEST(Self_, path_, Response_)    \
   ORVANTA_UNRANKED_REQUEST(Self_, path_, Response_) \
   std::optional<std::int64_t> priority() const override { return 1; }
 
-/// A filter whose keys stand over the request's own in its dictionary, always without class info.
-/// A request that is read makes its filter of the same dictionary first, and refuses with it.
+/// Declares a filter whose keys are mixed with the request's own and win over them. The filter is
+/// written without class info. Reading a request reads its filter from the same dictionary first,
+/// and fails if that fails.
 #define ORVANTA_FILTER(Filter_)                                         \
   ORVANTA_PROPERTY(kUnmapped, strong, Filter_, filter, setFilter)       \
   ORVANTA_INITIALISER(initWithFilter, init, filter)                     \
@@ -68,8 +70,8 @@ class OrvantaBaseRequest : public OrvantaBaseModel, public OrvantaPersistenceMod
   }                                                                     \
   Dictionary dictionaryValueWithPolicy(bool classInfo) const override { \
     Dictionary result = Super::dictionaryValueWithPolicy(classInfo);    \
-    if (const auto* held = filter_.get())                               \
-      result.addEntries(held->dictionaryValueWithPolicy(false));        \
+    if (const auto* filter = filter_.get())                             \
+      result.addEntries(filter->dictionaryValueWithPolicy(false));      \
     return result;                                                      \
   }
 

@@ -4,11 +4,11 @@
 
 namespace orvanta {
 
-/// Which coupons are asked for.
+/// Selects a page of coupons.
 class OrvantaCouponFilter : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaCouponFilter, OrvantaBaseModel)
 
-  /// The first is 0.
+  /// Counted from 0.
   ORVANTA_PROPERTY("page", assign, std::int32_t, page, setPage)
   ORVANTA_PROPERTY("max", assign, std::int32_t, max, setMax)
 };

@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// Tells everything about the device.
+/// Reports all facts about the device.
 class OrvantaDeviceInfoRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaDeviceInfoRequest, OrvantaRequestPathTypeDeviceInfo,
                   OrvantaDeviceInfoResponse)

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The user refused the advertising identifier.
+/// Reports that the user denied the use of the advertising identifier.
 class OrvantaDisableAdIdRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaDisableAdIdRequest, OrvantaRequestPathTypeDisableAdId,
                   OrvantaBaseResponseModel)

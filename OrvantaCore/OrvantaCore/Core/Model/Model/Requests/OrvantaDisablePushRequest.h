@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The user refused notifications.
+/// Reports that the user disabled notifications.
 class OrvantaDisablePushRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaDisablePushRequest, OrvantaRequestPathTypeDisablePush,
                   OrvantaBaseResponseModel)

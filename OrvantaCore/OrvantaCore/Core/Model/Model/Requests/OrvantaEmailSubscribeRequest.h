@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The user allowed or refused e-mails.
+/// Reports whether the user subscribed to e-mails.
 class OrvantaEmailSubscribeRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaEmailSubscribeRequest, OrvantaRequestPathTypeEmailSubscribe,
                   OrvantaBaseResponseModel)

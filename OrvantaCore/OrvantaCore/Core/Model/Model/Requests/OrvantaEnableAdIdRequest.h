@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The user allowed the advertising identifier.
+/// Reports that the user allowed the use of the advertising identifier.
 class OrvantaEnableAdIdRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaEnableAdIdRequest, OrvantaRequestPathTypeEnableAdId,
                   OrvantaBaseResponseModel)

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The user allowed notifications.
+/// Reports that the user enabled notifications.
 class OrvantaEnablePushRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaEnablePushRequest, OrvantaRequestPathTypeEnablePush,
                   OrvantaBaseResponseModel)

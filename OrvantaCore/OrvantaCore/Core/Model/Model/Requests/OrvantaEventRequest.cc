@@ -22,10 +22,10 @@ bool OrvantaEventRequest::initWithEventArray(const Array& events) {
 
 void OrvantaEventRequest::mergeEventsFromEventRequest(OrvantaEventRequest& other,
                                                       bool& limitReached) {
-  const Array* held = other.events_.get();
-  const Array theirs = held != nullptr ? *held : Array();
+  const Array* stored = other.events_.get();
+  const Array theirs = stored != nullptr ? *stored : Array();
   Array& own = editEvents();
-  const std::uint64_t room = kBatchLimit - own.size();  // wraps around beyond the limit
+  const std::uint64_t room = kBatchLimit - own.size();  // wraps around above the limit: unlimited
   const auto taken = static_cast<std::size_t>(std::min<std::uint64_t>(room, theirs.size()));
   for (std::size_t i = 0; i < taken; ++i) {
     auto* event = theirs[i].as<OrvantaEvent>();

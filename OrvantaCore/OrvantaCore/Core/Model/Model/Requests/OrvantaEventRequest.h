@@ -4,35 +4,36 @@
 
 namespace orvanta {
 
-/// A batch of events. Events are stored as requests of one event each; before they are sent, stored
-/// requests are folded into a leading one. Elements of `events` that are no events count as
-/// elements, but are neither given identifiers nor stripped of them.
+/// Sends a batch of events. Events are stored as requests with one event each; the sending layer
+/// merges stored requests into a leading one. Elements of `events` that are not events count toward
+/// the limit, but their identifiers are neither set nor removed.
 class OrvantaEventRequest : public OrvantaBaseRequest {
   ORVANTA_UNRANKED_REQUEST(OrvantaEventRequest, OrvantaRequestPathTypeEvent,
                            OrvantaBaseResponseModel)
 
   static constexpr std::uint64_t kBatchLimit = 100;
 
-  /// The oldest first. Restored ones are events when they name their class under "klazz".
+  /// Oldest first. Elements restored from a dictionary are events if they name their class under
+  /// "klazz".
   ORVANTA_PROPERTY("events", strong, MutableArray, events, setEvents)
 
   bool init() override;
-  /// All these events, however many.
+  /// Takes all events, also more than kBatchLimit.
   bool initWithEventArray(const Array& events);
-  /// The events, for changing them in place.
+  /// Mutable access to `events`.
   Array& editEvents() { return events_.editArray(); }
 
-  /// Moves the first events of the other request behind this one's, as many as the batch limit
-  /// leaves room for; with more than that here already, all of them. A moved event without
-  /// identifiers gets the other request's, the same object: a spec of this one strips that too, so
-  /// give the other a copy first if it goes on. The other's storage id is added to the
-  /// ids contained in any case. `limitReached` tells whether there are now exactly kBatchLimit.
+  /// Moves the first events of `other` to the end of this request, up to kBatchLimit events in all;
+  /// if there are more than that already, moves all of them. A moved event without identifiers gets
+  /// those of `other`. They share one object, which requestSpec of this request changes: give
+  /// `other` a copy first if it is still used. Always adds the storage id of `other` to the
+  /// contained ids. Sets `limitReached` if there are now exactly kBatchLimit events.
   void mergeEventsFromEventRequest(OrvantaEventRequest& other, bool& limitReached);
 
-  /// Removes from the identifiers of every event what the request's own have the same of, for good,
-  /// and makes the spec. `description` makes one on its way, and so strips the events as well.
+  /// Removes from each event the identifiers that are equal in the request, and returns the spec.
+  /// The events stay changed; so they do after `description`, which calls this.
   Ref<OrvantaRequestSpec> requestSpec() const override;
-  /// 1 with more than one event, else that of the event; 0 without.
+  /// 1 for more than one event, the event's priority for one, 0 for none.
   std::optional<std::int64_t> priority() const override;
 };
 

@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// Asks for coupons.
+/// Fetches a page of the user's coupons.
 class OrvantaFetchCouponRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaFetchCouponRequest, OrvantaRequestPathTypeFetchCoupon,
                   OrvantaFetchCouponResponse)

@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// Asks for the categories of the inbox.
+/// Fetches the categories of the inbox.
 class OrvantaFetchInboxCategoryRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaFetchInboxCategoryRequest, OrvantaRequestPathTypeFetchInboxCategory,
                   OrvantaInboxCategoryResponse)

@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// Asks how many messages the inbox holds.
+/// Fetches the number of messages in the inbox, by status.
 class OrvantaFetchInboxCountRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaFetchInboxCountRequest, OrvantaRequestPathTypeFetchInboxCount,
                   OrvantaInboxCountResponse)

@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// Asks for a page of the inbox.
+/// Fetches a page of the inbox.
 class OrvantaFetchInboxRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaFetchInboxRequest, OrvantaRequestPathTypeFetchInbox, OrvantaInboxResponse)
 

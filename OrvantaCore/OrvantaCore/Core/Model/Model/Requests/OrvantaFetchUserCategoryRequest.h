@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// Asks for the preferences of the user.
+/// Fetches the user's notification preferences, by category.
 class OrvantaFetchUserCategoryRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaFetchUserCategoryRequest, OrvantaRequestPathTypeFetchUserCategory,
                   OrvantaFetchUserCategoryResponse)

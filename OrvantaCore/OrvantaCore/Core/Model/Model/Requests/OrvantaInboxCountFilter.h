@@ -4,16 +4,16 @@
 
 namespace orvanta {
 
-/// Which messages of the inbox are counted.
+/// Selects the messages of the inbox to count.
 class OrvantaInboxCountFilter : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaInboxCountFilter, OrvantaBaseModel)
 
-  /// A mask of 1 (read), 2 (unread) and 4 (deleted).
+  /// Bit mask: 1 read, 2 unread, 4 deleted.
   ORVANTA_PROPERTY("st", assign, std::uint64_t, status, setStatus)
   ORVANTA_PROPERTY("cats", strong, Array, categories, setCategories)
   ORVANTA_PROPERTY("ie", assign, bool, shouldIncludeExpiredObjects, setShouldIncludeExpiredObjects)
 
-  /// Read and unread messages that have not expired.
+  /// Selects read and unread messages that have not expired.
   bool init() override;
 };
 

@@ -4,19 +4,19 @@
 
 namespace orvanta {
 
-/// Which messages of the inbox are asked for.
+/// Selects messages of the inbox.
 class OrvantaInboxFilter : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaInboxFilter, OrvantaBaseModel)
 
-  /// A mask of 1 (read), 2 (unread) and 4 (deleted).
+  /// Bit mask: 1 read, 2 unread, 4 deleted.
   ORVANTA_PROPERTY("st", assign, std::uint64_t, status, setStatus)
   ORVANTA_PROPERTY("cats", strong, Array, categories, setCategories)
   ORVANTA_PROPERTY("ps", assign, std::int32_t, pageSize, setPageSize)
   ORVANTA_PROPERTY("ie", assign, bool, shouldIncludeExpiredObjects, setShouldIncludeExpiredObjects)
-  /// Those of the reply with the page before.
+  /// From the reply with the previous page; nil for the first page.
   ORVANTA_PROPERTY("prms", strong, Dictionary, pagingParams, setPagingParams)
 
-  /// Read and unread messages that have not expired, on one page without limit.
+  /// Selects read and unread messages that have not expired, all on one page.
   bool init() override;
 };
 

@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// Begins a session.
+/// Starts a session.
 class OrvantaInitSessionRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaInitSessionRequest, OrvantaRequestPathTypeInitSession,
                   OrvantaInitSessionResponse)
@@ -14,12 +14,12 @@ class OrvantaInitSessionRequest : public OrvantaBaseRequest {
   ORVANTA_PROPERTY("cfgV", strong, Number, appConfigVersion, setAppConfigVersion)
   ORVANTA_PROPERTY("info", strong, OrvantaAppDeviceInfo, appDeviceInfo, setAppDeviceInfo,
                    OrvantaAppDeviceInfo)
-  /// kUnsetInteger when not given.
+  /// kUnsetInteger if unset.
   ORVANTA_PROPERTY("tz", assign, std::int64_t, timeZoneOffset, setTimeZoneOffset)
   ORVANTA_PROPERTY("ts", strong, Date, creationDate, setCreationDate)
   ORVANTA_PROPERTY("an", assign, bool, isTurnedOffTracking, setIsTurnedOffTracking)
 
-  /// Marks the time zone's offset as not given, then reads.
+  /// Resets `timeZoneOffset` to kUnsetInteger, then reads.
   bool updateWithDictionary(const Dictionary* dictionary) override;
 };
 

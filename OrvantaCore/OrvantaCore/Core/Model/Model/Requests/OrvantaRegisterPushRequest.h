@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Registers the device for notifications.
+/// Registers the device's push token.
 class OrvantaRegisterPushRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaRegisterPushRequest, OrvantaRequestPathTypeRegisterPush,
                   OrvantaBaseResponseModel)

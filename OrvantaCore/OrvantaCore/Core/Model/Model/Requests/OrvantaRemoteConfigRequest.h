@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// Asks for the remote configuration.
+/// Fetches the remote configuration.
 class OrvantaRemoteConfigRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaRemoteConfigRequest, OrvantaRequestPathTypeRemoteConfig,
                   OrvantaRemoteConfigResponse)

@@ -4,7 +4,7 @@ namespace orvanta {
 
 namespace {
 
-/// The paths of the codes from 1 on.
+/// Indexed by code - 1.
 constexpr std::string_view kPaths[] = {
     "/session/init",
     "/config/get",

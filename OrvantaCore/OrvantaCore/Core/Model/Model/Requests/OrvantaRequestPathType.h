@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// The endpoints of the back end; a request holds one as a plain number.
+/// The endpoints of the back end. A request stores one as a plain number.
 enum OrvantaRequestPathType : std::uint64_t {
   OrvantaRequestPathTypeInitSession = 1,
   OrvantaRequestPathTypeAppConfig = 2,
@@ -40,9 +40,9 @@ enum OrvantaHTTPMethodType : std::uint64_t {
 };
 inline constexpr std::uint64_t kHTTPMethodTypes = 4;
 
-/// The path of an endpoint; none for a code that is none, 0 among them.
+/// Returns the path of an endpoint ("/session/init"); nullopt for an unknown code, such as 0.
 std::optional<std::string_view> OrvantaRequestPathStringForType(std::uint64_t code);
-/// "POST" and so on; none for a code that is none.
+/// Returns the name of a method ("POST"); nullopt for an unknown code.
 std::optional<std::string_view> OrvantaHTTPMethodStringForType(std::uint64_t code);
 
 }  // namespace orvanta

@@ -8,7 +8,7 @@ namespace orvanta {
 
 namespace {
 
-/// "%lf".
+/// Formats like "%lf" in the C locale.
 std::string fixedPoint(double number) {
   char text[400];  // the largest double has 309 digits before the point
   const auto end = std::to_chars(text, std::end(text), number, std::chars_format::fixed, 6).ptr;

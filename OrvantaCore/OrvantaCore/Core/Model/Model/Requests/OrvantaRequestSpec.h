@@ -4,8 +4,8 @@
 
 namespace orvanta {
 
-/// One call of the back end, whatever carries it. The sending layer fills the base URL and adds
-/// headers.
+/// One HTTP call to the back end, independent of the transport. The sending layer sets the base URL
+/// and adds headers.
 class OrvantaRequestSpec final : public Object {
  public:
   static constexpr const ClassObject& classObject() { return kClass; }
@@ -14,12 +14,12 @@ class OrvantaRequestSpec final : public Object {
   Held<String> baseURL;
   Held<String> path;
   Held<String> HTTPMethod;
-  Dictionary HTTPHeaders;        // text to text
-  Dictionary HTTPBody;           // ready for JSON
+  Dictionary HTTPHeaders;        // strings to strings
+  Dictionary HTTPBody;           // can be written as JSON
   double timeoutInterval = 0.0;  // seconds
   std::int64_t queuePriority = 0;
 
-  /// A line for each of these, in their order, each after a line break.
+  /// One line per member, in this order, each preceded by a line break.
   std::string description() const override;
 
  private:

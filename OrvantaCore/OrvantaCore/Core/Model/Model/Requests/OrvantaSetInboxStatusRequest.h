@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Changes the status of messages of the inbox.
+/// Changes the status of messages in the inbox: 1 read, 2 unread, 4 deleted.
 class OrvantaSetInboxStatusRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaSetInboxStatusRequest, OrvantaRequestPathTypeSetInboxStatus,
                   OrvantaBaseResponseModel)
@@ -16,7 +16,7 @@ class OrvantaSetInboxStatusRequest : public OrvantaBaseRequest {
 
   ORVANTA_INITIALISER(initWithPushInstanceIds, init, pushInstanceIds, status)
   ORVANTA_INITIALISER(initWithPushCategories, init, categories, status)
-  /// Of all messages.
+  /// Changes all messages.
   bool initWithForAllObjectStatus(std::uint64_t status);
 };
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Changes a preference of the user.
+/// Changes the user's notification preference for a category.
 class OrvantaSetUserCategoryRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaSetUserCategoryRequest, OrvantaRequestPathTypeSetUserCategory,
                   OrvantaBaseResponseModel)

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Tells the advertising identifier.
+/// Reports the advertising identifier.
 class OrvantaUpdateDeviceRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaUpdateDeviceRequest, OrvantaRequestPathTypeUpdateDevice,
                   OrvantaBaseResponseModel)

@@ -6,17 +6,18 @@
 
 namespace orvanta {
 
-/// Tells who the user is.
+/// Reports the user's profile.
 class OrvantaUpdateUserRequest : public OrvantaBaseRequest {
   ORVANTA_REQUEST(OrvantaUpdateUserRequest, OrvantaRequestPathTypeUpdateUser,
                   OrvantaIdentifyUserResponse)
 
   ORVANTA_PROPERTY("email", copy, String, email, setEmail)
   ORVANTA_PROPERTY("msisdn", copy, String, msisdn, setMsisdn)
-  /// The profile.
+  /// The dictionary of an OrvantaUser.
   ORVANTA_PROPERTY("prfl", strong, Dictionary, userPayload, setUserPayload)
 
-  /// Takes the e-mail address, the mobile number, and the rest as the profile. Nothing of nullptr.
+  /// Copies the e-mail address and the mobile number, and the user's dictionary as the profile.
+  /// Sets nothing for nullptr.
   bool initWithUser(const OrvantaUser* user);
 };
 

@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// A reply with the configuration.
+/// Reply to OrvantaAppConfigRequest.
 class OrvantaAppConfigResponse : public OrvantaBaseResponseModel {
   ORVANTA_MODEL(OrvantaAppConfigResponse, OrvantaBaseResponseModel)
 

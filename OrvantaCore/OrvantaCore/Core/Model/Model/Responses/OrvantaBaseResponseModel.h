@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Base of the models of replies, and the model of a reply that says nothing.
+/// Base of the replies; itself the model of a reply without data.
 class OrvantaBaseResponseModel : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaBaseResponseModel, OrvantaBaseModel)
 };

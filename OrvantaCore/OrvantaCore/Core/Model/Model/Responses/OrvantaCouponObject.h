@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// One coupon.
+/// A coupon of the user.
 class OrvantaCouponObject : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaCouponObject, OrvantaBaseModel)
 

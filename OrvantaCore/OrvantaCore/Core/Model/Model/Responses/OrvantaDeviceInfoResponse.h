@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The reply to the device information.
+/// Reply to OrvantaDeviceInfoRequest.
 class OrvantaDeviceInfoResponse : public OrvantaBaseResponseModel {
   ORVANTA_MODEL(OrvantaDeviceInfoResponse, OrvantaBaseResponseModel)
 

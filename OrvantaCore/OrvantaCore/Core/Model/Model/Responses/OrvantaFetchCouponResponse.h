@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// The coupons of the user.
+/// Reply to OrvantaFetchCouponRequest.
 class OrvantaFetchCouponResponse : public OrvantaBaseResponseModel {
   ORVANTA_MODEL(OrvantaFetchCouponResponse, OrvantaBaseResponseModel)
 

@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// The preferences of the user.
+/// Reply to OrvantaFetchUserCategoryRequest.
 class OrvantaFetchUserCategoryResponse : public OrvantaBaseResponseModel {
   ORVANTA_MODEL(OrvantaFetchUserCategoryResponse, OrvantaBaseResponseModel)
 

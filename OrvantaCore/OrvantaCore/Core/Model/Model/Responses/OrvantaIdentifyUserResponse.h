@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The reply to an update of the user.
+/// Reply to OrvantaUpdateUserRequest.
 class OrvantaIdentifyUserResponse : public OrvantaBaseResponseModel {
   ORVANTA_MODEL(OrvantaIdentifyUserResponse, OrvantaBaseResponseModel)
 

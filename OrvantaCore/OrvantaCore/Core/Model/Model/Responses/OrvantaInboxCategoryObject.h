@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// One category of the inbox.
+/// A category of the inbox.
 class OrvantaInboxCategoryObject : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaInboxCategoryObject, OrvantaBaseModel)
 

@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// The categories of the inbox.
+/// Reply to OrvantaFetchInboxCategoryRequest. `pagingParams` select the next page in its filter.
 class OrvantaInboxCategoryResponse : public OrvantaBaseResponseModel {
   ORVANTA_MODEL(OrvantaInboxCategoryResponse, OrvantaBaseResponseModel)
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// How many messages of a category have which status.
+/// The number of messages of a category, by status.
 class OrvantaInboxCategoryStatusObject : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaInboxCategoryStatusObject, OrvantaBaseModel)
 

@@ -5,12 +5,12 @@
 
 namespace orvanta {
 
-/// A page of the inbox.
+/// Reply to OrvantaFetchInboxRequest: a page of the inbox.
 class OrvantaInboxResponse : public OrvantaBaseResponseModel {
   ORVANTA_MODEL(OrvantaInboxResponse, OrvantaBaseResponseModel)
 
   ORVANTA_PROPERTY("msgs", strong, Array, objects, setObjects, OrvantaPushObject)
-  /// For the filter of the next page.
+  /// Selects the next page in its filter.
   ORVANTA_PROPERTY("prms", strong, Dictionary, pagingParams, setPagingParams)
   ORVANTA_PROPERTY("cnts", strong, Dictionary, counts, setCounts)
 };

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The reply to the beginning of a session.
+/// Reply to OrvantaInitSessionRequest.
 class OrvantaInitSessionResponse : public OrvantaAppConfigResponse {
   ORVANTA_MODEL(OrvantaInitSessionResponse, OrvantaAppConfigResponse)
 

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The remote configuration.
+/// Reply to OrvantaRemoteConfigRequest.
 class OrvantaRemoteConfigResponse : public OrvantaBaseResponseModel {
   ORVANTA_MODEL(OrvantaRemoteConfigResponse, OrvantaBaseResponseModel)
 

@@ -4,8 +4,8 @@
 
 namespace orvanta {
 
-/// The profile that the application sets for its user. User id, e-mail address and mobile number
-/// are no part of its dictionary.
+/// The user's profile, set by the application. Sent in OrvantaUpdateUserRequest. The user id,
+/// e-mail address and mobile number are not in its dictionary.
 class OrvantaUser : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaUser, OrvantaBaseModel)
 
@@ -17,7 +17,7 @@ class OrvantaUser : public OrvantaBaseModel {
   ORVANTA_PROPERTY("pb", copy, String, surname, setSurname)
   ORVANTA_PROPERTY("po", copy, String, language, setLanguage)
   ORVANTA_PROPERTY("pe", copy, Date, dateOfBirth, setDateOfBirth)
-  /// This and the next two: kUnsetInteger when not given.
+  /// kUnsetInteger if unset, like the next two.
   ORVANTA_PROPERTY("pd", assign, std::uint64_t, gender, setGender)
   ORVANTA_PROPERTY("pf", assign, std::uint64_t, maritalStatus, setMaritalStatus)
   ORVANTA_PROPERTY("pg", assign, std::uint64_t, numberOfChildren, setNumberOfChildren)
@@ -30,7 +30,7 @@ class OrvantaUser : public OrvantaBaseModel {
   ORVANTA_PROPERTY("pn", copy, String, favouriteTeam, setFavouriteTeam)
   ORVANTA_PROPERTY("pc", copy, Array, externalSegments, setExternalSegments)
 
-  /// Marks the two codes and the count as not given, then reads.
+  /// Resets `gender`, `maritalStatus` and `numberOfChildren` to kUnsetInteger, then reads.
   bool updateWithDictionary(const Dictionary* dictionary) override;
 };
 

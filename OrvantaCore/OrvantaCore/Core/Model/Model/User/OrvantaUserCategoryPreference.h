@@ -4,7 +4,8 @@
 
 namespace orvanta {
 
-/// Whether the user wants the notifications of a category.
+/// Whether the user wants notifications of a category. Received in the reply to
+/// OrvantaFetchUserCategoryRequest.
 class OrvantaUserCategoryPreference : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaUserCategoryPreference, OrvantaBaseModel)
 
