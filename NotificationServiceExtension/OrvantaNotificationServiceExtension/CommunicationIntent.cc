@@ -19,7 +19,7 @@ constexpr LogSite site(int line) {
       "OrvantaNotificationServiceExtension", line};
 }
 
-/// The JPEG data of a picture in the bundle's resources.
+/// Returns the JPEG bytes of an image in the bundle's resources.
 std::optional<std::string> jpegData(std::string_view name) {
   constexpr double kBestQuality = 1.0;
   Images* images = Platform::current().images();
@@ -28,15 +28,16 @@ std::optional<std::string> jpegData(std::string_view name) {
   return image ? images->JPEGRepresentation(image, kBestQuality) : std::nullopt;
 }
 
-/// The content's title as sender and its subtitle, if any, as group, with one picture for both.
-INSendMessageIntent intentFor(const UNNotificationContent& content, const INImage& picture) {
+/// Returns an intent with the content's title as sender and its subtitle, if any, as group. The
+/// image is used for both.
+INSendMessageIntent intentFor(const UNNotificationContent& content, const INImage& image) {
   INSendMessageIntent intent;
   intent.sender.personHandle.value = content.title.value_or("");
-  intent.sender.image = picture;
+  intent.sender.image = image;
   if (!content.subtitle.value_or("").empty()) {
     intent.speakableGroupName = INSpeakableString{*content.subtitle};
     intent.recipients = {INPerson{}};
-    intent.speakableGroupNameImage = picture;
+    intent.speakableGroupNameImage = image;
   }
   return intent;
 }

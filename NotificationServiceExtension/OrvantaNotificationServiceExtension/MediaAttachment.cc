@@ -21,11 +21,11 @@ constexpr LogSite site(int line) {
       "OrvantaNotificationServiceExtension", line};
 }
 
-/// "label" and what "%@" prints of a value.
-auto labelled(std::string_view label, const Value& value) {
+/// Returns a log message: the label, then the value formatted like "%@".
+auto labeled(std::string_view label, const Value& value) {
   return [label, &value] { return std::string(label) + describe(value); };
 }
-auto labelled(std::string_view label, const std::optional<std::string>& text) {
+auto labeled(std::string_view label, const std::optional<std::string>& text) {
   return [label, &text] { return std::string(label) + text.value_or("(null)"); };
 }
 
@@ -50,7 +50,7 @@ void OrvantaNotificationServiceExtension::downloadAndSetMediaImageForNotificatio
   const Ref<OrvantaPushObject> object = pushObject();
   const Url* media = object ? requestedEnrichments(*object).media : nullptr;
   const Value mediaValue = orNil(media);
-  logDebug(site(175), labelled("Start request with URL : ", mediaValue));
+  logDebug(site(175), labeled("Start request with URL : ", mediaValue));
   Platform& platform = Platform::current();
   NSURLSession* session = platform.sharedSession();
   if (session == nullptr || platform.defaultManager() == nullptr ||
@@ -80,9 +80,9 @@ Ref<NSError> OrvantaNotificationServiceExtension::attach(
   Platform& platform = Platform::current();
   const std::optional<std::string> mimeType = response ? response->MIMEType() : std::nullopt;
   const auto type = platform.typeIdentifiers()->preferredIdentifierForMIMEType(mimeType);
-  logDebug(site(190), labelled("Response : ", Value(response)));
-  logDebug(site(191), labelled("MIME Type : ", mimeType));
-  logDebug(site(192), labelled("UTI : ", type));
+  logDebug(site(190), labeled("Response : ", Value(response)));
+  logDebug(site(191), labeled("MIME Type : ", mimeType));
+  logDebug(site(192), labeled("UTI : ", type));
 
   const std::optional<Url> caches = cacheURL();
   if (!caches) return unsupportedURL();
@@ -91,17 +91,18 @@ Ref<NSError> OrvantaNotificationServiceExtension::attach(
     logError(site(198), [&] { return "Attachment move error: " + error->debugDescription(); });
     return error;
   }
-  logDebug(site(202), labelled("URL : ", Value(destination)));
+  logDebug(site(202), labeled("URL : ", Value(destination)));
 
   auto [attachment, error] =
       platform.attachments()->attachmentWithIdentifier("attachment", destination, type);
   if (error) {
-    const Ref<NSError>& refused = error;
-    logError(site(211), [&] { return "Attachment create error: " + refused->debugDescription(); });
-    return refused;
+    const Ref<NSError>& creationError = error;  // lambdas cannot capture structured bindings
+    logError(site(211),
+             [&] { return "Attachment create error: " + creationError->debugDescription(); });
+    return creationError;
   }
-  const Value made(attachment);
-  logDebug(site(215), labelled("Present Attachment : ", made));
+  const Value attachmentValue(attachment);
+  logDebug(site(215), labeled("Present Attachment : ", attachmentValue));
   content.attachments = {std::move(attachment)};
   return nullptr;
 }

@@ -43,12 +43,12 @@ void NotificationHelper::setNotificationCategories(
   center->getNotificationCategories(
       [categories, center, completion](const UNNotificationCategorySet& registered) {
         std::vector<UNNotificationCategory> merged;
-        Dictionary places;  // by identifier, where it stands in the merged ones
+        Dictionary indices;  // identifier to index in `merged`
         const auto enter = [&](const UNNotificationCategory& category) {
-          if (const auto place = places[category.identifier].number()) {
-            merged[place->unsignedLongLongValue()] = category;
+          if (const auto index = indices[category.identifier].number()) {
+            merged[index->unsignedLongLongValue()] = category;
           } else {
-            places.set(category.identifier, merged.size());
+            indices.set(category.identifier, merged.size());
             merged.push_back(category);
           }
         };

@@ -8,25 +8,26 @@
 
 namespace orvanta {
 
-/// Builds categories and registers them.
+/// Builds notification categories and registers them with the center. Called by the extension
+/// before its other steps, for a payload with buttons.
 class NotificationHelper {
  public:
-  /// Told true, always; may be empty.
+  /// Always receives true. May be empty.
   using Completion = std::function<void(bool)>;
 
-  /// The two fixed categories, "OrvantaCarousel" and "OrvantaGeneral", and then the category of
-  /// every OrvantaUserNotificationCategory of the array.
+  /// Returns the two fixed categories, "OrvantaCarousel" and "OrvantaGeneral", followed by the
+  /// category of each OrvantaUserNotificationCategory in the array. Skips other elements.
   static UNNotificationCategorySet setForCategories(const Array& categories);
 
-  /// Registers the categories. In spite of its name it asks the user for nothing.
+  /// Calls setNotificationCategories. Despite its name it does not ask the user for authorization.
   static void requestNotificationAuthorizationForCategories(
       const UNNotificationCategorySet& categories,
       const std::shared_ptr<UNUserNotificationCenter>& center, const Completion& completion);
 
-  /// Merges the categories into those that are registered: one replaces another of the same
-  /// identifier, all others stay. Completes on the center's queue. Without a center nothing
-  /// happens, and the completion is never called. Two merges at a time may each read the old set;
-  /// the later write wins.
+  /// Merges the categories into the registered set: each replaces the registered category with the
+  /// same identifier; all others stay. Calls the completion once, on the center's queue, after the
+  /// write; never if the center is nullptr. Reading and writing is not atomic: of two concurrent
+  /// merges the later write wins.
   static void setNotificationCategories(const UNNotificationCategorySet& categories,
                                         const std::shared_ptr<UNUserNotificationCenter>& center,
                                         const Completion& completion);

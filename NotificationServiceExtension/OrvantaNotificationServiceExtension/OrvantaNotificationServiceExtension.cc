@@ -9,7 +9,7 @@
 #include "orvanta/NotificationService/RequestedEnrichments.h"
 #include "orvanta/Platform/Platform.h"
 
-// The pipeline; MediaAttachment.cc and CommunicationIntent.cc have the steps that it calls.
+// The order of the steps. MediaAttachment.cc and CommunicationIntent.cc implement them.
 
 namespace orvanta {
 
@@ -32,7 +32,7 @@ Ref<OrvantaPushObject> OrvantaNotificationServiceExtension::pushObject() const {
   try {
     return make<OrvantaPushObject>(bestAttemptContent_->userInfo);
   } catch (const Exception&) {
-    return nullptr;  // "aps" or "_ov" is no dictionary
+    return nullptr;  // "aps" or "_ov" is not a dictionary
   }
 }
 
@@ -60,7 +60,7 @@ void OrvantaNotificationServiceExtension::updateNotificationContent(
   const bool hasMedia = enrichments.media != nullptr;
   const bool hasIcon = enrichments.senderIcon.has_value();
 
-  // The object of the best attempt is read anew: a later request on this instance replaces it.
+  // Reads bestAttemptContent_ again, not `content`: a later request on this instance replaces it.
   const auto applyIntent = [self = shared_from_this(), contentHandler, content, hasIcon] {
     if (!hasIcon) {
       contentHandler(content);
@@ -82,7 +82,8 @@ void OrvantaNotificationServiceExtension::serviceExtensionTimeWillExpire() {
   constexpr LogSite kSite{"-[OrvantaNotificationServiceExtension serviceExtensionTimeWillExpire]",
                           "OrvantaNotificationServiceExtension", 222};
   logDebug(kSite, [] { return "Timeout!!"; });
-  const UNContentHandler handler = contentHandler_;  // which may lead to another request
+  // Copies the handler: calling it may start another request, which replaces the member.
+  const UNContentHandler handler = contentHandler_;
   if (handler) handler(bestAttemptContent_);
 }
 
