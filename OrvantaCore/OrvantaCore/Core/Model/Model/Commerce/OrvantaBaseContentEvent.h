@@ -11,7 +11,7 @@ class OrvantaBaseContentEvent : public OrvantaEvent {
 
   ORVANTA_PROPERTY(kUnmapped, strong, OrvantaContent, content, setContent)
 
-  ORVANTA_EVENT_INITIALISER(initWithContent, eventWithContent, content)
+  ORVANTA_EVENT_INITIALIZER(initWithContent, eventWithContent, content)
 
   /// Reads the content from the whole dictionary first. If that fails, returns false and leaves the
   /// event's own properties unchanged.

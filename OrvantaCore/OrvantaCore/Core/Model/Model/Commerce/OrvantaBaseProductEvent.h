@@ -11,7 +11,7 @@ class OrvantaBaseProductEvent : public OrvantaEvent {
 
   ORVANTA_PROPERTY(kUnmapped, strong, OrvantaProduct, product, setProduct)
 
-  ORVANTA_EVENT_INITIALISER(initWithProduct, eventWithProduct, product)
+  ORVANTA_EVENT_INITIALIZER(initWithProduct, eventWithProduct, product)
 
   /// Reads the product from the whole dictionary first. If that fails, returns false and leaves the
   /// event's own properties unchanged.

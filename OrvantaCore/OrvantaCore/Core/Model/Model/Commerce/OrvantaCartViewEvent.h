@@ -11,7 +11,7 @@ class OrvantaCartViewEvent : public OrvantaEvent {
   ORVANTA_PROPERTY("er", assign, double, subTotal, setSubTotal)
   ORVANTA_PROPERTY("ec", assign, std::uint64_t, itemCount, setItemCount)
 
-  ORVANTA_EVENT_INITIALISER(initWithSubTotal, eventWithSubTotal, subTotal, itemCount)
+  ORVANTA_EVENT_INITIALIZER(initWithSubTotal, eventWithSubTotal, subTotal, itemCount)
 };
 
 }  // namespace orvanta

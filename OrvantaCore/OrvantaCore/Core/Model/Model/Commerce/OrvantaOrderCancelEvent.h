@@ -13,7 +13,7 @@ class OrvantaOrderCancelEvent : public OrvantaEvent {
   ORVANTA_PROPERTY("ec", assign, std::uint64_t, itemCount, setItemCount)
   ORVANTA_PROPERTY("em", copy, String, paymentMethod, setPaymentMethod)
 
-  ORVANTA_EVENT_INITIALISER(initWithSubTotal, eventWithSubTotal, subTotal, grandTotal, itemCount)
+  ORVANTA_EVENT_INITIALIZER(initWithSubTotal, eventWithSubTotal, subTotal, grandTotal, itemCount)
 };
 
 }  // namespace orvanta

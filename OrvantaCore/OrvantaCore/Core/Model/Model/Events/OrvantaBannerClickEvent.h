@@ -11,7 +11,7 @@ class OrvantaBannerClickEvent : public OrvantaEvent {
   ORVANTA_PROPERTY("ea", copy, String, bannerId, setBannerId)
   ORVANTA_PROPERTY("eg", strong, Array, keywords, setKeywords)
 
-  ORVANTA_EVENT_INITIALISER(initWithBannerId, eventWithBannerId, bannerId)
+  ORVANTA_EVENT_INITIALIZER(initWithBannerId, eventWithBannerId, bannerId)
 };
 
 }  // namespace orvanta

@@ -10,7 +10,7 @@ class OrvantaBatteryLevelEvent : public OrvantaEvent {
 
   ORVANTA_PROPERTY("ec", assign, std::int32_t, batteryLevel, setBatteryLevel)
 
-  ORVANTA_EVENT_INITIALISER(initWithBatteryLevel, eventWithBatteryLevel, batteryLevel)
+  ORVANTA_EVENT_INITIALIZER(initWithBatteryLevel, eventWithBatteryLevel, batteryLevel)
 };
 
 }  // namespace orvanta

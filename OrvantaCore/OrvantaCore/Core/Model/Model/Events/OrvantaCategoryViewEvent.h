@@ -11,7 +11,7 @@ class OrvantaCategoryViewEvent : public OrvantaEvent {
   ORVANTA_PROPERTY("ga", copy, String, categoryId, setCategoryId)
   ORVANTA_PROPERTY("ef", copy, String, categoryName, setCategoryName)
 
-  ORVANTA_EVENT_INITIALISER(initWithCategoryId, eventWithCategoryId, categoryId, categoryName)
+  ORVANTA_EVENT_INITIALIZER(initWithCategoryId, eventWithCategoryId, categoryId, categoryName)
 };
 
 }  // namespace orvanta

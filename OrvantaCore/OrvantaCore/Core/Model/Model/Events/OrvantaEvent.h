@@ -43,14 +43,14 @@ class OrvantaEvent : public OrvantaBaseModel {
 
 /// Declares an initializer that stores its arguments, and the class method that creates an event
 /// with it.
-#define ORVANTA_EVENT_INITIALISER(init_, factory_, ...) \
+#define ORVANTA_EVENT_INITIALIZER(init_, factory_, ...) \
   ORVANTA_INITIALISER(init_, initInternal, __VA_ARGS__) \
   ORVANTA_FACTORY(factory_, init_, __VA_ARGS__)
 
 /// The same for an initializer that copies the properties of these names from an object of another
 /// class. The object may be nullptr.
 #define ORVANTA_TAKE_(name_) this->name_##_ = source->name_()
-#define ORVANTA_EVENT_INITIALISER_FROM(Source_, init_, factory_, ...) \
+#define ORVANTA_EVENT_INITIALIZER_FROM(Source_, init_, factory_, ...) \
   bool init_(const Source_* source) {                                 \
     if (!initInternal()) return false;                                \
     if (source != nullptr) ORVANTA_EACH_(ORVANTA_TAKE_, __VA_ARGS__); \

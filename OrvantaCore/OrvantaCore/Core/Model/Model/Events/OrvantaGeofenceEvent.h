@@ -11,7 +11,7 @@ class OrvantaGeofenceEvent : public OrvantaEvent {
   ORVANTA_PROPERTY("ea", copy, String, identifier, setIdentifier)
   ORVANTA_PROPERTY("fy", assign, std::uint64_t, type, setType)
 
-  ORVANTA_EVENT_INITIALISER(initWithIdentifier, eventWithIdentifier, identifier, type)
+  ORVANTA_EVENT_INITIALIZER(initWithIdentifier, eventWithIdentifier, identifier, type)
   std::int64_t priority() const override { return 1; }
 };
 

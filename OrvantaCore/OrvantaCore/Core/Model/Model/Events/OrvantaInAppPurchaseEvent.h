@@ -17,7 +17,7 @@ class OrvantaInAppPurchaseEvent : public OrvantaEvent {
   ORVANTA_PROPERTY("eg", strong, Array, keywords, setKeywords)
   ORVANTA_PROPERTY("ej", strong, String, currency, setCurrency)
 
-  ORVANTA_EVENT_INITIALISER(initWithId, eventWithId, productId, productName, price)
+  ORVANTA_EVENT_INITIALIZER(initWithId, eventWithId, productId, productName, price)
 };
 
 }  // namespace orvanta

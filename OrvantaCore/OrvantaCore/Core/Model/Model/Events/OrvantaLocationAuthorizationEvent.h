@@ -10,7 +10,7 @@ class OrvantaLocationAuthorizationEvent : public OrvantaEvent {
 
   ORVANTA_PROPERTY("fe", assign, std::int32_t, authorizationStatus, setAuthorizationStatus)
 
-  ORVANTA_EVENT_INITIALISER(initWithLocationAuthorizationStatus, eventWithAuthorizationStatus,
+  ORVANTA_EVENT_INITIALIZER(initWithLocationAuthorizationStatus, eventWithAuthorizationStatus,
                             authorizationStatus)
 };
 

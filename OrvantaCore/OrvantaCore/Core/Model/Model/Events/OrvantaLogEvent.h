@@ -11,7 +11,7 @@ class OrvantaLogEvent : public OrvantaEvent {
   ORVANTA_PROPERTY("ea", strong, String, tag, setTag)
   ORVANTA_PROPERTY("eb", strong, String, log, setLog)
 
-  ORVANTA_EVENT_INITIALISER(initWithLog, eventWithLog, log, tag)
+  ORVANTA_EVENT_INITIALIZER(initWithLog, eventWithLog, log, tag)
 };
 
 }  // namespace orvanta

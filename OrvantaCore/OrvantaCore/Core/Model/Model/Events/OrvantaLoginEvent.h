@@ -10,7 +10,7 @@ class OrvantaLoginEvent : public OrvantaEvent {
 
   ORVANTA_PROPERTY("uid", copy, String, userId, setUserId)
 
-  ORVANTA_EVENT_INITIALISER(initWithUserId, eventWithUserId, userId)
+  ORVANTA_EVENT_INITIALIZER(initWithUserId, eventWithUserId, userId)
 };
 
 }  // namespace orvanta

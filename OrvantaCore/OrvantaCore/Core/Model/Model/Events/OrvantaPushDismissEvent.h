@@ -11,7 +11,7 @@ class OrvantaPushDismissEvent : public OrvantaEvent {
 
   ORVANTA_PROPERTY("fs", copy, String, pushId, setPushId)
 
-  ORVANTA_EVENT_INITIALISER_FROM(OrvantaPushObject, initWithPushObject, eventWithPushObject, pushId)
+  ORVANTA_EVENT_INITIALIZER_FROM(OrvantaPushObject, initWithPushObject, eventWithPushObject, pushId)
   std::int64_t priority() const override { return 1; }
 };
 

@@ -11,7 +11,7 @@ class OrvantaPushViewEvent : public OrvantaEvent {
 
   ORVANTA_PROPERTY("fs", copy, String, pushId, setPushId)
 
-  ORVANTA_EVENT_INITIALISER_FROM(OrvantaPushObject, initWithPushObject, eventWithPushObject, pushId)
+  ORVANTA_EVENT_INITIALIZER_FROM(OrvantaPushObject, initWithPushObject, eventWithPushObject, pushId)
 };
 
 }  // namespace orvanta

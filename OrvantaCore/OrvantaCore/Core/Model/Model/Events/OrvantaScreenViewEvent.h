@@ -17,7 +17,7 @@ class OrvantaScreenViewEvent : public OrvantaEvent {
   ORVANTA_PROPERTY("eg", strong, Array, keywords, setKeywords)
   ORVANTA_PROPERTY("fi", strong, MutableDictionary, formInfo, setFormInfo)
 
-  ORVANTA_EVENT_INITIALISER(initWithId, eventWithId, pageId, referrerPageId, referrerPageName,
+  ORVANTA_EVENT_INITIALIZER(initWithId, eventWithId, pageId, referrerPageId, referrerPageName,
                             timeInPage, pageName)
 };
 

@@ -11,7 +11,7 @@ class OrvantaSearchEvent : public OrvantaEvent {
   ORVANTA_PROPERTY("en", copy, String, query, setQuery)
   ORVANTA_PROPERTY("ec", assign, std::uint64_t, resultCount, setResultCount)
 
-  ORVANTA_EVENT_INITIALISER(initWithQuery, eventWithQuery, query, resultCount)
+  ORVANTA_EVENT_INITIALIZER(initWithQuery, eventWithQuery, query, resultCount)
 };
 
 }  // namespace orvanta

@@ -11,7 +11,7 @@ class OrvantaShareEvent : public OrvantaEvent {
   ORVANTA_PROPERTY("ej", copy, String, channel, setChannel)
   ORVANTA_PROPERTY("ea", copy, String, content, setContent)
 
-  ORVANTA_EVENT_INITIALISER(initWithChannel, eventWithChannel, channel, content)
+  ORVANTA_EVENT_INITIALIZER(initWithChannel, eventWithChannel, channel, content)
 };
 
 }  // namespace orvanta

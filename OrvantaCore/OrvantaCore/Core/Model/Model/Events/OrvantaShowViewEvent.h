@@ -10,7 +10,7 @@ class OrvantaShowViewEvent : public OrvantaEvent {
 
   ORVANTA_READONLY("ea", copy, String, code)
 
-  ORVANTA_EVENT_INITIALISER(initWithCode, eventWithCode, code)
+  ORVANTA_EVENT_INITIALIZER(initWithCode, eventWithCode, code)
 };
 
 }  // namespace orvanta

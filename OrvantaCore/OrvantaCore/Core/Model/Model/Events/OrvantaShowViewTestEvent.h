@@ -10,7 +10,7 @@ class OrvantaShowViewTestEvent : public OrvantaEvent {
 
   ORVANTA_READONLY("eb", copy, String, path)
 
-  ORVANTA_EVENT_INITIALISER(initWithPath, eventWithPath, path)
+  ORVANTA_EVENT_INITIALIZER(initWithPath, eventWithPath, path)
 };
 
 }  // namespace orvanta

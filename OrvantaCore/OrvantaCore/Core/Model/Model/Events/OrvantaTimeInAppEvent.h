@@ -10,7 +10,7 @@ class OrvantaTimeInAppEvent : public OrvantaEvent {
 
   ORVANTA_PROPERTY("ft", assign, double, timeInAppSeconds, setTimeInAppSeconds)
 
-  ORVANTA_EVENT_INITIALISER(initWithTimeInAppSeconds, eventWithTimeInAppSeconds, timeInAppSeconds)
+  ORVANTA_EVENT_INITIALIZER(initWithTimeInAppSeconds, eventWithTimeInAppSeconds, timeInAppSeconds)
   std::int64_t priority() const override { return 1; }
 };
 

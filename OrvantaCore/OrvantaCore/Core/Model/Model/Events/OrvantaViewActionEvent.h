@@ -11,7 +11,7 @@ class OrvantaViewActionEvent : public OrvantaEvent {
   ORVANTA_READONLY("ea", copy, String, code)
   ORVANTA_READONLY("ed", assign, std::int64_t, actionType)
 
-  ORVANTA_EVENT_INITIALISER(initWithCode, eventWithCode, code, actionType)
+  ORVANTA_EVENT_INITIALIZER(initWithCode, eventWithCode, code, actionType)
 };
 
 }  // namespace orvanta

@@ -11,7 +11,7 @@ class OrvantaViewActionTestEvent : public OrvantaEvent {
   ORVANTA_READONLY("eb", copy, String, path)
   ORVANTA_READONLY("ed", assign, std::int64_t, actionType)
 
-  ORVANTA_EVENT_INITIALISER(initWithPath, eventWithPath, path, actionType)
+  ORVANTA_EVENT_INITIALIZER(initWithPath, eventWithPath, path, actionType)
 };
 
 }  // namespace orvanta

@@ -10,7 +10,7 @@ class OrvantaWebViewActionEvent : public OrvantaEvent {
 
   ORVANTA_PROPERTY(kUnmapped, strong, Dictionary, eventData, setEventData)
 
-  ORVANTA_EVENT_INITIALISER(initWithEventData, eventWithEventData, eventData)
+  ORVANTA_EVENT_INITIALIZER(initWithEventData, eventWithEventData, eventData)
   /// Stores the whole dictionary as event data, then reads the five keys of OrvantaEvent from it.
   bool updateWithDictionary(const Dictionary* dictionary) override;
   /// The event data wins over the event's own entries, including "code" and "klazz".
