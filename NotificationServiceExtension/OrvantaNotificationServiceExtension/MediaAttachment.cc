@@ -25,8 +25,8 @@ constexpr LogSite site(int line) {
 auto labeled(std::string_view label, const Value& value) {
   return [label, &value] { return std::string(label) + describe(value); };
 }
-auto labeled(std::string_view label, const std::optional<std::string>& text) {
-  return [label, &text] { return std::string(label) + text.value_or("(null)"); };
+auto labeled(std::string_view label, const std::optional<std::string>& string) {
+  return [label, &string] { return std::string(label) + string.value_or("(null)"); };
 }
 
 Ref<NSError> unsupportedURL() {

@@ -40,7 +40,7 @@ namespace orvanta {
 ///   };
 ///
 /// Order of the steps; each waits for the one before:
-/// 1. didReceiveNotificationRequest, on the system's thread: reads the payload.
+/// 1. didReceiveNotificationRequest, on the caller's thread: reads the payload.
 /// 2. Buttons, if the payload has a category and buttons: NotificationHelper. Completes on the
 ///    notification center's queue.
 /// 3. Media, if the payload has a URL: downloadAndSetMediaImageForNotificationContent. Completes on

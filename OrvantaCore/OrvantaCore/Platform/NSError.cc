@@ -17,17 +17,17 @@ const Value& NSError::localizedDescription() const {
 }
 
 std::string NSError::description() const {
-  std::string text = "Error Domain=" + domain_ + " Code=" + std::to_string(code_) + " \"" +
-                     describe(localizedDescription()) + "\"";
-  if (userInfo_.empty()) return text;
-  text += " UserInfo={";
+  std::string result = "Error Domain=" + domain_ + " Code=" + std::to_string(code_) + " \"" +
+                       describe(localizedDescription()) + "\"";
+  if (userInfo_.empty()) return result;
+  result += " UserInfo={";
   for (const Dictionary::Entry& entry : userInfo_) {
-    if (&entry != userInfo_.begin()) text += ", ";
-    text.append(entry.key()).append("=");
+    if (&entry != userInfo_.begin()) result += ", ";
+    result.append(entry.key()).append("=");
     const bool isError = entry.value.as<NSError>() != nullptr;
-    text.append(isError ? "{" : "").append(describe(entry.value)).append(isError ? "}" : "");
+    result.append(isError ? "{" : "").append(describe(entry.value)).append(isError ? "}" : "");
   }
-  return text + "}";
+  return result + "}";
 }
 
 }  // namespace orvanta

@@ -10,10 +10,10 @@ std::string NSURLResponse::description() const {
   if (!parts_.statusCode) return "<NSURLResponse>" + url;
   Dictionary fields;
   for (const auto& [name, value] : parts_.headers) fields.set(name, Array{Value(value)});
-  std::string text = describe(fields);
-  text.erase(0, 1);  // the dictionary's bracket is the format's
+  std::string headers = describe(fields);
+  headers.erase(0, 1);  // the opening brace is part of the format below
   return "<NSHTTPURLResponse>" + url + " { Status Code: " + std::to_string(*parts_.statusCode) +
-         ", Headers {" + text + " }";
+         ", Headers {" + headers + " }";
 }
 
 }  // namespace orvanta

@@ -6,7 +6,7 @@ namespace orvanta {
 
 namespace {
 
-/// Returns a string that equal categories share and no others.
+/// Returns a string that is equal for equal categories only.
 std::string identityOf(const UNNotificationCategory& category) {
   std::string identity;
   const auto add = [&identity](std::string_view field) {

@@ -66,12 +66,12 @@ std::int32_t truncated(double number) {
 }
 
 /// Formats like "%g" in the C locale.
-std::string shortText(double number) {
+std::string shortDecimal(double number) {
   constexpr int kSignificantDigits = 6;
-  char text[32];
-  const auto end = std::to_chars(std::begin(text), std::end(text), number,
+  char buffer[32];
+  const auto end = std::to_chars(std::begin(buffer), std::end(buffer), number,
                                  std::chars_format::general, kSignificantDigits);
-  return {text, end.ptr};
+  return {buffer, end.ptr};
 }
 
 FileSystems::Attributes homeFileSystem() {
@@ -153,7 +153,7 @@ Held<String> OrvantaAppDeviceInfoUtil::resolution() {
   if (screen == nullptr) return nullptr;
   const CGSize points = screen->boundsSize();
   const double scale = screen->scale();
-  return shortText(points.width * scale) + "x" + shortText(points.height * scale);
+  return shortDecimal(points.width * scale) + "x" + shortDecimal(points.height * scale);
 }
 
 Held<String> OrvantaAppDeviceInfoUtil::density() {

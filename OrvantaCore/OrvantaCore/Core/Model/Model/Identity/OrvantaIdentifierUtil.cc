@@ -40,16 +40,16 @@ std::string OrvantaIdentifierUtil::base62String(const DecimalNumber& number) {
   static const DecimalNumber kOne(1);
   static const DecimalNumber kBase(static_cast<std::int64_t>(kBase62Digits.size()));
   static const DecimalNumber kLimit = DecimalNumber(1).multiplyingByPowerOf10(38);
-  std::string text;
-  if (number < kZero || number >= kLimit) return text;  // NaN compares less than every number
-  if (number != number.dividingByRoundingDown(kOne)) return text;
+  std::string digits;
+  if (number < kZero || number >= kLimit) return digits;  // NaN compares less than every number
+  if (number != number.dividingByRoundingDown(kOne)) return digits;
   for (DecimalNumber rest = number; rest != kZero;) {
     const DecimalNumber quotient = rest.dividingByRoundingDown(kBase);
     const DecimalNumber digit = rest.subtracting(quotient.multiplyingBy(kBase));
-    text += kBase62Digits[static_cast<std::size_t>(digit.longLongValue())];
+    digits += kBase62Digits[static_cast<std::size_t>(digit.longLongValue())];
     rest = quotient;
   }
-  return text;
+  return digits;
 }
 
 std::string OrvantaIdentifierUtil::generateShortIdentifier() {

@@ -13,8 +13,8 @@ bool OrvantaPushObjectAction::initWithValue(const Value& value) {
 
 void OrvantaPushObjectAction::setDeeplinkURLAsURL() {
   static constexpr CharacterSet kAllowed = CharacterSet::urlHostAllowed();
-  const auto text = deeplinkURLString_.get();
-  const auto url = text ? Url::parse(percentEncoded(*text, kAllowed)) : std::nullopt;
+  const auto string = deeplinkURLString_.get();
+  const auto url = string ? Url::parse(percentEncoded(*string, kAllowed)) : std::nullopt;
   deeplinkURL_ = url ? Held<Url>(*url) : nullptr;
 }
 

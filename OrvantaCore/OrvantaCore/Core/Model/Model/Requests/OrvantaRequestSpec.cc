@@ -10,9 +10,9 @@ namespace {
 
 /// Formats like "%lf" in the C locale.
 std::string fixedPoint(double number) {
-  char text[400];  // the largest double has 309 digits before the point
-  const auto end = std::to_chars(text, std::end(text), number, std::chars_format::fixed, 6).ptr;
-  return {text, end};
+  char buffer[400];  // the largest double has 309 digits before the point
+  const auto end = std::to_chars(buffer, std::end(buffer), number, std::chars_format::fixed, 6).ptr;
+  return {buffer, end};
 }
 
 }  // namespace
