@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "orvanta/Linux/Files.h"
+#include "orvanta/Linux/PosixFileManager.h"
 #include "orvanta/Simulator/DeviceFiles.h"
 
 namespace orvanta {
@@ -35,7 +35,7 @@ class FolderDeviceFiles final : public DeviceFiles {
   std::filesystem::path folder_;
   std::filesystem::path downloads_;
   std::filesystem::path caches_;
-  HostFileManager files_;
+  PosixFileManager files_;
 };
 
 }  // namespace orvanta

@@ -5,7 +5,7 @@
 
 #include "orvanta/Linux/FolderDeviceFiles.h"
 #include "orvanta/Linux/FolderStateStore.h"
-#include "orvanta/Linux/HostImages.h"
+#include "orvanta/Linux/GdImages.h"
 #include "orvanta/Linux/MappingDownloader.h"
 #include "orvanta/Simulator/HostServices.h"
 #include "orvanta/Simulator/StringsFile.h"
@@ -39,7 +39,7 @@ class LinuxHost {
   FolderStateStore state_;
   MappingDownloader downloader_;
   SimulatedBundle bundle_;
-  HostImages images_;
+  GdImages images_;
   SystemClock clock_;
 };
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "orvanta/Linux/CurlTransfer.h"
 #include "orvanta/Linux/FolderDeviceFiles.h"
-#include "orvanta/Linux/Transfer.h"
 #include "orvanta/Simulator/Downloader.h"
 
 namespace orvanta {

@@ -1,5 +1,5 @@
 #include "Conformance/Subjects.h"
-#include "orvanta/Linux/HostImages.h"
+#include "orvanta/Linux/GdImages.h"
 
 namespace orvanta::testing {
 namespace {
@@ -23,7 +23,7 @@ std::string lightFile() {
 struct LinuxImages : LinuxSubject {
   void addDark(const std::string& name) { folder.write(name, darkFile()); }
   void addLight(const std::string& name) { folder.write(name, lightFile()); }
-  HostImages service{folder.path()};
+  GdImages service{folder.path()};
 };
 struct DoubleImages : DoubleSubject {
   void addDark(const std::string& name) { platform.pictures.insert(name); }

@@ -16,9 +16,9 @@
 #include <utility>
 #include <vector>
 
+#include "orvanta/Linux/CurlTransfer.h"
 #include "orvanta/Linux/DownloadFile.h"
-#include "orvanta/Linux/HeaderText.h"
-#include "orvanta/Linux/Transfer.h"
+#include "orvanta/Linux/HTTPHeader.h"
 #include "orvanta/Simulator/URLErrors.h"
 #include "support/LoopbackServer.h"
 #include "support/TemporaryFolder.h"
@@ -66,7 +66,7 @@ std::string redirectTo(std::string_view location) {
       .append("\r\n\r\n");
 }
 
-class TransferTest : public ::testing::Test {
+class CurlTransferTest : public ::testing::Test {
  protected:
   TransferResult fetch(const std::string& url, const TransferProgress& progress = {}) {
     return transfer(parsedUrl(url), folder_, limits_, progress);
@@ -96,7 +96,7 @@ class TransferTest : public ::testing::Test {
 
 using Headers = std::vector<std::pair<std::string, std::string>>;
 
-TEST_F(TransferTest, StoresTheBodyInATemporaryFileOfThePlatformsName) {
+TEST_F(CurlTransferTest, StoresTheBodyInATemporaryFileOfThePlatformsName) {
   const RawServer server(answerOf("picture", "Content-Type: Image/PNG; q=1\r\nx-Tag:  a \r\n"));
   const std::string url = server.url("/a%20b?c#d");
   const TransferResult result = fetch(url);
@@ -114,7 +114,7 @@ TEST_F(TransferTest, StoresTheBodyInATemporaryFileOfThePlatformsName) {
             (Headers{{"Content-Type", "Image/PNG; q=1"}, {"x-Tag", "a"}, {"Content-Length", "7"}}));
 }
 
-TEST_F(TransferTest, GivesEachFileANameOfItsOwn) {
+TEST_F(CurlTransferTest, GivesEachFileANameOfItsOwn) {
   const RawServer server(answerOf("x"));
   std::set<fs::path> files;
   for (int i = 0; i < 5; ++i) files.insert(*fetch(server.url()).file);
@@ -123,7 +123,7 @@ TEST_F(TransferTest, GivesEachFileANameOfItsOwn) {
   EXPECT_EQ(temporaryDownload(folder_).parent_path(), folder_);
 }
 
-TEST_F(TransferTest, TakesErrorPagesAndEmptyBodiesForSuccess) {
+TEST_F(CurlTransferTest, TakesErrorPagesAndEmptyBodiesForSuccess) {
   HttpServer server;
   server.routes().Get("/none", [](const auto&, auto& answer) { answer.status = 204; });
   server.routes().Get("/broken", [](const auto&, auto& answer) {
@@ -151,7 +151,7 @@ TEST_F(TransferTest, TakesErrorPagesAndEmptyBodiesForSuccess) {
   }
 }
 
-TEST_F(TransferTest, ReadsBodiesWithoutAnnouncedLength) {
+TEST_F(CurlTransferTest, ReadsBodiesWithoutAnnouncedLength) {
   HttpServer server;
   server.routes().Get("/chunked", [](const auto&, auto& answer) {
     answer.set_chunked_content_provider("image/gif", [](std::size_t offset, auto& sink) {
@@ -174,7 +174,7 @@ TEST_F(TransferTest, ReadsBodiesWithoutAnnouncedLength) {
   EXPECT_FALSE(result.response->MIMEType());
 }
 
-TEST_F(TransferTest, SendsAPlainRequest) {
+TEST_F(CurlTransferTest, SendsAPlainRequest) {
   ::setenv("http_proxy", ("http://127.0.0.1:" + std::to_string(unusedPort())).c_str(), 1);
   std::string head;
   {
@@ -192,7 +192,7 @@ TEST_F(TransferTest, SendsAPlainRequest) {
   EXPECT_EQ(head.find("Cookie"), std::string::npos) << head;
 }
 
-TEST_F(TransferTest, StreamsToTheFileAndReportsProgress) {
+TEST_F(CurlTransferTest, StreamsToTheFileAndReportsProgress) {
   constexpr std::uint64_t kSize = 3'000'000;
   const std::string answer = answerOf(std::string(kSize, 'x'));
   std::promise<void> begun;
@@ -216,14 +216,14 @@ TEST_F(TransferTest, StreamsToTheFileAndReportsProgress) {
   EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
 }
 
-TEST_F(TransferTest, LetsProgressThrow) {
+TEST_F(CurlTransferTest, LetsProgressThrow) {
   const RawServer server(answerOf("x"));
   const auto stop = [](std::uint64_t, std::uint64_t) { throw std::runtime_error("stop"); };
   EXPECT_THROW(fetch(server.url(), stop), std::runtime_error);
   EXPECT_TRUE(fs::is_empty(folder_));
 }
 
-TEST_F(TransferTest, UnpacksBodies) {
+TEST_F(CurlTransferTest, UnpacksBodies) {
   const std::string text(300'000, 'z');
   HttpServer server;
   server.routes().Get("/gzip", [&](const auto&, auto& answer) {
@@ -238,7 +238,7 @@ TEST_F(TransferTest, UnpacksBodies) {
   EXPECT_EQ(announced, 0U);  // the packed size would say nothing
 }
 
-TEST_F(TransferTest, RefusesWhatItCannotUnpack) {
+TEST_F(CurlTransferTest, RefusesWhatItCannotUnpack) {
   const struct {
     std::string_view coding;
     std::int64_t code;
@@ -250,7 +250,7 @@ TEST_F(TransferTest, RefusesWhatItCannotUnpack) {
   }
 }
 
-TEST_F(TransferTest, KeepsTheLimitOfBytes) {
+TEST_F(CurlTransferTest, KeepsTheLimitOfBytes) {
   limits_.bytes = 1000;
   const struct {
     std::string name;
@@ -275,7 +275,7 @@ TEST_F(TransferTest, KeepsTheLimitOfBytes) {
   }
 }
 
-TEST_F(TransferTest, FailsWhenTheConnectionDoes) {
+TEST_F(CurlTransferTest, FailsWhenTheConnectionDoes) {
   EXPECT_EQ(failure("http://127.0.0.1:" + std::to_string(unusedPort())), -1004);
   EXPECT_EQ(failure("http://" + std::string(64, 'a')), -1003);  // no name that is asked for
 
@@ -297,7 +297,7 @@ TEST_F(TransferTest, FailsWhenTheConnectionDoes) {
   EXPECT_NE(failure(header.url()), 0);
 }
 
-TEST_F(TransferTest, GivesUpOnSilence) {
+TEST_F(CurlTransferTest, GivesUpOnSilence) {
   limits_.idle = kShort;
   for (const std::string_view beginning :
        {"", "HTTP/1.1 2", "HTTP/1.1 200 OK\r\nA: b\r\n",
@@ -318,7 +318,7 @@ TEST_F(TransferTest, GivesUpOnSilence) {
   EXPECT_EQ(failure(handshake.url().insert(4, "s")), -1001);
 }
 
-TEST_F(TransferTest, IsPatientWhileBytesArrive) {
+TEST_F(CurlTransferTest, IsPatientWhileBytesArrive) {
   limits_.idle = 400ms;
   const RawServer server([](RawConnection& connection) {
     connection.readHead();
@@ -331,7 +331,7 @@ TEST_F(TransferTest, IsPatientWhileBytesArrive) {
   EXPECT_EQ(bodyOf(fetch(server.url())), "abc");
 }
 
-TEST_F(TransferTest, EndsAtTheTotalTimeThoughBytesArrive) {
+TEST_F(CurlTransferTest, EndsAtTheTotalTimeThoughBytesArrive) {
   limits_.total = kShort;
   const RawServer server([](RawConnection& connection) {
     connection.readHead();
@@ -342,7 +342,7 @@ TEST_F(TransferTest, EndsAtTheTotalTimeThoughBytesArrive) {
   EXPECT_EQ(failure(server.url()), -1001);
 }
 
-TEST_F(TransferTest, RefusesBadAnswers) {
+TEST_F(CurlTransferTest, RefusesBadAnswers) {
   const std::string_view rows[] = {
       "SSH-2.0-server\r\n\r\n",
       "HTTP/1.1 okay\r\n\r\nx",
@@ -359,7 +359,7 @@ TEST_F(TransferTest, RefusesBadAnswers) {
   }
 }
 
-TEST_F(TransferTest, EndsEndlessHeaders) {
+TEST_F(CurlTransferTest, EndsEndlessHeaders) {
   for (const std::string_view again :
        {"A: b\r\n", "x", "\r\nHTTP/1.1 100 Continue\r\n", " folded\r\n"}) {
     const RawServer server([&](RawConnection& connection) {
@@ -383,7 +383,7 @@ TEST_F(TransferTest, EndsEndlessHeaders) {
   EXPECT_EQ(failure(trailers.url()), -1011);
 }
 
-TEST_F(TransferTest, KeepsTheHeadersOfTheFinalAnswerHarmless) {
+TEST_F(CurlTransferTest, KeepsTheHeadersOfTheFinalAnswerHarmless) {
   const RawServer server(
       "HTTP/1.1 103 Early Hints\r\nLink: </a>\r\n\r\n"
       "HTTP/1.1 200 OK\r\nX-b: \xC3\xA9 \x1B[31m\x01 \xFF\xC3\r\nvia: one\r\nx-A: "
@@ -401,7 +401,7 @@ TEST_F(TransferTest, KeepsTheHeadersOfTheFinalAnswerHarmless) {
                                                  {"Transfer-Encoding", "chunked"}}));
 }
 
-TEST_F(TransferTest, FollowsRedirects) {
+TEST_F(CurlTransferTest, FollowsRedirects) {
   const RawServer elsewhere(answerOf("there"));
   HttpServer server;
   server.routes().Get(R"(/hop/(\d+))", [](const auto& request, auto& answer) {
@@ -432,7 +432,7 @@ TEST_F(TransferTest, FollowsRedirects) {
   EXPECT_EQ(fetch(server.url("/nowhere")).response->statusCode(), 302);
 }
 
-TEST_F(TransferTest, FollowsNoRedirectToAnotherScheme) {
+TEST_F(CurlTransferTest, FollowsNoRedirectToAnotherScheme) {
   for (const std::string_view target :
        {"file:///etc/passwd", "FILE:///etc/passwd", "ftp://127.0.0.1/x", "data:text/plain,x",
         "gopher://127.0.0.1/", "http://[", "http:///x", "http:x", "//", "///x", "https:", "%zz"}) {
@@ -446,7 +446,7 @@ TEST_F(TransferTest, FollowsNoRedirectToAnotherScheme) {
   EXPECT_EQ(fetch(server.url()).error->userInfo()["NSErrorFailingURLStringKey"], "file:///a");
 }
 
-TEST_F(TransferTest, LeavesTheEndlessBodyOfARedirect) {
+TEST_F(CurlTransferTest, LeavesTheEndlessBodyOfARedirect) {
   const RawServer target(answerOf("there"));
   const RawServer server([&](RawConnection& connection) {
     connection.readHead();
@@ -457,7 +457,7 @@ TEST_F(TransferTest, LeavesTheEndlessBodyOfARedirect) {
   EXPECT_EQ(bodyOf(fetch(server.url())), "there");
 }
 
-TEST_F(TransferTest, RefusesUrlsOfOtherKinds) {
+TEST_F(CurlTransferTest, RefusesUrlsOfOtherKinds) {
   for (const std::string url :
        {"", "x", "/etc/passwd", "file:///etc/passwd", "ftp://127.0.0.1/", "http%3A%2F%2Fwww",
         "http://", "http:///127.0.0.1/", "http:127.0.0.1", "http://127.0.0.1:99999/"}) {
@@ -465,7 +465,7 @@ TEST_F(TransferTest, RefusesUrlsOfOtherKinds) {
   }
 }
 
-TEST_F(TransferTest, ChecksCertificates) {
+TEST_F(CurlTransferTest, ChecksCertificates) {
   const SelfSignedServer server;
   EXPECT_EQ(failure(server.url("/")), -1202);
   const RawServer noTLS([](RawConnection& connection) {
@@ -475,7 +475,7 @@ TEST_F(TransferTest, ChecksCertificates) {
   EXPECT_EQ(failure(noTLS.url().insert(4, "s")), -1200);
 }
 
-TEST_F(TransferTest, FailsWhenTheFileCannotBeWritten) {
+TEST_F(CurlTransferTest, FailsWhenTheFileCannotBeWritten) {
   const RawServer server(answerOf("x"));
   const auto result = transfer(parsedUrl(server.url()), folder_ / "missing", limits_);
   EXPECT_EQ(codeOf(result), -3000);

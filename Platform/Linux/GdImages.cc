@@ -1,4 +1,4 @@
-#include "orvanta/Linux/HostImages.h"
+#include "orvanta/Linux/GdImages.h"
 
 #include <fcntl.h>
 #include <png.h>
@@ -15,7 +15,7 @@
 #include <utility>
 #include <vector>
 
-#include "orvanta/Linux/PictureLibrary.h"
+#include "orvanta/Linux/GdLibrary.h"
 
 namespace orvanta {
 
@@ -28,7 +28,7 @@ constexpr std::size_t kMaxFileBytes = std::size_t{32} << 20U;
 constexpr std::uint32_t kMaxSide = 4096;
 constexpr int kWhite = 0xFFFFFF;
 
-const PictureLibrary& gd() { return PictureLibrary::loaded(); }
+const GdLibrary& gd() { return GdLibrary::loaded(); }
 
 struct PictureDeleter {
   void operator()(gdImage* picture) const { gd().gdImageDestroy(picture); }
@@ -257,10 +257,10 @@ std::string content(const fs::path& folder, const std::string& name) {
 
 }  // namespace
 
-HostImages::HostImages(fs::path resources, std::set<std::string> simulated)
+GdImages::GdImages(fs::path resources, std::set<std::string> simulated)
     : resources_(std::move(resources)), simulated_(std::move(simulated)) {}
 
-Ref<UIImage> HostImages::imageNamed(std::string_view name) {
+Ref<UIImage> GdImages::imageNamed(std::string_view name) {
   if (!isPlainName(name)) return nullptr;
   const auto asImage = [](Picture picture) -> Ref<UIImage> {
     if (!picture) return nullptr;
@@ -282,8 +282,8 @@ Ref<UIImage> HostImages::imageNamed(std::string_view name) {
   return nullptr;
 }
 
-std::optional<std::string> HostImages::JPEGRepresentation(const Ref<UIImage>& image,
-                                                          double compressionQuality) {
+std::optional<std::string> GdImages::JPEGRepresentation(const Ref<UIImage>& image,
+                                                        double compressionQuality) {
   const auto* const hostImage = dynamic_cast<const HostImage*>(image.get());
   if (hostImage == nullptr) return std::nullopt;
   const double quality = compressionQuality >= 0 ? std::min(compressionQuality, 1.0) : 0;

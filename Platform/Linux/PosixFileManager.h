@@ -12,10 +12,10 @@ namespace orvanta {
 int moveFile(const std::string& source, const std::string& destination);
 
 /// A file manager whose caches folder is the one given.
-class HostFileManager final : public NSFileManager {
+class PosixFileManager final : public NSFileManager {
  public:
   /// Makes the folder when it is missing; throws std::filesystem::filesystem_error.
-  explicit HostFileManager(const std::filesystem::path& cachesFolder);
+  explicit PosixFileManager(const std::filesystem::path& cachesFolder);
 
   std::vector<Url> URLsForCachesDirectory() override;
   Ref<NSError> moveItemAtURL(const Url& source, const Url& destination) override;

@@ -1,4 +1,4 @@
-#include "orvanta/Linux/HeaderText.h"
+#include "orvanta/Linux/HTTPHeader.h"
 
 #include <algorithm>
 

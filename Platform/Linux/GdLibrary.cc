@@ -1,4 +1,4 @@
-#include "orvanta/Linux/PictureLibrary.h"
+#include "orvanta/Linux/GdLibrary.h"
 
 #include <dlfcn.h>
 
@@ -18,21 +18,21 @@ void* orThrow(void* found) {
   return found;
 }
 
-PictureLibrary load() {
+GdLibrary load() {
   void* const library = orThrow(dlopen("libgd.so.3", RTLD_NOW | RTLD_LOCAL));
-  PictureLibrary functions{};
-#define ORVANTA_PICTURE_FUNCTION(name) \
+  GdLibrary functions{};
+#define ORVANTA_GD_FUNCTION(name) \
   functions.name = reinterpret_cast<decltype(&::name)>(orThrow(dlsym(library, #name)));
-  ORVANTA_PICTURE_FUNCTIONS(ORVANTA_PICTURE_FUNCTION)
-#undef ORVANTA_PICTURE_FUNCTION
+  ORVANTA_GD_FUNCTIONS(ORVANTA_GD_FUNCTION)
+#undef ORVANTA_GD_FUNCTION
   functions.gdSetErrorMethod(ignoreMessage);
   return functions;
 }
 
 }  // namespace
 
-const PictureLibrary& PictureLibrary::loaded() {
-  static const PictureLibrary library = load();
+const GdLibrary& GdLibrary::loaded() {
+  static const GdLibrary library = load();
   return library;
 }
 

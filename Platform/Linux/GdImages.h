@@ -11,10 +11,10 @@ namespace orvanta {
 /// Pictures of a resources folder, decoded and encoded by an image library. Only plain names are
 /// looked up: nothing that leaves the folder. Throws std::runtime_error where there is a picture
 /// and the library is not installed.
-class HostImages final : public Images {
+class GdImages final : public Images {
  public:
   /// An empty folder has no pictures. The simulated names exist as small plain pictures.
-  explicit HostImages(std::filesystem::path resources, std::set<std::string> simulated = {});
+  explicit GdImages(std::filesystem::path resources, std::set<std::string> simulated = {});
 
   Ref<UIImage> imageNamed(std::string_view name) override;
   std::optional<std::string> JPEGRepresentation(const Ref<UIImage>& image,

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "orvanta/Linux/HostImages.h"
+#include "orvanta/Linux/GdImages.h"
 #include "support/TemporaryFolder.h"
 #include "support/Values.h"
 
@@ -67,7 +67,7 @@ const std::string kRed = png(1, 2, "\xFF\0\0"s);
 const std::string kGreen = png(1, 2, "\0\xFF\0"s);
 const std::string kWhite = png(1, 2, "\xFF\xFF\xFF"s);
 
-class HostImagesTest : public ::testing::Test {
+class GdImagesTest : public ::testing::Test {
  protected:
   std::optional<std::string> jpeg(std::string_view name, double quality = 1) {
     return images_.JPEGRepresentation(images_.imageNamed(name), quality);
@@ -81,16 +81,16 @@ class HostImagesTest : public ::testing::Test {
   bool exists(std::string_view name) { return bool(images_.imageNamed(name)); }
 
   TemporaryFolder folder_;
-  HostImages images_{folder_.path(), {"star"}};
+  GdImages images_{folder_.path(), {"star"}};
 };
 
-TEST_F(HostImagesTest, ABrokenVariantGivesWayToTheNext) {
+TEST_F(GdImagesTest, ABrokenVariantGivesWayToTheNext) {
   folder_.write("icon@2x.png", kGreen);
   folder_.write("icon@3x.png", "broken");
   EXPECT_EQ(jpeg("icon"), encoded(kGreen));
 }
 
-TEST_F(HostImagesTest, TransparencyBecomesWhite) {
+TEST_F(GdImagesTest, TransparencyBecomesWhite) {
   const auto white = encoded(kWhite);
   ASSERT_TRUE(white);
   EXPECT_NE(encoded(kRed), white);
@@ -103,7 +103,7 @@ TEST_F(HostImagesTest, TransparencyBecomesWhite) {
   EXPECT_EQ(encoded(kWebP), white);
 }
 
-TEST_F(HostImagesTest, JPEGFollowsTheQuality) {
+TEST_F(GdImagesTest, JPEGFollowsTheQuality) {
   const auto best = jpeg("star", 1);
   ASSERT_TRUE(best);
   EXPECT_TRUE(best->starts_with("\xFF\xD8\xFF"));
@@ -114,7 +114,7 @@ TEST_F(HostImagesTest, JPEGFollowsTheQuality) {
   EXPECT_TRUE(encoded(*best));
 }
 
-TEST_F(HostImagesTest, NothingOutsideTheFolderIsFound) {
+TEST_F(GdImagesTest, NothingOutsideTheFolderIsFound) {
   const TemporaryFolder other;
   other.write("secret.png", kRed);
   fs::create_directory(folder_ / "sub");
@@ -137,10 +137,10 @@ TEST_F(HostImagesTest, NothingOutsideTheFolderIsFound) {
   EXPECT_TRUE(exists("icon"));
 
   fs::create_directory_symlink(folder_.path(), other / "linked");
-  EXPECT_TRUE(HostImages(other / "linked").imageNamed("icon"));
+  EXPECT_TRUE(GdImages(other / "linked").imageNamed("icon"));
 }
 
-TEST_F(HostImagesTest, HugePicturesAreRefusedByTheirHeaders) {
+TEST_F(GdImagesTest, HugePicturesAreRefusedByTheirHeaders) {
   EXPECT_TRUE(encoded(png(4096, 2, std::string(12288, 'x'))));
   EXPECT_FALSE(encoded(png(4097, 2, std::string(12291, 'x'))));
   const std::string large = "\xFF\x7F"s;  // 32767, whichever end comes first it is over the limit
@@ -158,7 +158,7 @@ TEST_F(HostImagesTest, HugePicturesAreRefusedByTheirHeaders) {
   }
 }
 
-TEST_F(HostImagesTest, FilesOverTheLimitAreNotRead) {
+TEST_F(GdImagesTest, FilesOverTheLimitAreNotRead) {
   folder_.write("big.png", kRed);
   fs::resize_file(folder_ / "big.png", 32U << 20U);
   EXPECT_TRUE(exists("big"));  // zeros behind the end do not matter
@@ -166,7 +166,7 @@ TEST_F(HostImagesTest, FilesOverTheLimitAreNotRead) {
   EXPECT_FALSE(exists("big"));
 }
 
-TEST_F(HostImagesTest, BrokenFilesAreNoImagesAndNothingIsPrinted) {
+TEST_F(GdImagesTest, BrokenFilesAreNoImagesAndNothingIsPrinted) {
   ::testing::internal::CaptureStderr();
   ::testing::internal::CaptureStdout();
   const struct {

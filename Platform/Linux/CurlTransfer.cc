@@ -1,4 +1,4 @@
-#include "orvanta/Linux/Transfer.h"
+#include "orvanta/Linux/CurlTransfer.h"
 
 #include <curl/curl.h>
 
@@ -12,7 +12,7 @@
 
 #include "orvanta/Foundation/CharacterSet.h"
 #include "orvanta/Linux/DownloadFile.h"
-#include "orvanta/Linux/HeaderText.h"
+#include "orvanta/Linux/HTTPHeader.h"
 #include "orvanta/Simulator/URLErrors.h"
 
 namespace orvanta {

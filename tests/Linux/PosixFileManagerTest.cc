@@ -2,7 +2,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "orvanta/Linux/Files.h"
+#include "orvanta/Linux/PosixFileManager.h"
 #include "support/TemporaryFolder.h"
 #include "support/Values.h"
 
@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class Files : public ::testing::Test {
+class PosixFileManagerTest : public ::testing::Test {
  protected:
   Ref<NSError> move(const Url& from, const Url& to) { return manager_.moveItemAtURL(from, to); }
   Ref<NSError> move(std::string_view from, std::string_view to) {
@@ -23,16 +23,16 @@ class Files : public ::testing::Test {
   }
 
   TemporaryFolder folder_;
-  HostFileManager manager_{folder_ / "Library/Caches"};
+  PosixFileManager manager_{folder_ / "Library/Caches"};
 };
 
-TEST_F(Files, TheCachesFolderIsMadeOrElseAnErrorThrown) {
+TEST_F(PosixFileManagerTest, TheCachesFolderIsMadeOrElseAnErrorThrown) {
   EXPECT_TRUE(fs::is_directory(folder_ / "Library/Caches"));
   folder_.write("taken", "");
-  EXPECT_THROW(HostFileManager(folder_ / "taken"), fs::filesystem_error);
+  EXPECT_THROW(PosixFileManager(folder_ / "taken"), fs::filesystem_error);
 }
 
-TEST_F(Files, AnExistingDestinationIsNeverOverwritten) {
+TEST_F(PosixFileManagerTest, AnExistingDestinationIsNeverOverwritten) {
   folder_.write("dl.tmp", "new");
   folder_.write("Library/Caches/dl.tmp", "old");
   const auto error = move("dl.tmp", "Library/Caches/dl.tmp");
@@ -50,7 +50,7 @@ TEST_F(Files, AnExistingDestinationIsNeverOverwritten) {
   EXPECT_EQ(folder_.read("Library/Caches/dl.tmp"), "old");
 }
 
-TEST_F(Files, ALinkAtTheDestinationIsAnItemAndNotFollowed) {
+TEST_F(PosixFileManagerTest, ALinkAtTheDestinationIsAnItemAndNotFollowed) {
   folder_.write("dl.tmp", "new");
   fs::create_symlink(folder_ / "elsewhere", folder_ / "dangling");
   fs::create_directory(folder_ / "folder");
@@ -63,7 +63,7 @@ TEST_F(Files, ALinkAtTheDestinationIsAnItemAndNotFollowed) {
   EXPECT_EQ(folder_.read("dl.tmp"), "new");
 }
 
-TEST_F(Files, FailuresHaveThePlatformsCodes) {
+TEST_F(PosixFileManagerTest, FailuresHaveThePlatformsCodes) {
   folder_.write("file", "");
   const struct {
     std::string from;
@@ -93,7 +93,7 @@ TEST_F(Files, FailuresHaveThePlatformsCodes) {
   }
 }
 
-TEST_F(Files, OnlyFileURLsAreMoved) {
+TEST_F(PosixFileManagerTest, OnlyFileURLsAreMoved) {
   const Url file = folder_.write("file", "");
   const Url other = *Url::parse("https://example.org/file");
   EXPECT_EQ(describe(move(other, folder_.url("x"))),
@@ -105,7 +105,7 @@ TEST_F(Files, OnlyFileURLsAreMoved) {
   EXPECT_TRUE(fs::exists(folder_ / "file"));
 }
 
-class FilesAcrossFileSystems : public Files {
+class PosixFileManagerAcrossFileSystems : public PosixFileManagerTest {
  protected:
   void SetUp() override {
     struct stat here {};
@@ -119,7 +119,7 @@ class FilesAcrossFileSystems : public Files {
   std::optional<TemporaryFolder> other_;
 };
 
-TEST_F(FilesAcrossFileSystems, AMoveCopiesAndRemoves) {
+TEST_F(PosixFileManagerAcrossFileSystems, AMoveCopiesAndRemoves) {
   std::string content;
   while (content.size() < 200'000) content += std::to_string(content.size());
   const Url from = other_->write("big", content);
@@ -130,7 +130,7 @@ TEST_F(FilesAcrossFileSystems, AMoveCopiesAndRemoves) {
   EXPECT_EQ(fs::status(folder_ / "moved").permissions(), fs::perms::owner_read);
 }
 
-TEST_F(FilesAcrossFileSystems, NothingIsOverwrittenFollowedOrLost) {
+TEST_F(PosixFileManagerAcrossFileSystems, NothingIsOverwrittenFollowedOrLost) {
   const Url from = other_->write("file", "new");
   folder_.write("taken", "old");
   fs::create_symlink(folder_ / "elsewhere", folder_ / "dangling");

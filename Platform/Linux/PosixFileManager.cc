@@ -1,4 +1,4 @@
-#include "orvanta/Linux/Files.h"
+#include "orvanta/Linux/PosixFileManager.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -151,16 +151,16 @@ Ref<NSError> schemeError(int code, std::string_view verb, const Url& url) {
 
 }  // namespace
 
-HostFileManager::HostFileManager(const fs::path& cachesFolder)
+PosixFileManager::PosixFileManager(const fs::path& cachesFolder)
     : cachesFolder_(fs::absolute(cachesFolder).lexically_normal()) {
   fs::create_directories(cachesFolder_);
 }
 
-std::vector<Url> HostFileManager::URLsForCachesDirectory() {
+std::vector<Url> PosixFileManager::URLsForCachesDirectory() {
   return {Url::fileURLWithPath((cachesFolder_ / "").string())};
 }
 
-Ref<NSError> HostFileManager::moveItemAtURL(const Url& source, const Url& destination) {
+Ref<NSError> PosixFileManager::moveItemAtURL(const Url& source, const Url& destination) {
   if (!source.isFileURL()) return schemeError(262, "opened", source);
   if (!destination.isFileURL()) return schemeError(518, "saved", destination);
   const std::string from = source.path();
