@@ -8,10 +8,10 @@
 #include <cerrno>
 #include <cstdio>  // renameat2
 #include <system_error>
-#include <utility>
 
 #include "orvanta/Foundation/Array.h"
 #include "orvanta/Foundation/Description.h"
+#include "orvanta/Linux/FileDescriptor.h"
 
 namespace orvanta {
 
@@ -19,65 +19,41 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() {
-    if (number_ >= 0) ::close(number_);
-  }
-  bool isOpen() const { return number_ >= 0; }
-  int number() const { return number_; }
-  int close() { return ::close(std::exchange(number_, -1)); }
+// These return an errno, 0 for success.
 
- private:
-  int number_;
-};
-
-// The functions below return what errno says, 0 for success.
-
-int copyContent(const Descriptor& from, const Descriptor& to) {
+int copyContent(const FileDescriptor& from, const FileDescriptor& to) {
   std::array<char, 65536> buffer;
   for (;;) {
-    const ssize_t count = ::read(from.number(), buffer.data(), buffer.size());
+    const ssize_t count = from.read(buffer.data(), buffer.size());
     if (count == 0) return 0;
-    if (count < 0) {
-      if (errno == EINTR) continue;
-      return errno;
-    }
-    for (ssize_t done = 0; done < count;) {
-      const ssize_t written =
-          ::write(to.number(), buffer.data() + done, static_cast<std::size_t>(count - done));
-      if (written >= 0) {
-        done += written;
-      } else if (errno != EINTR) {
-        return errno;
-      }
-    }
+    if (count < 0 || !to.write({buffer.data(), static_cast<std::size_t>(count)})) return errno;
   }
 }
 
+/// Moves a regular file between file systems. O_NONBLOCK keeps a pipe without a writer from
+/// blocking the open; fstat then rejects it.
 int copyThenRemove(const char* source, const char* destination) {
-  const Descriptor from(::open(source, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  const FileDescriptor from(::open(source, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
   struct stat status {};
-  if (!from.isOpen() || ::fstat(from.number(), &status) != 0) return errno;
+  if (!from.isOpen() || ::fstat(from.get(), &status) != 0) return errno;
   if (!S_ISREG(status.st_mode)) return S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
-  Descriptor to(::open(destination, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
+  FileDescriptor to(
+      ::open(destination, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
   if (!to.isOpen()) return errno;
 
   int error = copyContent(from, to);
   if (error == 0) {
-    // A file system without modes or times is no reason to fail.
-    (void)::fchmod(to.number(), status.st_mode & 0777U);
+    // Best effort: not every file system stores modes and times.
+    (void)::fchmod(to.get(), status.st_mode & 0777U);
     const std::array times{status.st_atim, status.st_mtim};
-    (void)::futimens(to.number(), times.data());
-    if (to.close() != 0 || ::unlink(source) != 0) error = errno;
+    (void)::futimens(to.get(), times.data());
+    if (!to.close() || ::unlink(source) != 0) error = errno;
   }
   if (error != 0) ::unlink(destination);
   return error;
 }
 
+/// Moves within a file system. Like an exclusive rename, link fails if the destination exists.
 int linkThenRemove(const char* source, const char* destination) {
   if (::link(source, destination) != 0) return errno;
   if (::unlink(source) == 0) return 0;
@@ -94,7 +70,7 @@ int moveFile(const std::string& source, const std::string& destination) {
   const char* const to = destination.c_str();
   if (::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0) return 0;
   if (errno == EXDEV) return copyThenRemove(from, to);
-  // Some file systems cannot rename without overwriting, and some of these have no links either.
+  // Some file systems do not support RENAME_NOREPLACE, and some of these no hard links either.
   if (errno != EINVAL && errno != ENOSYS) return errno;
   const int error = linkThenRemove(from, to);
   const bool hasNoLinks = error == EPERM || error == EOPNOTSUPP || error == ENOSYS;
@@ -106,8 +82,9 @@ namespace {
 struct MoveFailure {
   int posix;
   int cocoa;
-  std::string_view format;  // of the file's name and the destination folder's
+  std::string_view format;  // arguments: the file's name, the destination folder's name
 };
+// The platform's codes and messages; the last row is for every other errno.
 constexpr MoveFailure kMoveFailures[] = {
     {EEXIST, 516,
      "“%@” couldn’t be moved to “%@” because an item with the same name already exists."},

@@ -8,13 +8,14 @@
 
 namespace orvanta {
 
-/// Moves a file, over nothing that is there: 0, or an errno.
+/// Moves a file, also between file systems, without ever overwriting. Returns 0 or an errno: EEXIST
+/// if anything is at the destination, be it a dangling link.
 int moveFile(const std::string& source, const std::string& destination);
 
-/// A file manager whose caches folder is the one given.
+/// Reports failed moves as the platform does: NSCocoaErrorDomain with the POSIX error below it.
 class PosixFileManager final : public NSFileManager {
  public:
-  /// Makes the folder when it is missing; throws std::filesystem::filesystem_error.
+  /// Creates the folder if it is missing; throws std::filesystem::filesystem_error on failure.
   explicit PosixFileManager(const std::filesystem::path& cachesFolder);
 
   std::vector<Url> URLsForCachesDirectory() override;

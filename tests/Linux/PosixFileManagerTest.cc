@@ -26,13 +26,13 @@ class PosixFileManagerTest : public ::testing::Test {
   PosixFileManager manager_{folder_ / "Library/Caches"};
 };
 
-TEST_F(PosixFileManagerTest, TheCachesFolderIsMadeOrElseAnErrorThrown) {
+TEST_F(PosixFileManagerTest, CreatesCachesFolderOrThrows) {
   EXPECT_TRUE(fs::is_directory(folder_ / "Library/Caches"));
   folder_.write("taken", "");
   EXPECT_THROW(PosixFileManager(folder_ / "taken"), fs::filesystem_error);
 }
 
-TEST_F(PosixFileManagerTest, AnExistingDestinationIsNeverOverwritten) {
+TEST_F(PosixFileManagerTest, NeverOverwritesTheDestination) {
   folder_.write("dl.tmp", "new");
   folder_.write("Library/Caches/dl.tmp", "old");
   const auto error = move("dl.tmp", "Library/Caches/dl.tmp");
@@ -50,7 +50,7 @@ TEST_F(PosixFileManagerTest, AnExistingDestinationIsNeverOverwritten) {
   EXPECT_EQ(folder_.read("Library/Caches/dl.tmp"), "old");
 }
 
-TEST_F(PosixFileManagerTest, ALinkAtTheDestinationIsAnItemAndNotFollowed) {
+TEST_F(PosixFileManagerTest, DoesNotFollowALinkAtTheDestination) {
   folder_.write("dl.tmp", "new");
   fs::create_symlink(folder_ / "elsewhere", folder_ / "dangling");
   fs::create_directory(folder_ / "folder");
@@ -63,7 +63,7 @@ TEST_F(PosixFileManagerTest, ALinkAtTheDestinationIsAnItemAndNotFollowed) {
   EXPECT_EQ(folder_.read("dl.tmp"), "new");
 }
 
-TEST_F(PosixFileManagerTest, FailuresHaveThePlatformsCodes) {
+TEST_F(PosixFileManagerTest, ReportsThePlatformsCodes) {
   folder_.write("file", "");
   const struct {
     std::string from;
@@ -93,7 +93,7 @@ TEST_F(PosixFileManagerTest, FailuresHaveThePlatformsCodes) {
   }
 }
 
-TEST_F(PosixFileManagerTest, OnlyFileURLsAreMoved) {
+TEST_F(PosixFileManagerTest, MovesOnlyFileURLs) {
   const Url file = folder_.write("file", "");
   const Url other = *Url::parse("https://example.org/file");
   EXPECT_EQ(describe(move(other, folder_.url("x"))),
@@ -119,7 +119,7 @@ class PosixFileManagerAcrossFileSystems : public PosixFileManagerTest {
   std::optional<TemporaryFolder> other_;
 };
 
-TEST_F(PosixFileManagerAcrossFileSystems, AMoveCopiesAndRemoves) {
+TEST_F(PosixFileManagerAcrossFileSystems, CopiesAndRemoves) {
   std::string content;
   while (content.size() < 200'000) content += std::to_string(content.size());
   const Url from = other_->write("big", content);
@@ -130,7 +130,7 @@ TEST_F(PosixFileManagerAcrossFileSystems, AMoveCopiesAndRemoves) {
   EXPECT_EQ(fs::status(folder_ / "moved").permissions(), fs::perms::owner_read);
 }
 
-TEST_F(PosixFileManagerAcrossFileSystems, NothingIsOverwrittenFollowedOrLost) {
+TEST_F(PosixFileManagerAcrossFileSystems, OverwritesFollowsAndLosesNothing) {
   const Url from = other_->write("file", "new");
   folder_.write("taken", "old");
   fs::create_symlink(folder_ / "elsewhere", folder_ / "dangling");

@@ -6,7 +6,6 @@
 #include <openssl/x509.h>
 #include <poll.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
 #include <array>
 #include <memory>
@@ -22,21 +21,22 @@ std::string urlOf(std::string_view scheme, int port, std::string_view path) {
   return std::string(scheme).append("://127.0.0.1:").append(std::to_string(port)).append(path);
 }
 
-/// A socket bound to a free port.
-std::pair<int, int> boundSocket() {
-  const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+/// Returns a socket bound to a free port, and the port.
+std::pair<FileDescriptor, int> boundSocket() {
+  FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
   sockaddr_in address{};
   address.sin_family = AF_INET;
   address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
   socklen_t size = sizeof address;
   auto* generic = reinterpret_cast<sockaddr*>(&address);
-  if (::bind(socket, generic, size) != 0 || ::getsockname(socket, generic, &size) != 0) {
+  if (::bind(socket.get(), generic, size) != 0 ||
+      ::getsockname(socket.get(), generic, &size) != 0) {
     throw std::runtime_error("no free port");
   }
-  return {socket, ntohs(address.sin_port)};
+  return {std::move(socket), ntohs(address.sin_port)};
 }
 
-// A server that has not begun cannot be stopped.
+// Stopping a server that is not running yet has no effect.
 void awaitRunning(const httplib::Server& server) {
   while (!server.is_running()) std::this_thread::yield();
 }
@@ -85,15 +85,11 @@ std::string SelfSignedServer::url(std::string_view path) const {
   return urlOf("https", port_, path);
 }
 
-RawConnection::~RawConnection() {
-  if (socket_ >= 0) ::close(socket_);
-}
-
 std::string RawConnection::readHead() const {
   std::string head;
   char byte = 0;
   while (!head.ends_with("\r\n\r\n")) {
-    if (::recv(socket_, &byte, 1, 0) != 1) return {};
+    if (::recv(socket_.get(), &byte, 1, 0) != 1) return {};
     head += byte;
   }
   return head;
@@ -101,7 +97,7 @@ std::string RawConnection::readHead() const {
 
 bool RawConnection::send(std::string_view bytes) const {
   while (!bytes.empty()) {
-    const ssize_t sent = ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+    const ssize_t sent = ::send(socket_.get(), bytes.data(), bytes.size(), MSG_NOSIGNAL);
     if (sent <= 0) return false;
     bytes.remove_prefix(static_cast<std::size_t>(sent));
   }
@@ -109,53 +105,48 @@ bool RawConnection::send(std::string_view bytes) const {
 }
 
 bool RawConnection::pause(std::chrono::milliseconds time) const {
-  pollfd waiting{socket_, POLLIN, 0};
+  pollfd waiting{socket_.get(), POLLIN, 0};
   return ::poll(&waiting, 1, static_cast<int>(time.count())) == 0;
 }
 
 void RawConnection::hold() const {
   std::array<char, 512> ignored{};
-  while (::recv(socket_, ignored.data(), ignored.size(), 0) > 0) {
+  while (::recv(socket_.get(), ignored.data(), ignored.size(), 0) > 0) {
   }
 }
 
 void RawConnection::reset() {
   const linger hard{1, 0};
-  ::setsockopt(socket_, SOL_SOCKET, SO_LINGER, &hard, sizeof hard);
-  ::close(std::exchange(socket_, -1));
+  ::setsockopt(socket_.get(), SOL_SOCKET, SO_LINGER, &hard, sizeof hard);
+  socket_.close();
 }
 
 RawServer::RawServer(Serve serve) : serve_(std::move(serve)) {
   std::tie(socket_, port_) = boundSocket();
-  ::listen(socket_, 16);
+  ::listen(socket_.get(), 16);
   thread_ = std::thread([this] {
     while (true) {
-      const int accepted = ::accept4(socket_, nullptr, nullptr, SOCK_CLOEXEC);
-      if (accepted < 0) return;
+      FileDescriptor accepted(::accept4(socket_.get(), nullptr, nullptr, SOCK_CLOEXEC));
+      if (!accepted.isOpen()) return;
       ++connections_;
-      RawConnection connection(accepted);
+      RawConnection connection(std::move(accepted));
       serve_(connection);
     }
   });
 }
 
-RawServer::RawServer(std::string answer)
-    : RawServer([answer = std::move(answer)](RawConnection& connection) {
-        if (!connection.readHead().empty()) connection.send(answer);
+RawServer::RawServer(std::string response)
+    : RawServer([response = std::move(response)](RawConnection& connection) {
+        if (!connection.readHead().empty()) connection.send(response);
       }) {}
 
 RawServer::~RawServer() {
-  ::shutdown(socket_, SHUT_RDWR);  // ends the accept
+  ::shutdown(socket_.get(), SHUT_RDWR);  // ends the accept
   thread_.join();
-  ::close(socket_);
 }
 
 std::string RawServer::url(std::string_view path) const { return urlOf("http", port_, path); }
 
-int unusedPort() {
-  const auto [socket, port] = boundSocket();
-  ::close(socket);
-  return port;
-}
+int unusedPort() { return boundSocket().second; }
 
 }  // namespace orvanta::testing

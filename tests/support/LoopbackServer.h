@@ -9,10 +9,13 @@
 #include <string>
 #include <string_view>
 #include <thread>
+#include <utility>
+
+#include "orvanta/Linux/FileDescriptor.h"
 
 namespace orvanta::testing {
 
-/// An HTTP server on a port of its own of 127.0.0.1. Add the answers, then call `start`.
+/// An HTTP server on a free port of 127.0.0.1. Add routes, then call `start`.
 class HttpServer {
  public:
   HttpServer() = default;
@@ -30,7 +33,7 @@ class HttpServer {
   int port_ = 0;
 };
 
-/// The same over TLS, with a certificate that nobody signed but itself.
+/// An HTTPS server with a self-signed certificate.
 class SelfSignedServer {
  public:
   SelfSignedServer();
@@ -49,35 +52,32 @@ class SelfSignedServer {
 /// The server's end of a connection.
 class RawConnection {
  public:
-  explicit RawConnection(int socket) : socket_(socket) {}
-  RawConnection(const RawConnection&) = delete;
-  RawConnection& operator=(const RawConnection&) = delete;
-  ~RawConnection();
+  explicit RawConnection(FileDescriptor socket) : socket_(std::move(socket)) {}
 
-  /// The next request's head; empty once the client has hung up.
+  /// Reads the head of the next request; empty if the client has closed.
   std::string readHead() const;
-  /// False once the client has hung up.
+  /// Returns false if the client has closed.
   bool send(std::string_view bytes) const;
-  /// Waits; false as soon as the client hangs up or sends something.
+  /// Waits; returns false as soon as the client closes or sends.
   bool pause(std::chrono::milliseconds time) const;
-  /// Waits until the client hangs up.
+  /// Waits until the client closes.
   void hold() const;
-  /// Hangs up with a reset.
+  /// Closes with a reset.
   void reset();
 
  private:
-  int socket_;
+  FileDescriptor socket_;
 };
 
-/// A server that sends whatever a test wants, on a port of its own of 127.0.0.1. It serves one
-/// connection after the other, each as `serve` says, and hangs up when that returns.
+/// A server that may send anything, on a free port of 127.0.0.1. It serves one connection after the
+/// other by calling `serve`, and closes it when that returns.
 class RawServer {
  public:
   using Serve = std::function<void(RawConnection& connection)>;
 
   explicit RawServer(Serve serve);
-  /// One that reads a request and sends the bytes.
-  explicit RawServer(std::string answer);
+  /// Reads a request and sends the bytes.
+  explicit RawServer(std::string response);
   RawServer(const RawServer&) = delete;
   RawServer& operator=(const RawServer&) = delete;
   ~RawServer();
@@ -87,13 +87,13 @@ class RawServer {
 
  private:
   Serve serve_;
-  int socket_;
+  FileDescriptor socket_;
   int port_ = 0;
   std::atomic<int> connections_ = 0;
   std::thread thread_;
 };
 
-/// A port of 127.0.0.1 at which nobody listens.
+/// Returns a port of 127.0.0.1 at which nobody listens.
 int unusedPort();
 
 }  // namespace orvanta::testing
