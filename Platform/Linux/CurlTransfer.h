@@ -10,7 +10,7 @@
 
 namespace orvanta {
 
-/// How far a transfer may go.
+/// Limits of a transfer, with the code of NSURLErrorDomain for each that is exceeded.
 struct TransferLimits {
   std::chrono::milliseconds idle{60'000};                   // without a byte, at any stage: -1001
   std::chrono::milliseconds total{7LL * 24 * 3600 * 1000};  // from start to end: -1001
@@ -18,29 +18,37 @@ struct TransferLimits {
   int redirects = 20;                                       // one more: -1007
 };
 
-/// What a transfer ended with, as NSURLSession reports it.
+/// The outcome of a transfer: either a file or an error.
 struct TransferResult {
   std::optional<std::filesystem::path> file;  // the temporary file, the caller's to move or remove
-  Ref<NSURLResponse> response;
+  Ref<NSURLResponse> response;                // with a file, and with errors after its headers
   Ref<NSError> error;
 };
 
-/// Told the decoded bytes so far and the size that was announced, 0 for none or when the body is
-/// compressed; on the thread that transfers. What it throws ends the transfer and passes on.
+/// Called on the thread of the transfer with the decoded bytes so far and the announced size, which
+/// is 0 if there is none or the body is compressed. An exception ends the transfer and propagates.
 using TransferProgress = std::function<void(std::uint64_t received, std::uint64_t expected)>;
 
-/// Fetches a URL over http or https, and nothing else, into a new file of the folder, named
-/// "CFNetworkDownload_" + six letters or digits + ".tmp" as the platform names its own. Blocks; may
-/// be called from any thread. The body is streamed to the file, gzip and deflate undone;
-/// certificates are checked. Neither names and passwords in URLs nor cookies are sent, and proxies
-/// of the environment are not used. Errors are those of NSURLErrorDomain, with
-/// NSLocalizedDescription, NSErrorFailingURLStringKey and NSErrorFailingURLKey. An HTTP error
-/// status is none. No file is left behind after an error.
+/// Fetches an http or https URL into a new file of the folder. Blocks; may be called from any
+/// thread.
 ///
-/// The response is that of the final answer and is there as soon as its headers were complete,
-/// error or not. Its headers stand in the order of arrival, a repeated one at its first place, the
-/// values joined by ", "; a question mark replaces each byte that is no UTF-8 or belongs to a
-/// control character. More than 256 lines or 64 KiB of them are a bad answer, -1011.
+///   const TransferResult result = transfer(url, temporaryFolder, {});
+///   if (result.error) return result.error;
+///   moveFile(*result.file, destination);
+///
+/// The file is named as the platform names its downloads: "CFNetworkDownload_", six letters or
+/// digits, ".tmp". The body is streamed to it, with gzip and deflate undone. After an error no file
+/// is left.
+///
+/// Certificates are checked. Names and passwords of URLs, cookies, and the environment's proxies
+/// are not used. A redirect leads to http and https only.
+///
+/// Errors are those of NSURLErrorDomain, with NSLocalizedDescription, NSErrorFailingURLStringKey
+/// and NSErrorFailingURLKey. An HTTP error status is not an error.
+///
+/// The response is the final one, after redirects. Its headers are in the order of arrival, a
+/// repeated one at its first place with the values joined by ", "; bytes that cannot be printed are
+/// replaced by '?'. More than 256 lines or 64 KiB of headers are a bad response, -1011.
 TransferResult transfer(const Url& url, const std::filesystem::path& folder,
                         const TransferLimits& limits, const TransferProgress& progress = {});
 
