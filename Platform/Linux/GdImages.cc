@@ -3,10 +3,8 @@
 #include <fcntl.h>
 #include <png.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <cmath>
 #include <cstdint>
 #include <memory>
@@ -15,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "orvanta/Linux/FileDescriptor.h"
 #include "orvanta/Linux/GdLibrary.h"
 
 namespace orvanta {
@@ -30,21 +29,26 @@ constexpr int kWhite = 0xFFFFFF;
 
 const GdLibrary& gd() { return GdLibrary::loaded(); }
 
-struct PictureDeleter {
-  void operator()(gdImage* picture) const { gd().gdImageDestroy(picture); }
+struct BitmapDeleter {
+  void operator()(gdImage* bitmap) const { gd().gdImageDestroy(bitmap); }
 };
-using Picture = std::unique_ptr<gdImage, PictureDeleter>;
+using Bitmap = std::unique_ptr<gdImage, BitmapDeleter>;
 
-class HostImage final : public UIImage {
+class GdImage final : public UIImage {
  public:
-  explicit HostImage(Picture picture) : picture_(std::move(picture)) {}
-  gdImage* picture() const { return picture_.get(); }
+  explicit GdImage(Bitmap bitmap) : bitmap_(std::move(bitmap)) {}
+  gdImage* bitmap() const { return bitmap_.get(); }
 
  private:
-  Picture picture_;
+  Bitmap bitmap_;
 };
 
-// ---- Sizes, from the headers -------------------------------------------------
+// ---- Sizes -------------------------------------------------------------------
+//
+// Read from the file's first bytes, because the decoders allocate all pixels before they read one:
+// a header of some 30 bytes can ask for gigabytes. libpng's call for a header is too late, too: it
+// also unpacks the texts in front of the pixels. Some decoders accept truncated files; where that
+// shows, the size is zero and the file counts as damaged.
 
 struct Size {
   std::uint32_t width = 0;
@@ -54,7 +58,7 @@ struct Size {
   }
 };
 
-/// Bytes behind which there are zeros.
+/// A byte view that reads as zeros past its end.
 class Bytes {
  public:
   explicit Bytes(std::string_view bytes) : bytes_(bytes) {}
@@ -83,8 +87,8 @@ Size sizeOfPNG(const Bytes& file) {
   return {file.big32(16), file.big32(20)};
 }
 
-/// Of the frame header, which must stand behind whole segments with nothing between them; none
-/// when the end is missing, which decoding would pass.
+/// Size in the frame header, which follows whole segments with nothing between them. Zero without
+/// an end marker, which the decoder would accept.
 Size sizeOfJPEG(const Bytes& file) {
   for (std::size_t at = 2; file.byte(at) == 0xFF;) {
     while (file.byte(at) == 0xFF) ++at;
@@ -101,7 +105,8 @@ Size sizeOfJPEG(const Bytes& file) {
   return {};
 }
 
-/// Of the screen; none when the first frame is not there to its end, which decoding would pass.
+/// Logical screen size, to which the decoder confines the frame that it allocates. Zero if the
+/// first frame is truncated, which the decoder would accept.
 Size sizeOfGIF(const Bytes& file) {
   const auto colorTableBytes = [&](std::size_t at) -> std::size_t {
     const std::uint32_t flags = file.byte(at);
@@ -136,11 +141,11 @@ Size sizeOfWebP(const Bytes& file) {
 
 // ---- Decoding ----------------------------------------------------------------
 
-std::span<int> row(const gdImage& picture, int y) {
-  return {picture.tpixels[y], static_cast<std::size_t>(picture.sx)};
+std::span<int> row(const gdImage& bitmap, int y) {
+  return {bitmap.tpixels[y], static_cast<std::size_t>(bitmap.sx)};
 }
 
-/// By the format's own library, which prints nothing when it is used like this.
+/// Uses libpng rather than libgd, which prints libpng's warnings to stderr.
 gdImage* decodePNG(int size, void* bytes) {
   png_image file{};
   file.version = PNG_IMAGE_VERSION;
@@ -152,17 +157,17 @@ gdImage* decodePNG(int size, void* bytes) {
   std::vector<png_byte> pixels(PNG_IMAGE_SIZE(file));
   if (png_image_finish_read(&file, nullptr, pixels.data(), 0, nullptr) == 0) return nullptr;
 
-  Picture picture(
+  Bitmap bitmap(
       gd().gdImageCreateTrueColor(static_cast<int>(file.width), static_cast<int>(file.height)));
-  if (!picture) return nullptr;
+  if (!bitmap) return nullptr;
   const png_byte* pixel = pixels.data();
-  for (int y = 0; y < gdImageSY(picture); ++y) {
-    for (int& color : row(*picture, y)) {
+  for (int y = 0; y < gdImageSY(bitmap); ++y) {
+    for (int& color : row(*bitmap, y)) {
       color = gdTrueColorAlpha(pixel[0], pixel[1], pixel[2], gdAlphaMax - pixel[3] / 2);
       pixel += 4;
     }
   }
-  return picture.release();
+  return bitmap.release();
 }
 
 gdImage* decodeGIF(int size, void* bytes) { return gd().gdImageCreateFromGifPtr(size, bytes); }
@@ -183,7 +188,8 @@ constexpr Format kFormats[] = {
      [](int size, void* bytes) { return gd().gdImageCreateFromWebpPtr(size, bytes); }},
 };
 
-/// The color as it looks on white; alpha runs from 0, opaque, to 127.
+/// Returns the color as it looks on white, since JPEG has no transparency. libgd's alpha runs from
+/// 0, opaque, to 127.
 int onWhite(int color) {
   const int alpha = gdTrueColorGetAlpha(color);
   if (alpha == gdAlphaOpaque) return color;
@@ -194,29 +200,29 @@ int onWhite(int color) {
                      blended(gdTrueColorGetBlue(color)));
 }
 
-Picture decoded(std::string file) {
+Bitmap decoded(std::string file) {
   const Bytes bytes(file);
   const auto* const format =
       std::find_if(std::begin(kFormats), std::end(kFormats),
                    [&](const Format& f) { return bytes.have(f.magicAt, f.magic); });
   if (format == std::end(kFormats) || !format->size(bytes).isAllowed()) return nullptr;
 
-  Picture picture(format->decode(static_cast<int>(file.size()), file.data()));
-  if (!picture || gd().gdImagePaletteToTrueColor(picture.get()) == 0) return nullptr;
-  for (int y = 0; y < gdImageSY(picture); ++y) {
-    for (int& color : row(*picture, y)) {
-      color = color == picture->transparent ? kWhite : onWhite(color);
+  Bitmap bitmap(format->decode(static_cast<int>(file.size()), file.data()));
+  if (!bitmap || gd().gdImagePaletteToTrueColor(bitmap.get()) == 0) return nullptr;
+  for (int y = 0; y < gdImageSY(bitmap); ++y) {
+    for (int& color : row(*bitmap, y)) {
+      color = color == bitmap->transparent ? kWhite : onWhite(color);
     }
   }
-  return picture;
+  return bitmap;
 }
 
-Picture plainPicture() {
+Bitmap grayBitmap() {
   constexpr int kSide = 32;
   constexpr int kGray = 0x808080;
-  Picture picture(gd().gdImageCreateTrueColor(kSide, kSide));
-  if (picture) gd().gdImageFilledRectangle(picture.get(), 0, 0, kSide - 1, kSide - 1, kGray);
-  return picture;
+  Bitmap bitmap(gd().gdImageCreateTrueColor(kSide, kSide));
+  if (bitmap) gd().gdImageFilledRectangle(bitmap.get(), 0, 0, kSide - 1, kSide - 1, kGray);
+  return bitmap;
 }
 
 // ---- Files -------------------------------------------------------------------
@@ -226,7 +232,7 @@ bool isPlainName(std::string_view name) {
          name.find_first_of(std::string_view("/\\\0", 3)) == std::string_view::npos;
 }
 
-/// The content of a regular file that is inside the folder, links resolved; empty for none.
+/// Reads a regular file that is inside the folder once links are resolved; empty otherwise.
 std::string content(const fs::path& folder, const std::string& name) {
   std::error_code error;
   const fs::path root = fs::canonical(folder, error);
@@ -236,22 +242,21 @@ std::string content(const fs::path& folder, const std::string& name) {
   const fs::path below = path.lexically_relative(root);
   if (below.empty() || *below.begin() == "..") return {};
 
-  const int file = ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-  if (file < 0) return {};
-  std::string bytes;
+  // The file may have been replaced since: by a link, or by a pipe that would block the open.
+  const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
   struct stat status {};
-  if (::fstat(file, &status) == 0 && S_ISREG(status.st_mode) &&
-      std::cmp_less_equal(status.st_size, kMaxFileBytes)) {
-    bytes.resize(static_cast<std::size_t>(status.st_size));
-    std::size_t filled = 0;
-    while (filled < bytes.size()) {
-      const ssize_t count = ::read(file, bytes.data() + filled, bytes.size() - filled);
-      if (count == 0 || (count < 0 && errno != EINTR)) break;
-      if (count > 0) filled += static_cast<std::size_t>(count);
-    }
-    bytes.resize(filled);
+  if (!file.isOpen() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode) ||
+      std::cmp_greater(status.st_size, kMaxFileBytes)) {
+    return {};
   }
-  ::close(file);
+  std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
+  std::size_t filled = 0;
+  while (filled < bytes.size()) {
+    const ssize_t count = file.read(bytes.data() + filled, bytes.size() - filled);
+    if (count <= 0) break;
+    filled += static_cast<std::size_t>(count);
+  }
+  bytes.resize(filled);
   return bytes;
 }
 
@@ -262,11 +267,11 @@ GdImages::GdImages(fs::path resources, std::set<std::string> simulated)
 
 Ref<UIImage> GdImages::imageNamed(std::string_view name) {
   if (!isPlainName(name)) return nullptr;
-  const auto asImage = [](Picture picture) -> Ref<UIImage> {
-    if (!picture) return nullptr;
-    return Ref<HostImage>::adopt(new HostImage(std::move(picture)));
+  const auto asImage = [](Bitmap bitmap) -> Ref<UIImage> {
+    if (!bitmap) return nullptr;
+    return Ref<GdImage>::adopt(new GdImage(std::move(bitmap)));
   };
-  if (simulated_.contains(std::string(name))) return asImage(plainPicture());
+  if (simulated_.contains(std::string(name))) return asImage(grayBitmap());
   if (resources_.empty()) return nullptr;
 
   const auto dot = name.rfind('.');
@@ -274,9 +279,9 @@ Ref<UIImage> GdImages::imageNamed(std::string_view name) {
   const std::string_view stem = hasExtension ? name.substr(0, dot) : name;
   const std::string_view extension = hasExtension ? name.substr(dot) : ".png";
   for (const char* const scale : {"@3x", "@2x", ""}) {
-    if (Picture picture =
+    if (Bitmap bitmap =
             decoded(content(resources_, std::string(stem).append(scale).append(extension)))) {
-      return asImage(std::move(picture));
+      return asImage(std::move(bitmap));
     }
   }
   return nullptr;
@@ -284,13 +289,12 @@ Ref<UIImage> GdImages::imageNamed(std::string_view name) {
 
 std::optional<std::string> GdImages::JPEGRepresentation(const Ref<UIImage>& image,
                                                         double compressionQuality) {
-  const auto* const hostImage = dynamic_cast<const HostImage*>(image.get());
-  if (hostImage == nullptr) return std::nullopt;
-  const double quality = compressionQuality >= 0 ? std::min(compressionQuality, 1.0) : 0;
+  const auto* const gdImage = dynamic_cast<const GdImage*>(image.get());
+  if (gdImage == nullptr) return std::nullopt;
+  const double quality = compressionQuality >= 0 ? std::min(compressionQuality, 1.0) : 0;  // or NaN
   int size = 0;
   const std::unique_ptr<void, void (*)(void*)> bytes(
-      gd().gdImageJpegPtr(hostImage->picture(), &size,
-                          static_cast<int>(std::lround(quality * 100))),
+      gd().gdImageJpegPtr(gdImage->bitmap(), &size, static_cast<int>(std::lround(quality * 100))),
       gd().gdFree);
   if (!bytes) return std::nullopt;
   return std::string(static_cast<const char*>(bytes.get()), static_cast<std::size_t>(size));

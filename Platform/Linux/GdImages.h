@@ -8,12 +8,17 @@
 
 namespace orvanta {
 
-/// Pictures of a resources folder, decoded and encoded by an image library. Only plain names are
-/// looked up: nothing that leaves the folder. Throws std::runtime_error where there is a picture
-/// and the library is not installed.
+/// Images of a resources folder: PNG, JPEG, GIF (its first frame) and WebP, decoded by libpng and
+/// libgd and encoded by libgd. As on the platform, a name without extension is that of a PNG file,
+/// and the variants "@3x" and "@2x" come first.
+///
+/// Names and files may be hostile. Only plain names are looked up, and links that leave the folder
+/// are not followed. Files over 32 MiB and images over 4096 pixels in width or height do not exist
+/// for callers, nor do damaged ones. Throws std::runtime_error if there is an image to decode and
+/// libgd is not installed.
 class GdImages final : public Images {
  public:
-  /// An empty folder has no pictures. The simulated names exist as small plain pictures.
+  /// An empty path is a folder without images. The simulated names exist as small gray images.
   explicit GdImages(std::filesystem::path resources, std::set<std::string> simulated = {});
 
   Ref<UIImage> imageNamed(std::string_view name) override;

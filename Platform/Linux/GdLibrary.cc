@@ -12,10 +12,11 @@ namespace {
 
 void ignoreMessage(int, const char*, std::va_list) {}
 
-void* orThrow(void* found) {
-  if (found == nullptr)
+void* orThrow(void* symbol) {
+  if (symbol == nullptr) {
     throw std::runtime_error(std::string("no picture can be read: ") + dlerror());
-  return found;
+  }
+  return symbol;
 }
 
 GdLibrary load() {

@@ -4,9 +4,9 @@
 
 namespace orvanta {
 
-/// The functions of libgd that are used, under their names. The library brings some forty others
-/// along, and loading those takes longer than most notifications do; so it is loaded when the first
-/// picture is.
+/// The functions of libgd in use, under their own names. libgd depends on some forty libraries, and
+/// loading those takes longer than handling most notifications; so it is loaded with the first
+/// image rather than with the program.
 struct GdLibrary {
 // clang-format off
 #define ORVANTA_GD_FUNCTIONS(X)                                                           \
@@ -19,8 +19,8 @@ struct GdLibrary {
   ORVANTA_GD_FUNCTIONS(ORVANTA_GD_FUNCTION)
 #undef ORVANTA_GD_FUNCTION
 
-  /// Loaded at the first call; throws std::runtime_error when the library is not installed. It
-  /// prints nothing.
+  /// Loads the library at the first call; throws std::runtime_error if it is not installed. libgd's
+  /// messages, which it prints to stderr by default, are dropped.
   static const GdLibrary& loaded();
 };
 

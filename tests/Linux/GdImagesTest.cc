@@ -35,8 +35,8 @@ std::string header(std::uint32_t width, std::uint32_t height, char colorType) {
   return chunk("IHDR", big32(width) + big32(height) + '\x08' + colorType + "\0\0\0"s);
 }
 
-/// A PNG file of one row; the color type is 2 for RGB, 6 for RGBA. `extra` are chunks in front of
-/// the pixels.
+/// A PNG file of one row; the color type is 2 for RGB, 6 for RGBA. `extra` are chunks before the
+/// pixels.
 std::string png(std::uint32_t width, char colorType, const std::string& pixels,
                 const std::string& extra = "") {
   const std::string row = '\0' + pixels;
@@ -54,7 +54,7 @@ std::string png(std::uint32_t width, char colorType, const std::string& pixels,
          chunk("IEND", "");
 }
 
-/// One pixel: a color of the table, which is red, green; the first is transparent.
+/// One pixel: a color of the table, which is red and green. The first is transparent.
 std::string gif(bool green) {
   return "GIF89a\1\0\1\0\x80\0\0\xFF\0\0\0\xFF\0!\xF9\4\1\0\0\0\0,\0\0\0\0\1\0\1\0\0\2\2"s +
          (green ? "L" : "D") + "\1\0;"s;
@@ -72,7 +72,7 @@ class GdImagesTest : public ::testing::Test {
   std::optional<std::string> jpeg(std::string_view name, double quality = 1) {
     return images_.JPEGRepresentation(images_.imageNamed(name), quality);
   }
-  /// What becomes of a file's content; none when it is no image.
+  /// A file's content, decoded and encoded as JPEG; none if it is not an image.
   std::optional<std::string> encoded(const std::string& content) {
     fs::remove(folder_ / "probe.bin");
     folder_.write("probe.bin", content);
@@ -84,13 +84,13 @@ class GdImagesTest : public ::testing::Test {
   GdImages images_{folder_.path(), {"star"}};
 };
 
-TEST_F(GdImagesTest, ABrokenVariantGivesWayToTheNext) {
+TEST_F(GdImagesTest, SkipsADamagedVariant) {
   folder_.write("icon@2x.png", kGreen);
   folder_.write("icon@3x.png", "broken");
   EXPECT_EQ(jpeg("icon"), encoded(kGreen));
 }
 
-TEST_F(GdImagesTest, TransparencyBecomesWhite) {
+TEST_F(GdImagesTest, BlendsTransparencyWithWhite) {
   const auto white = encoded(kWhite);
   ASSERT_TRUE(white);
   EXPECT_NE(encoded(kRed), white);
@@ -114,7 +114,7 @@ TEST_F(GdImagesTest, JPEGFollowsTheQuality) {
   EXPECT_TRUE(encoded(*best));
 }
 
-TEST_F(GdImagesTest, NothingOutsideTheFolderIsFound) {
+TEST_F(GdImagesTest, FindsNothingOutsideTheFolder) {
   const TemporaryFolder other;
   other.write("secret.png", kRed);
   fs::create_directory(folder_ / "sub");
@@ -140,10 +140,10 @@ TEST_F(GdImagesTest, NothingOutsideTheFolderIsFound) {
   EXPECT_TRUE(GdImages(other / "linked").imageNamed("icon"));
 }
 
-TEST_F(GdImagesTest, HugePicturesAreRefusedByTheirHeaders) {
+TEST_F(GdImagesTest, RejectsHugeImagesByTheirHeaders) {
   EXPECT_TRUE(encoded(png(4096, 2, std::string(12288, 'x'))));
   EXPECT_FALSE(encoded(png(4097, 2, std::string(12291, 'x'))));
-  const std::string large = "\xFF\x7F"s;  // 32767, whichever end comes first it is over the limit
+  const std::string large = "\xFF\x7F"s;  // over the limit in either byte order
   std::string hugeGIF = gif(true);
   std::string hugeWebP = kWebP;
   std::string hugeJPEG = *jpeg("star");
@@ -158,20 +158,20 @@ TEST_F(GdImagesTest, HugePicturesAreRefusedByTheirHeaders) {
   }
 }
 
-TEST_F(GdImagesTest, FilesOverTheLimitAreNotRead) {
+TEST_F(GdImagesTest, DoesNotReadFilesOverTheLimit) {
   folder_.write("big.png", kRed);
   fs::resize_file(folder_ / "big.png", 32U << 20U);
-  EXPECT_TRUE(exists("big"));  // zeros behind the end do not matter
+  EXPECT_TRUE(exists("big"));  // zeros after the end do not matter
   fs::resize_file(folder_ / "big.png", (32U << 20U) + 1);
   EXPECT_FALSE(exists("big"));
 }
 
-TEST_F(GdImagesTest, BrokenFilesAreNoImagesAndNothingIsPrinted) {
+TEST_F(GdImagesTest, RejectsDamagedFilesAndPrintsNothing) {
   ::testing::internal::CaptureStderr();
   ::testing::internal::CaptureStdout();
   const struct {
     std::string file;
-    std::size_t tail;  // a mark of the end that decoding does not need
+    std::size_t tail;  // an end marker that decoding does not need
   } files[] = {{kRed, 12}, {gif(true), 1}, {kWebP, 0}, {*jpeg("star"), 0}};
   for (const auto& [file, tail] : files) {
     ASSERT_TRUE(encoded(file));
