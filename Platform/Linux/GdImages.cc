@@ -26,6 +26,7 @@ constexpr std::size_t kMaxNameBytes = 255;
 constexpr std::size_t kMaxFileBytes = std::size_t{32} << 20U;
 constexpr std::uint32_t kMaxSide = 4096;
 constexpr int kWhite = 0xFFFFFF;
+constexpr std::string_view kPNGMagic = "\x89PNG\r\n\x1A\n";
 
 const GdLibrary& gd() { return GdLibrary::loaded(); }
 
@@ -47,7 +48,7 @@ class GdImage final : public UIImage {
 //
 // Read from the file's first bytes, because the decoders allocate all pixels before they read one:
 // a header of some 30 bytes can ask for gigabytes. libpng's call for a header is too late, too: it
-// also unpacks the texts in front of the pixels. Some decoders accept truncated files; where that
+// also reads everything else before the pixels. Some decoders accept truncated files; where that
 // shows, the size is zero and the file counts as damaged.
 
 struct Size {
@@ -145,13 +146,30 @@ std::span<int> row(const gdImage& bitmap, int y) {
   return {bitmap.tpixels[y], static_cast<std::size_t>(bitmap.sx)};
 }
 
+/// Removes the compressed texts before the pixels. libpng would unpack each to up to 8 MB and keep
+/// a thousand of them, whatever it is asked for.
+std::string withoutCompressedTexts(std::string_view file) {
+  const Bytes bytes(file);
+  std::size_t at = kPNGMagic.size();
+  std::string kept(file.substr(0, at));
+  while (at < file.size() && !bytes.have(at + 4, "IDAT")) {
+    constexpr std::uint64_t kOverhead = 12;  // length, type and checksum
+    const auto size = static_cast<std::size_t>(
+        std::min<std::uint64_t>(kOverhead + bytes.big32(at), file.size() - at));
+    const bool isCompressedText = bytes.have(at + 4, "zTXt") || bytes.have(at + 4, "iTXt");
+    if (!isCompressedText) kept += file.substr(at, size);
+    at += size;
+  }
+  return kept.append(file.substr(at));
+}
+
 /// Uses libpng rather than libgd, which prints libpng's warnings to stderr.
 gdImage* decodePNG(int size, void* bytes) {
+  const std::string png =
+      withoutCompressedTexts({static_cast<const char*>(bytes), static_cast<std::size_t>(size)});
   png_image file{};
   file.version = PNG_IMAGE_VERSION;
-  if (png_image_begin_read_from_memory(&file, bytes, static_cast<std::size_t>(size)) == 0) {
-    return nullptr;
-  }
+  if (png_image_begin_read_from_memory(&file, png.data(), png.size()) == 0) return nullptr;
   file.format = PNG_FORMAT_RGBA;
   file.flags |= PNG_IMAGE_FLAG_16BIT_sRGB;
   std::vector<png_byte> pixels(PNG_IMAGE_SIZE(file));
@@ -179,7 +197,7 @@ struct Format {
   gdImage* (*decode)(int size, void* bytes);
 };
 constexpr Format kFormats[] = {
-    {"\x89PNG\r\n\x1A\n", 0, sizeOfPNG, decodePNG},
+    {kPNGMagic, 0, sizeOfPNG, decodePNG},
     {"\xFF\xD8\xFF", 0, sizeOfJPEG,
      [](int size, void* bytes) { return gd().gdImageCreateFromJpegPtrEx(size, bytes, 0); }},
     {"GIF87a", 0, sizeOfGIF, decodeGIF},

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <zlib.h>
 
 #include <cmath>
 #include <cstdint>
@@ -156,6 +158,29 @@ TEST_F(GdImagesTest, RejectsHugeImagesByTheirHeaders) {
         kPNGMagic + header(0, 1, 2), hugeGIF, hugeWebP, hugeJPEG, extended}) {
     EXPECT_FALSE(encoded(file));
   }
+}
+
+TEST_F(GdImagesTest, DoesNotUnpackTextsOfPNGFiles) {
+  const std::string text(7'900'000, ' ');
+  uLongf size = ::compressBound(text.size());
+  std::string packed(size, '\0');
+  ASSERT_EQ(::compress(reinterpret_cast<Bytef*>(packed.data()), &size,
+                       reinterpret_cast<const Bytef*>(text.data()), text.size()),
+            Z_OK);
+  packed.resize(size);
+  std::string texts;
+  for (int i = 0; i < 15; ++i) {
+    texts += chunk("zTXt", "key\0\0"s + packed) + chunk("iTXt", "key\0\1\0\0\0"s + packed);
+  }
+  const auto red = encoded(kRed);
+  const auto peakMemory = [] {
+    rusage usage{};
+    ::getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;  // KiB
+  };
+  const auto before = peakMemory();
+  EXPECT_EQ(encoded(png(1, 2, "\xFF\0\0"s, texts)), red);
+  EXPECT_LT(peakMemory() - before, 100'000);
 }
 
 TEST_F(GdImagesTest, DoesNotReadFilesOverTheLimit) {
