@@ -4,7 +4,7 @@
 
 #include "orvanta/Foundation/internal/ASCII.h"
 #include "orvanta/Linux/HTTPHeader.h"
-#include "orvanta/Linux/URLErrors.h"
+#include "orvanta/Simulator/URLErrors.h"
 
 namespace orvanta {
 
