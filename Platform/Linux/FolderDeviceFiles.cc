@@ -8,15 +8,17 @@
 #include <stdexcept>
 #include <system_error>
 
+#include "orvanta/Linux/FileDescriptor.h"
+
 namespace orvanta {
 
 namespace fs = std::filesystem;
 
 /// Makes a new empty file. Returns 0 or an errno, which is EEXIST also for a dangling link.
 static int makeNewFile(const fs::path& file) {
-  const int descriptor =
-      ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
-  return descriptor >= 0 && ::close(descriptor) == 0 ? 0 : errno;
+  FileDescriptor descriptor(
+      ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+  return descriptor.isOpen() && descriptor.close() ? 0 : errno;
 }
 
 FolderDeviceFiles::FolderDeviceFiles(const fs::path& folder)

@@ -235,14 +235,6 @@ Bitmap decoded(std::string file) {
   return bitmap;
 }
 
-Bitmap grayBitmap() {
-  constexpr int kSide = 32;
-  constexpr int kGray = 0x808080;
-  Bitmap bitmap(gd().gdImageCreateTrueColor(kSide, kSide));
-  if (bitmap) gd().gdImageFilledRectangle(bitmap.get(), 0, 0, kSide - 1, kSide - 1, kGray);
-  return bitmap;
-}
-
 // ---- Files -------------------------------------------------------------------
 
 bool isPlainName(std::string_view name) {
@@ -280,17 +272,12 @@ std::string content(const fs::path& folder, const std::string& name) {
 
 }  // namespace
 
-GdImages::GdImages(fs::path resources, std::set<std::string> simulated)
-    : resources_(std::move(resources)), simulated_(std::move(simulated)) {}
-
 Ref<UIImage> GdImages::imageNamed(std::string_view name) {
-  if (!isPlainName(name)) return nullptr;
+  if (resources_.empty() || !isPlainName(name)) return nullptr;
   const auto asImage = [](Bitmap bitmap) -> Ref<UIImage> {
     if (!bitmap) return nullptr;
     return Ref<GdImage>::adopt(new GdImage(std::move(bitmap)));
   };
-  if (simulated_.contains(std::string(name))) return asImage(grayBitmap());
-  if (resources_.empty()) return nullptr;
 
   const auto dot = name.rfind('.');
   const bool hasExtension = dot != std::string_view::npos && dot != 0 && dot + 1 != name.size();

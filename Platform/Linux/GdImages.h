@@ -1,8 +1,8 @@
 #pragma once
 
 #include <filesystem>
-#include <set>
 #include <string>
+#include <utility>
 
 #include "orvanta/Platform/UIKit.h"
 
@@ -18,8 +18,8 @@ namespace orvanta {
 /// libgd is not installed.
 class GdImages final : public Images {
  public:
-  /// An empty path is a folder without images. The simulated names exist as small gray images.
-  explicit GdImages(std::filesystem::path resources, std::set<std::string> simulated = {});
+  /// An empty path is a folder without images.
+  explicit GdImages(std::filesystem::path resources) : resources_(std::move(resources)) {}
 
   Ref<UIImage> imageNamed(std::string_view name) override;
   std::optional<std::string> JPEGRepresentation(const Ref<UIImage>& image,
@@ -27,7 +27,6 @@ class GdImages final : public Images {
 
  private:
   std::filesystem::path resources_;
-  std::set<std::string> simulated_;
 };
 
 }  // namespace orvanta

@@ -12,7 +12,7 @@ struct GdLibrary {
 #define ORVANTA_GD_FUNCTIONS(X)                                                           \
   X(gdFree) X(gdImageCreateFromGifPtr) X(gdImageCreateFromJpegPtrEx)                           \
   X(gdImageCreateFromWebpPtr) X(gdImageCreateTrueColor) X(gdImageDestroy)                      \
-  X(gdImageFilledRectangle) X(gdImageJpegPtr) X(gdImagePaletteToTrueColor) X(gdSetErrorMethod)
+  X(gdImageJpegPtr) X(gdImagePaletteToTrueColor) X(gdSetErrorMethod)
 // clang-format on
 // NOLINTNEXTLINE(bugprone-macro-parentheses): a name
 #define ORVANTA_GD_FUNCTION(name) decltype(&::name) name;

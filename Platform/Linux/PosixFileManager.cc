@@ -9,9 +9,8 @@
 #include <cstdio>  // renameat2
 #include <system_error>
 
-#include "orvanta/Foundation/Array.h"
-#include "orvanta/Foundation/Description.h"
 #include "orvanta/Linux/FileDescriptor.h"
+#include "orvanta/Simulator/MoveErrors.h"
 
 namespace orvanta {
 
@@ -77,56 +76,26 @@ int moveFile(const std::string& source, const std::string& destination) {
   return hasNoLinks ? copyThenRemove(from, to) : error;
 }
 
-namespace {
-
-struct MoveFailure {
-  int posix;
-  int cocoa;
-  std::string_view format;  // arguments: the file's name, the destination folder's name
-};
-// The platform's codes and messages; the last row is for every other errno.
-constexpr MoveFailure kMoveFailures[] = {
-    {EEXIST, 516,
-     "“%@” couldn’t be moved to “%@” because an item with the same name already exists."},
-    {ENOENT, 4,
-     "“%@” couldn’t be moved to “%@” because either the former doesn’t exist, or the folder "
-     "containing the latter doesn’t exist."},
-    {EACCES, 513, "“%@” couldn’t be moved because you don’t have permission to access “%@”."},
-    {EPERM, 513, "“%@” couldn’t be moved because you don’t have permission to access “%@”."},
-    {ENAMETOOLONG, 514, "“%@” couldn’t be moved to “%@” because the name is too long."},
-    {ENOSPC, 640, "“%@” couldn’t be moved to “%@” because there isn’t enough space."},
-    {EDQUOT, 640, "“%@” couldn’t be moved to “%@” because there isn’t enough space."},
-    {EROFS, 642, "“%@” couldn’t be moved to “%@” because the volume is read only."},
-    {0, 512, "“%@” couldn’t be moved to “%@”."},
-};
-
-constexpr std::string_view kCocoaDomain = "NSCocoaErrorDomain";
-
-Ref<NSError> moveError(int error, const std::string& source, const std::string& destination) {
-  const MoveFailure* failure = kMoveFailures;
-  while (failure->posix != error && failure->posix != 0) ++failure;
-
-  const fs::path folder = fs::path(destination).parent_path();
-  const std::string folderName = (folder.has_filename() ? folder.filename() : folder).string();
-  const Value underlying = NSError::errorWithDomain("NSPOSIXErrorDomain", error, Dictionary(),
-                                                    std::generic_category().message(error));
-  return NSError::errorWithDomain(
-      kCocoaDomain, failure->cocoa,
-      Dictionary{{"NSSourceFilePathErrorKey", source},
-                 {"NSUserStringVariant", Array{"Move"}},
-                 {"NSDestinationFilePath", destination},
-                 {"NSFilePath", source},
-                 {NSError::kUnderlyingError, underlying}},
-      formatted(failure->format, {fs::path(source).filename().string(), folderName}));
+static MoveFailure failureFor(int error) {
+  switch (error) {
+    case EEXIST:
+      return MoveFailure::alreadyExists;
+    case ENOENT:
+      return MoveFailure::notFound;
+    case EACCES:
+    case EPERM:
+      return MoveFailure::noPermission;
+    case ENAMETOOLONG:
+      return MoveFailure::nameTooLong;
+    case ENOSPC:
+    case EDQUOT:
+      return MoveFailure::noSpace;
+    case EROFS:
+      return MoveFailure::readOnlyVolume;
+    default:
+      return MoveFailure::other;
+  }
 }
-
-Ref<NSError> schemeError(int code, std::string_view verb, const Url& url) {
-  return NSError::errorWithDomain(
-      kCocoaDomain, code, Dictionary{{"NSURL", url}},
-      formatted("The file couldn’t be %@ because the specified URL type isn’t supported.", {verb}));
-}
-
-}  // namespace
 
 PosixFileManager::PosixFileManager(const fs::path& cachesFolder)
     : cachesFolder_(fs::absolute(cachesFolder).lexically_normal()) {
@@ -138,13 +107,12 @@ std::vector<Url> PosixFileManager::URLsForCachesDirectory() {
 }
 
 Ref<NSError> PosixFileManager::moveItemAtURL(const Url& source, const Url& destination) {
-  if (!source.isFileURL()) return schemeError(262, "opened", source);
-  if (!destination.isFileURL()) return schemeError(518, "saved", destination);
+  if (Ref<NSError> error = schemeError(source, destination)) return error;
   const std::string from = source.path();
   const std::string to = destination.path();
   const int error = moveFile(from, to);
   if (error == 0) return nullptr;
-  return moveError(error, from, to);
+  return moveError(failureFor(error), {error, std::generic_category().message(error)}, from, to);
 }
 
 }  // namespace orvanta

@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
 
 #include <cctype>
 #include <cstdlib>
@@ -28,8 +27,9 @@ StateFolder::StateFolder(const std::string& name) : isTemporary_(name.empty()) {
   fs::create_directories(name, error);
   if (error) throw std::runtime_error(name + ": " + error.message());
   path_ = fs::canonical(name);
-  lock_ = ::open((path_ / ".lock").c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600);
-  if (lock_ < 0 || ::flock(lock_, LOCK_EX) != 0) {
+  lock_ = FileDescriptor(
+      ::open((path_ / ".lock").c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600));
+  if (!lock_.isOpen() || ::flock(lock_.get(), LOCK_EX) != 0) {
     throw std::runtime_error(name + ": the folder cannot be locked");
   }
 }
@@ -37,7 +37,6 @@ StateFolder::StateFolder(const std::string& name) : isTemporary_(name.empty()) {
 StateFolder::~StateFolder() {
   std::error_code ignored;
   if (isTemporary_) fs::remove_all(path_, ignored);
-  if (lock_ >= 0) ::close(lock_);
 }
 
 std::string StateFolder::rewritePaths(std::string_view string) const {

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "orvanta/Linux/FileDescriptor.h"
+
 namespace orvanta {
 
 /// The folder of a simulated device: the one named, which stays, or a new temporary one, which is
@@ -24,7 +26,7 @@ class StateFolder {
 
  private:
   bool isTemporary_;
-  int lock_ = -1;
+  FileDescriptor lock_;
   std::filesystem::path path_;
 };
 

@@ -48,7 +48,7 @@ std::vector<Url> InMemoryDeviceFiles::URLsForCachesDirectory() { return {url("Ca
 
 Ref<NSError> InMemoryDeviceFiles::moveItemAtURL(const Url& source, const Url& destination) {
   if (Ref<NSError> error = schemeError(source, destination)) return error;
-  const auto fail = [&](MoveFailure failure, int code, std::string_view message) {
+  const auto fail = [&](MoveFailure failure, int code, const char* message) {
     return moveError(failure, {code, message}, source.path(), destination.path());
   };
   const auto file = sizes_.find(source.path());

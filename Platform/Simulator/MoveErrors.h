@@ -22,7 +22,7 @@ enum class MoveFailure : std::uint8_t {
 /// The system's own error code with its message.
 struct POSIXError {
   int code;
-  std::string_view message;
+  std::string message;
 };
 
 /// Returns the NSCocoaErrorDomain error of a move between two paths, with the platform's code and

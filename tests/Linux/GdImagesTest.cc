@@ -71,6 +71,7 @@ const std::string kWhite = png(1, 2, "\xFF\xFF\xFF"s);
 
 class GdImagesTest : public ::testing::Test {
  protected:
+  GdImagesTest() { folder_.write("star.png", kRed); }
   std::optional<std::string> jpeg(std::string_view name, double quality = 1) {
     return images_.JPEGRepresentation(images_.imageNamed(name), quality);
   }
@@ -83,7 +84,7 @@ class GdImagesTest : public ::testing::Test {
   bool exists(std::string_view name) { return bool(images_.imageNamed(name)); }
 
   TemporaryFolder folder_;
-  GdImages images_{folder_.path(), {"star"}};
+  GdImages images_{folder_.path()};
 };
 
 TEST_F(GdImagesTest, SkipsADamagedVariant) {
