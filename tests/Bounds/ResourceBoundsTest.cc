@@ -9,7 +9,9 @@
 #include "orvanta/Model/Mapping/RefusalRecorder.h"
 #include "orvanta/NotificationService/NotificationHelper.h"
 #include "support/FakePlatform.h"
+#include "support/ModelHelpers.h"
 #include "support/ModelZoo.h"
+#include "support/RecordingPlatform.h"
 
 // Hostile texts. What is asked of the heap is counted, at a size and at twice that; the times are
 // shown by scripts/measure-bounds.

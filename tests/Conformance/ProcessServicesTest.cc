@@ -5,7 +5,7 @@
 #include "orvanta/Simulator/StringsFile.h"
 #include "orvanta/Simulator/SystemClock.h"
 #include "orvanta/Simulator/UniformTypes.h"
-#include "support/ModelZoo.h"
+#include "support/Threads.h"
 
 // The services that answer at once, and from any thread.
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "support/ModelZoo.h"
+#include "support/Threads.h"
+#include "support/Values.h"
 
 namespace orvanta::testing {
 namespace {

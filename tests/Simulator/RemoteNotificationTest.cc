@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "orvanta/Simulator/RemoteNotification.h"
-#include "support/ModelZoo.h"
+#include "support/ModelHelpers.h"
 
 namespace orvanta::testing {
 namespace {

@@ -1,18 +1,9 @@
 #pragma once
 
-#include <atomic>
-#include <string>
-#include <thread>
-#include <type_traits>
-#include <vector>
-
 #include "orvanta/Model/Mapping/OrvantaBaseModel.h"
-#include "orvanta/Model/Mapping/OrvantaLogger.h"
 #include "orvanta/Model/Push/OrvantaPushObject.h"
-#include "orvanta/Platform/Platform.h"
-#include "support/Values.h"
 
-// Small models, each for one trait of the mapping, and what their tests share.
+// Small models, each for one trait of the mapping.
 
 namespace orvanta::testing {
 
@@ -168,73 +159,5 @@ class UntouchedModel : public LeafModel {
 
   ORVANTA_PROPERTY("link", strong, Url, link, setLink)
 };
-
-// ---- What the tests share -------------------------------------------------
-
-/// The dictionary of a JSON text.
-Dictionary dictionaryOf(std::string_view json);
-/// Updates a model from a JSON text.
-bool update(OrvantaBaseModel& model, std::string_view json);
-/// A new model initialised from a JSON text, or nil.
-template <class M>
-Ref<M> made(std::string_view json) {
-  return make<M>(dictionaryOf(json));
-}
-
-/// A value of every kind that can be stored.
-std::vector<Value> oneOfEachKind();
-/// What becomes of a value of a kind that a dictionary holds for a property of a type code.
-enum class Outcome { keptAsItIs, read, converted, refused, refusedWithLog };
-Outcome outcomeOf(Kind kind, std::string_view encoding);
-
-/// The calling thread's platform while it lives: keeps what is logged; its clock stands still.
-class RecordingPlatform final : public Platform, private SystemLog, private Clock {
- public:
-  std::vector<std::string> log;
-  std::int64_t now = 0;
-
-  SystemLog* systemLog() override { return this; }
-  Clock* clock() override { return this; }
-
- private:
-  void write(std::string_view entry) noexcept override { log.emplace_back(entry); }
-  std::int64_t wallNanoseconds() override { return now; }
-  std::int64_t monotonicNanoseconds() override { return now; }
-
-  PlatformOverride override_{*this};
-};
-
-/// Another log level while it lives.
-class LogLevel {
- public:
-  explicit LogLevel(std::int64_t level) { OrvantaLogger::setLogLevel(level); }
-  LogLevel(const LogLevel&) = delete;
-  LogLevel& operator=(const LogLevel&) = delete;
-  ~LogLevel() { OrvantaLogger::setLogLevel(previous_); }
-
- private:
-  std::int64_t previous_ = OrvantaLogger::logLevel();
-};
-
-/// Runs the work in four threads that start together; it may take its thread's number.
-template <class Work>
-void runTogether(const Work& work) {
-  std::atomic<int> waiting{4};
-  std::vector<std::thread> threads;
-  threads.reserve(4);
-  for (int i = 0; i < 4; ++i) {
-    threads.emplace_back([&work, &waiting, number = i] {
-      static_cast<void>(number);  // not every work takes it
-      --waiting;
-      while (waiting != 0) std::this_thread::yield();
-      if constexpr (std::is_invocable_v<Work, int>) {
-        work(number);
-      } else {
-        work();
-      }
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-}
 
 }  // namespace orvanta::testing

@@ -2,7 +2,7 @@
 
 #include <sstream>
 
-#include "support/ModelZoo.h"
+#include "support/LogLevel.h"
 
 namespace orvanta::testing {
 

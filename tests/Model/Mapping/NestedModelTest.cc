@@ -1,0 +1,158 @@
+#include <gtest/gtest.h>
+
+#include "orvanta/Model/Mapping/RefusalRecorder.h"
+#include "support/ModelHelpers.h"
+#include "support/ModelZoo.h"
+#include "support/RecordingPlatform.h"
+
+namespace orvanta::testing {
+namespace {
+
+/// "LeafModel" and the like for a model, the name of the kind for anything else.
+std::string_view classOrKind(const Value& value) {
+  return value.object() != nullptr ? value.className() : value.kindName();
+}
+
+TEST(NestedModel, DeclaredClassBeatsKlazzAndKlazzBeatsNothing) {
+  const struct {
+    std::string_view json;
+    std::string_view property;
+    std::string_view made;
+  } rows[] = {
+      {R"({"leaf": {"klazz": "OrvantaPushStyle"}})", "leaf", "LeafModel"},
+      {R"({"free": {"klazz": "OrvantaPushStyle"}})", "free", "OrvantaPushStyle"},
+      {R"({"free": {}})", "free", "a dictionary"},
+      // Only text that names a model class of the library counts.
+      {R"({"free": {"klazz": "NSString"}})", "free", "a dictionary"},
+      {R"({"free": {"klazz": "orvantapushstyle"}})", "free", "a dictionary"},
+      {R"({"free": {"klazz": {"klazz": "OrvantaPushStyle"}}})", "free", "a dictionary"},
+      // A class is declared for the property, whatever it holds.
+      {R"({"leaf": [{}]})", "leaf", "an array"},
+      {R"({"leaves": {}})", "leaves", "LeafModel"},
+  };
+  for (const auto& row : rows) {
+    const auto model = made<NestingModel>(row.json);
+    ASSERT_TRUE(model) << row.json;
+    EXPECT_EQ(classOrKind(model->valueForKey(row.property)), row.made) << row.json;
+  }
+}
+
+TEST(NestedModel, ArraysKeepOrderAndCountAndAreConvertedAtEveryDepth) {
+  const auto model = made<NestingModel>(
+      R"({"leaves": [{"name": "a"}, 5, [{"name": "b"}, [{"name": "c"}], null], {"name": "d"}],
+          "list": [{"klazz": "OrvantaPushStyle"}, {"x": 1}, [{"klazz": "OrvantaPushStyle"}]]})");
+  ASSERT_TRUE(model);
+  const Array& leaves = *model->leaves().get();
+  ASSERT_EQ(leaves.size(), 4U);
+  const auto name = [](const Value& leaf) { return leaf.as<LeafModel>()->name().get(); };
+  EXPECT_EQ(name(leaves[0]), "a");
+  EXPECT_EQ(leaves[1], Value(5));
+  const Array& inner = *leaves[2].array();
+  EXPECT_EQ(name(inner[0]), "b");
+  EXPECT_EQ(name((*inner[1].array())[0]), "c");
+  EXPECT_TRUE(inner[2].isNull());
+  EXPECT_EQ(name(leaves[3]), "d");
+
+  const auto nested = made<NestingModel>(R"({"leaves": [[{"name": "only arrays here"}]]})");
+  EXPECT_EQ(classOrKind((*(*nested->leaves().get())[0].array())[0]), "LeafModel");
+
+  const Array& list = *model->list().get();
+  EXPECT_EQ(classOrKind(list[0]), "OrvantaPushStyle");
+  EXPECT_EQ(classOrKind(list[1]), "a dictionary");
+  EXPECT_EQ(classOrKind((*list[2].array())[0]), "OrvantaPushStyle");
+  const Dictionary plain = dictionaryOf(R"({"list": [{"x": 1}, [2]]})");  // then it is shared
+  EXPECT_EQ(make<NestingModel>(plain)->list().get()->begin(), plain["list"].array()->begin());
+}
+
+TEST(NestedModel, OneThatRefusesItsDictionaryBecomesNil) {
+  const auto model = made<NestingModel>(R"({"leaf": {"name": "old"}, "deeper": {}})");
+  RecordingPlatform platform;
+  EXPECT_TRUE(update(*model, R"({"leaf": {"size": null}, "list": [1]})"));
+  EXPECT_FALSE(model->leaf());
+  EXPECT_EQ(platform.log.size(), 1U);  // the leaf's own
+  EXPECT_TRUE(model->list());
+
+  EXPECT_TRUE(update(*model, R"({"deeper": {"leaves": [{"size": null}]}})"));
+  EXPECT_FALSE(model->deeper());
+}
+
+TEST(NestedModel, AnElementThatRefusesEndsTheUpdate) {
+  RecordingPlatform platform;
+  const auto model = make<NestingModel>();
+  ASSERT_TRUE(model);
+  EXPECT_FALSE(update(*model, R"({"leaves": [{}, {"size": null}], "free": 1, "leaf": {}})"));
+  EXPECT_TRUE(model->leaf());
+  EXPECT_FALSE(model->leaves());
+  EXPECT_FALSE(model->free());
+  ASSERT_EQ(platform.log.size(), 2U);  // the element's, then the owner's
+  EXPECT_NE(platform.log[0].find("to class 'LeafModel'"), std::string::npos);
+  EXPECT_NE(platform.log[1].find("to class 'NestingModel' : "
+                                 "*** -[__NSArrayM insertObject:atIndex:]: object cannot be nil"),
+            std::string::npos);
+}
+
+TEST(NestedModel, NestingHasALimitAndThenOnlyTheInnermostModelsAreMissing) {
+  constexpr auto kMost = OrvantaBaseModel::kMostNestedModels;
+  for (const std::size_t models : {kMost, kMost + 1}) {
+    RecordingPlatform platform;
+    const auto outermost =
+        made<NestingModel>(nested(models - 1, R"({"deeper": )", "}", R"({"free": 1})"));
+    ASSERT_TRUE(outermost);
+    std::size_t found = 1;
+    for (const NestingModel* at = outermost.get(); at->deeper().get() != nullptr; ++found) {
+      at = at->deeper().get();
+    }
+    EXPECT_EQ(found, kMost);
+    EXPECT_EQ(platform.log.size(), models - kMost);
+  }
+}
+
+TEST(NestedModel, TheNumberOfModelsInOneDictionaryHasALimit) {
+  constexpr auto kMost = OrvantaBaseModel::kMostModels;
+  for (const std::size_t models : {kMost, kMost + 1}) {
+    RecordingPlatform platform;
+    Array leaves;
+    while (leaves.size() + 1 < models) leaves.append(Dictionary());
+    const RefusalRecorder recorder;
+    const auto owner = make<NestingModel>(Dictionary{{"leaves", leaves}});
+    EXPECT_EQ(!owner, models > kMost);
+    EXPECT_EQ(recorder.refusal() ? recorder.refusal()->description() : "taken",
+              models > kMost ? R"(NestingModel "leaves" (leaves) > LeafModel: a dictionary, )"
+                               "too many models in one dictionary"
+                             : "taken");
+    EXPECT_EQ(platform.log.size(), models > kMost ? 2U : 0U);
+    EXPECT_TRUE(made<NestingModel>(R"({"leaves": [{}]})"));  // each update counts anew
+  }
+}
+
+// Each push object reads its action twice, so every level doubles the work: a payload of 4 KB took
+// ten seconds, one of 240 KB minutes.
+TEST(NestedModel, PushesInsideActionsMultiplied) {
+  for (const std::size_t elements : {std::size_t{1}, OrvantaBaseModel::kMostElements / 1000}) {
+    RecordingPlatform platform;
+    std::string text = R"({"klazz":"OrvantaPushObject","_ov":[[)";
+    for (std::size_t i = 0; i < elements; ++i) text += "{},";
+    text += "{}]]}";
+    for (int level = 0; level < 20; ++level) {
+      text =
+          R"({"klazz":"OrvantaPushObject","_ov":{"act":{"klazz":"OrvantaPushObjectAction","uri":)" +
+          text + "}}}";
+    }
+    made<OrvantaPushObject>(text);
+    EXPECT_LT(platform.log.size(), 3 * OrvantaBaseModel::kMostNamedModels) << elements;
+  }
+}
+
+TEST(NestedModel, AnUndefinedKeyFromAnInitialiserRefusesTheOwnerSilently) {
+  RecordingPlatform platform;
+  const auto holder = make<PushHolderModel>();
+  ASSERT_TRUE(holder);
+  EXPECT_FALSE(update(*holder, R"({"push": {"aps": 1}, "after": "x"})"));
+  EXPECT_FALSE(holder->after());
+  EXPECT_TRUE(platform.log.empty());
+  EXPECT_TRUE(update(*holder, R"({"push": {"_ov": {"mu": 5}}, "after": "x"})"));
+  EXPECT_FALSE(holder->push());
+}
+
+}  // namespace
+}  // namespace orvanta::testing

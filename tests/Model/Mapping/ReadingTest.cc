@@ -1,0 +1,173 @@
+#include <gtest/gtest.h>
+
+#include "support/ModelHelpers.h"
+#include "support/ModelZoo.h"
+#include "support/RecordingPlatform.h"
+
+namespace orvanta::testing {
+namespace {
+
+// The whole matrix of kinds of values and types of properties.
+TEST(Reading, TypeCodeDecidesWhatBecomesOfEachKind) {
+  RecordingPlatform platform;
+  for (const Class* cls : {&ScalarModel::classObject(), &ObjectModel::classObject()}) {
+    for (const KeyEntry& row : cls->keyPathPropertySelectorMapping) {
+      const std::string_view encoding = cls->property(row.property)->encoding;
+      for (const Value& value : oneOfEachKind()) {
+        SCOPED_TRACE(std::string(row.property) + " given " + std::string(value.kindName()));
+        platform.log.clear();
+        const auto model = makeModel(*cls, nullptr);
+        const Value unset = model->valueForKey(row.property);
+        const Dictionary payload{{row.keyPath, value}};
+        const bool updated = model->updateWithDictionary(&payload);
+        const Value after = model->valueForKey(row.property);
+
+        const Outcome outcome = outcomeOf(value.kind(), encoding);
+        const bool refused = outcome == Outcome::refused || outcome == Outcome::refusedWithLog;
+        EXPECT_EQ(updated, !refused);
+        EXPECT_EQ(platform.log.size(), outcome == Outcome::refusedWithLog ? 1U : 0U);
+        if (refused) {
+          EXPECT_EQ(after, unset);
+        } else if (outcome == Outcome::keptAsItIs) {
+          EXPECT_EQ(after, value);
+          EXPECT_EQ(after.kind(), value.kind());
+        } else {
+          EXPECT_NE(after, unset);
+          EXPECT_EQ(after.kind() == unset.kind(), outcome == Outcome::read);
+          EXPECT_TRUE(outcome == Outcome::read || after.kind() != value.kind());
+        }
+      }
+    }
+  }
+}
+
+TEST(Reading, EachScalarTakesTheReadingOfItsWidth) {
+  Dictionary payload;
+  for (const char* key : {"B", "i", "q", "Q", "f", "d"}) payload.set(key, -4294967298.75);
+  const auto model = make<ScalarModel>(payload);
+  EXPECT_TRUE(update(*model, R"({"B": 2})"));  // and leaves its neighbours alone
+  EXPECT_EQ(written(model->dictionaryValue()),
+            R"({"B":true,"i":-2,"q":-4294967298,"Q":18446744069414584318,)"
+            R"("f":-4294967296,"d":-4294967298.75})");
+}
+
+TEST(Reading, NothingToReadIsSuccessAndChangesNothing) {
+  const auto model = make<LeafModel>();
+  model->setName("kept");
+  EXPECT_TRUE(model->updateWithDictionary(nullptr));
+  EXPECT_TRUE(update(*model, "{}"));
+  EXPECT_TRUE(update(*model, R"({"other": {"name": 1}, "Name": 2, "size.x": 3})"));
+  EXPECT_EQ(model->name().get(), "kept");
+  EXPECT_EQ(model->size(), 0);
+
+  const auto bare = make<OrvantaBaseModel>();
+  EXPECT_TRUE(update(*bare, R"({"name": null})"));  // no table at all
+}
+
+TEST(Reading, ADottedKeyIsReadFromWhateverStandsOnItsWay) {
+  const struct {
+    std::string_view json;
+    std::string_view read;  // empty: refused
+  } rows[] = {
+      {R"({"a": {"b": {"c": 2}}, "aps": {"sound": "s", "tags": [], "badge": 1}, "title": "t"})",
+       R"({"aps.sound":"s","aps.badge":1,"a.b.c":2,"a.b":{"c":2},"aps.tags":[],"title":"t"})"},
+      {R"({"a": [{"b": {"c": 2}}, {}]})",
+       R"({"aps.badge":0,"a.b.c":[2,null],"a.b":[{"c":2},null]})"},
+      {R"({"a": {"b.c": 2}, "aps.sound": "s", "a.b.c": 2})", R"({"aps.badge":0})"},
+      {R"({"aps": null})", ""},
+      {R"({"aps": "text"})", ""},
+      {R"({"a": {"b": null}})", ""},
+  };
+  for (const auto& row : rows) {
+    const auto model = made<DottedModel>(row.json);
+    EXPECT_EQ(model ? written(model->dictionaryValue()) : "", row.read) << row.json;
+  }
+}
+
+TEST(Reading, DefaultsSetBeforeTheBaseHoldForMissingKeys) {
+  EXPECT_EQ(make<DefaultsModel>()->count(), kUnsetInteger);
+  const auto model = made<DefaultsModel>(R"({"count": 3})");
+  EXPECT_EQ(model->count(), 3);
+  EXPECT_EQ(model->unit().get(), "piece");
+  EXPECT_FALSE(made<DefaultsModel>(R"({"count": []})"));
+}
+
+// ---- Properties ----
+
+TEST(Reading, AnAncestorsKeyWinsOverItsDescendants) {
+  const auto model = made<DescendantModel>(R"({"k": "a", "own": "b"})");
+  EXPECT_EQ(model->inherited().get(), "a");
+  EXPECT_FALSE(model->overruled());
+  EXPECT_EQ(model->own().get(), "b");
+}
+
+TEST(Reading, AnAncestorsTypeCodeDecidesAboutARedeclaredProperty) {
+  const auto model = made<DescendantModel>(R"({"s": 1000})");
+  EXPECT_EQ(model->stamp().value(), Value(1000));  // in the descendant's storage, not made a date
+  EXPECT_FALSE(model->AncestorModel::stamp());
+}
+
+TEST(Reading, AComputedPropertyIsWrittenThroughItsSetterOrNotAtAll) {
+  const auto model = make<ComputedModel>();
+  model->setKeyPathPropertyDictionary({{"p", "percent"}, {"t", "twice"}});
+  EXPECT_TRUE(update(*model, R"({"p": 50})"));
+  EXPECT_EQ(model->half(), 0.25);
+  EXPECT_FALSE(update(*model, R"({"t": 9})"));
+  EXPECT_EQ(model->half(), 0.25);
+}
+
+TEST(Reading, ADottedPropertyPathAssignsInsideANestedObject) {
+  const auto model = make<NestingModel>();
+  model->setKeyPathPropertyDictionary({{"n", "leaf.name"}, {"l", "leaf"}});
+  EXPECT_TRUE(update(*model, R"({"n": "nobody there"})"));
+  EXPECT_FALSE(model->leaf());
+
+  model->setLeaf(make<LeafModel>());
+  EXPECT_TRUE(update(*model, R"({"n": "reached"})"));
+  EXPECT_EQ(model->leaf().get()->name().get(), "reached");
+
+  model->setKeyPathPropertyDictionary({{"n", "leaf.missing"}});
+  EXPECT_FALSE(update(*model, R"({"n": 1})"));
+  model->setKeyPathPropertyDictionary({{"n", "leaf.name.first"}});
+  EXPECT_FALSE(update(*model, R"({"n": 1})"));  // a text has no keys to write to
+  EXPECT_EQ(thrown([&] { model->setValueForKeyPath(1, "leaf.name.first"); }),
+            "NSUnknownKeyException: [<NSString> setValue:forUndefinedKey:]: this class is not key "
+            "value coding-compliant for the key first.");
+}
+
+TEST(Reading, ADottedPropertyPathConvertsLikeTheNestedObject) {
+  const auto model = make<NestingModel>();
+  model->setFree(make<ObjectModel>());
+  model->setKeyPathPropertyDictionary({{"u", "free.url"}});
+  EXPECT_TRUE(update(*model, R"({"u": "https://shop.example.com/"})"));
+  EXPECT_NE(model->free().value().as<ObjectModel>()->url().get(), nullptr);
+  EXPECT_FALSE(update(*model, R"({"u": 5})"));
+}
+
+TEST(Reading, ASetterOfTheClassGetsContainersToo) {
+  EXPECT_EQ(made<SetterModel>(R"({"text": {"a": 1}})")->before().get(), "another kind");
+  EXPECT_EQ(made<SetterModel>(R"({"text": [1]})")->before().get(), "another kind");
+  const auto given = made<SetterModel>(R"({"text": {"klazz": "OrvantaPushStyle"}})");
+  EXPECT_EQ(given->before().get(), "another kind");
+}
+
+TEST(Reading, AnUpdateMayComeFromTheObjectItself) {
+  const auto model = make<ObjectModel>();
+  ASSERT_TRUE(model);
+  update(*model, R"({"any": {"any": {"x": "the last holder of this dictionary"}, "leaf": 1}})");
+  ASSERT_TRUE(model->updateWithDictionary(model->any().value().dictionary()));
+  EXPECT_EQ(model->any().value(), Value(Dictionary({{"x", "the last holder of this dictionary"}})));
+  EXPECT_EQ(model->leaf().value(), Value(1));
+}
+
+TEST(Reading, ATableThatIsReplacedMeanwhileHoldsFromTheNextUpdateOn) {
+  const auto model = made<SetterModel>(R"({"text": "tables", "after": "first"})");
+  ASSERT_TRUE(model);
+  EXPECT_EQ(model->after().get(), "first");
+  EXPECT_TRUE(update(*model, R"({"text": "unread", "after": "second"})"));
+  EXPECT_EQ(model->before().get(), "second");
+  EXPECT_EQ(model->text().get(), "tables");
+}
+
+}  // namespace
+}  // namespace orvanta::testing

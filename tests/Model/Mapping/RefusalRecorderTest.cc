@@ -1,0 +1,100 @@
+#include <gtest/gtest.h>
+
+#include "orvanta/Model/Mapping/RefusalRecorder.h"
+#include "support/LogLevel.h"
+#include "support/ModelHelpers.h"
+#include "support/ModelZoo.h"
+
+namespace orvanta::testing {
+namespace {
+
+/// Why a new model refuses a JSON text, or "taken".
+template <class M>
+std::string refusalOf(std::string_view json) {
+  const RefusalRecorder recorder;
+  const LogLevel silent(0);
+  std::string end;
+  try {
+    if (made<M>(json)) end = "taken";
+  } catch (const Exception&) {
+    end = " [thrown]";
+  }
+  return recorder.refusal() ? recorder.refusal()->description() + end : end;
+}
+
+TEST(RefusalRecorder, TellsPlaceKindAndReason) {
+  EXPECT_EQ(refusalOf<ScalarModel>(R"({"i": null, "q": null})"),
+            "ScalarModel \"i\" (narrow): null, but a number is read from numbers and text only");
+  EXPECT_EQ(refusalOf<DottedModel>(R"({"a": {"b": 1.5}})"),
+            "DottedModel \"a.b.c\" (deep): a fraction, which has no key \"c\"");
+  EXPECT_EQ(refusalOf<DottedModel>(R"({"a": [{"b": {}}, {"b": "text"}, {"b": true}]})"),
+            "DottedModel \"a.b.c\" (deep): a string, which has no key \"c\"");
+}
+
+TEST(RefusalRecorder, TellsThePropertyThatIsMissing) {
+  const RefusalRecorder recorder;
+  const auto model = make<LeafModel>();
+  model->setKeyPathPropertyDictionary({{"x", "missing"}});
+  EXPECT_FALSE(update(*model, R"({"x": {}})"));
+  ASSERT_TRUE(recorder.refusal());
+  EXPECT_EQ(recorder.refusal()->description(),
+            "LeafModel \"x\" (missing): a dictionary, "
+            "for a property that the class does not have");
+}
+
+TEST(RefusalRecorder, StepsInwardsThroughModelsAndArrays) {
+  EXPECT_EQ(refusalOf<NestingModel>(R"({"leaves": [{}, [{"size": {}}]]})"),
+            "NestingModel \"leaves\" (leaves) > LeafModel \"size\" (size): a dictionary, "
+            "but a number is read from numbers and text only");
+}
+
+TEST(RefusalRecorder, RecordsNothingWhenTheUpdateSucceeds) {
+  EXPECT_EQ(refusalOf<ScalarModel>(R"({"i": 5})"), "taken");
+  EXPECT_EQ(refusalOf<NestingModel>(R"({"leaf": {"size": null}})"), "taken");
+  EXPECT_EQ(refusalOf<NestingModel>(R"({"deeper": {"leaves": [{"size": null}]}})"), "taken");
+}
+
+TEST(RefusalRecorder, OnceResetTellsAboutTheNextUpdate) {
+  const LogLevel silent(0);
+  RefusalRecorder recorder;
+  const auto model = make<ScalarModel>();
+  ASSERT_TRUE(model);
+  EXPECT_FALSE(update(*model, R"({"i": null})"));
+  recorder.reset();
+  EXPECT_FALSE(update(*model, R"({"q": []})"));
+  ASSERT_TRUE(recorder.refusal());
+  EXPECT_EQ(recorder.refusal()->kind, "an array");
+  recorder.reset();
+  EXPECT_TRUE(update(*model, R"({"q": 1})"));
+  EXPECT_FALSE(recorder.refusal());
+}
+
+TEST(RefusalRecorder, TheInnermostRecorderOfTheThreadIsTold) {
+  const LogLevel silent(0);
+  RefusalRecorder outer;
+  {
+    const RefusalRecorder inner;
+    EXPECT_FALSE(made<LeafModel>(R"({"size": null})"));
+    EXPECT_TRUE(inner.refusal());
+  }
+  EXPECT_FALSE(outer.refusal());
+  std::thread([] { EXPECT_FALSE(made<LeafModel>(R"({"size": null})")); }).join();
+  EXPECT_FALSE(outer.refusal());
+  EXPECT_FALSE(made<LeafModel>(R"({"size": null})"));
+  EXPECT_TRUE(outer.refusal());
+  outer.reset();
+  EXPECT_FALSE(outer.refusal());
+}
+
+TEST(RefusalRecorder, TellsWhyAnAlertHadNoModel) {
+  EXPECT_EQ(refusalOf<OrvantaPushObject>(
+                R"({"aps": {"alert": {"title": [{"klazz": "OrvantaUserNotificationAction",
+                                                 "actM": null}]}},
+                    "_ov": {"act": {"uri": "a"}}})"),
+            "OrvantaPushObject \"aps.alert\" (alert) > OrvantaPushObjectAlert \"title\" (title) > "
+            "OrvantaUserNotificationAction \"actM\" (activationMode): null, "
+            "but a number is read from numbers and text only");
+}
+
+}  // namespace
+}  // namespace orvanta::testing

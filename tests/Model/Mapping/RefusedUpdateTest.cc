@@ -1,0 +1,90 @@
+#include <gtest/gtest.h>
+
+#include <new>
+
+#include "orvanta/Model/Requests/OrvantaEventRequest.h"
+#include "support/ModelHelpers.h"
+#include "support/ModelZoo.h"
+#include "support/RecordingPlatform.h"
+
+namespace orvanta::testing {
+namespace {
+
+TEST(RefusedUpdate, IsLoggedWithDictionaryClassAndReason) {
+  RecordingPlatform platform;
+  EXPECT_FALSE(made<LeafModel>(R"({"size": null, "name": "a b"})"));
+  ASSERT_EQ(platform.log.size(), 1U);
+  EXPECT_EQ(platform.log.front(),
+            "\n\n❗ -[OrvantaBaseModel updateWithDictionary:] (OrvantaBaseModel:81) ❗\n"
+            "*** Caught exception deserializing dictionary '{\n"
+            "    name = \"a b\";\n"
+            "    size = \"<null>\";\n"
+            "}' to class 'LeafModel' : "
+            "-[NSNull longLongValue]: unrecognized selector sent to instance\n\n");
+}
+
+TEST(RefusedUpdate, KeepsWhatWasAssignedBeforeAndReadsNoFurther) {
+  for (const char* refused : {"known", "unknown key", "standard"}) {
+    RecordingPlatform platform;
+    const auto model = make<SetterModel>();
+    const Dictionary payload{{"after", "c"}, {"text", refused}, {"before", "a"}};
+    EXPECT_FALSE(model->updateWithDictionary(&payload)) << refused;
+    EXPECT_EQ(model->before().get(), "a") << refused;
+    EXPECT_FALSE(model->after()) << refused;
+  }
+}
+
+TEST(RefusedUpdate, LogsEveryErrorButThatOfAnUndefinedKey) {
+  const struct {
+    std::string_view text;
+    std::string_view reason;  // empty: nothing is logged
+  } rows[] = {{"known", "known trouble"}, {"standard", "standard trouble"}, {"unknown key", ""}};
+  for (const auto& row : rows) {
+    RecordingPlatform platform;
+    EXPECT_FALSE(make<SetterModel>(Dictionary{{"text", row.text}})) << row.text;
+    ASSERT_EQ(platform.log.size(), row.reason.empty() ? 0U : 1U) << row.text;
+    if (!row.reason.empty()) {
+      const std::string end = "' to class 'SetterModel' : " + std::string(row.reason) + "\n\n";
+      EXPECT_TRUE(platform.log.front().ends_with(end)) << platform.log.front();
+    }
+  }
+}
+
+TEST(RefusedUpdate, LetsOnlyTheLackOfMemoryPass) {
+  RecordingPlatform platform;
+  const Dictionary payload{{"text", "memory"}};
+  EXPECT_THROW(make<SetterModel>(payload), std::bad_alloc);
+  EXPECT_TRUE(platform.log.empty());
+}
+
+/// A model whose first initialiser refuses, so that the others do.
+template <class M>
+class Refusing : public M {
+  bool init() override { return false; }
+};
+
+TEST(RefusedUpdate, OneInitialiserPassesOnThatOfAnother) {
+  using Alert = OrvantaPushObjectAlert;
+  EXPECT_FALSE(make<Refusing<Alert>>(&Alert::initWithString, "a"));
+  using Request = OrvantaEventRequest;
+  EXPECT_FALSE(make<Refusing<Request>>(&Request::initWithEventArray, Array()));
+}
+
+TEST(RefusedUpdate, AHugeDictionaryIsLoggedInPart) {
+  RecordingPlatform platform;
+  EXPECT_FALSE(make<LeafModel>(Dictionary{{"name", std::string(200000, 'x')}, {"size", Array()}}));
+  ASSERT_EQ(platform.log.size(), 1U);
+  const std::string& entry = platform.log.front();
+  EXPECT_LT(entry.size(), 70000U);
+  EXPECT_NE(entry.find("xxx …' to class 'LeafModel' : -[NSArray longLongValue]"),
+            std::string::npos);
+}
+
+TEST(RefusedUpdate, NeedsNoSystemLog) {
+  Platform none;
+  const PlatformOverride scope(none);
+  EXPECT_FALSE(made<LeafModel>(R"({"size": null})"));
+}
+
+}  // namespace
+}  // namespace orvanta::testing

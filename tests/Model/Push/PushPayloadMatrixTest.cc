@@ -1,0 +1,170 @@
+#include <gtest/gtest.h>
+
+#include "orvanta/Model/Push/OrvantaPushCarouselObject.h"
+#include "orvanta/Model/Push/OrvantaPushObject.h"
+#include "support/ModelHelpers.h"
+#include "support/RecordingPlatform.h"
+
+// Every key of a push payload, and of the models in it, given every kind of value. What becomes of
+// it follows from the type code of the key's property and from what the value reads as.
+
+namespace orvanta::testing {
+namespace {
+
+constexpr std::uint64_t kTwo63 = std::uint64_t{1} << 63U;
+const std::string kNoURL = R"("no URL")";
+const std::string kModel = R"({"klazz":"OrvantaReviewAction"})";
+const std::string kNoModel = R"({"klazz":"OrvantaWidgetAction","uri":5})";  // the model refuses it
+
+/// A value and its readings, where it has any.
+const struct Cell {
+  std::string json;
+  std::optional<Value> boolean{};
+  std::optional<Value> real{};
+  std::optional<Value> natural{};  // for unsigned 64-bit
+  std::optional<std::int64_t> milliseconds{};
+} kCells[] = {
+    {"null"},
+    {"true", true, 1.0, 1U, 1},
+    {"2", true, 2.0, 2U, 2},
+    {"-3", true, -3.0, 0U - std::uint64_t{3}, -3},
+    {"2.75", true, 2.75, 2U, 2},
+    {"9223372036854775807", true, 0x1p63, kTwo63 - 1, kUnsetInteger},
+    {"9223372036854775808", true, 0x1p63, kTwo63, -kUnsetInteger - 1},
+    {R"("12.5px")", true, 12.5, 12U},
+    {kNoURL, false, 0.0, 0U},
+    {R"("")", false, 0.0, 0U},
+    {"[1]"},
+    {R"({"x":1})"},
+    {kModel},
+    {kNoModel},
+    {"[" + kNoModel + "]"},
+};
+
+/// What an object writes that was given nothing: its scalars, but for a badge.
+Dictionary unread(const Class& cls) {
+  Dictionary entries;
+  for (const auto& [key, property] : cls.keyPathPropertySelectorMapping) {
+    const std::string_view encoding = cls.property(property)->encoding;
+    if (encoding.size() != 1 || property == "badge") continue;
+    entries.set(key, encoding == "B" ? Value(false) : Value(0));
+  }
+  return entries;
+}
+
+/// What a property holds and writes, nil for nothing, unless the whole object is nil.
+struct Outcome {
+  Value held{};
+  Value written{};
+  std::optional<std::size_t> refusedWithLines{};
+};
+const Outcome kRefused{.refusedWithLines = 0};
+const Outcome kRefusedWithLog{.refusedWithLines = 1};
+
+Outcome stored(const Value& value) {
+  return {.held = value, .written = value == Value(kUnsetInteger) ? Value() : value};
+}
+Outcome read(const std::optional<Value>& reading) {
+  return reading ? stored(*reading) : kRefusedWithLog;
+}
+
+Outcome outcome(const Cell& cell, std::string_view encoding, const Class* declared) {
+  // A dictionary's model is of the declared class, else of the one that it names; one that refuses
+  // is nil, which no array holds.
+  const Value value = parsed(cell.json);
+  const bool inArray = cell.json == "[" + kNoModel + "]";
+  if (inArray && declared == nullptr) return kRefusedWithLog;
+  if (encoding == "B") return read(cell.boolean);
+  if (encoding == "Q") return read(cell.natural);
+  if (encoding == "d") return read(cell.real);
+  if (encoding.find("NSURL") != std::string_view::npos) {
+    if (!value.isString()) return kRefused;
+    return cell.json == kNoURL ? Outcome{} : Outcome{.held = *Url::parse(value), .written = value};
+  }
+  if (encoding.find("NSDate") != std::string_view::npos) {
+    if (value.isNull()) return stored(value);
+    if (!cell.milliseconds) return kRefused;
+    const auto milliseconds = static_cast<double>(*cell.milliseconds);
+    return {.held = Date{milliseconds / 1000.0}, .written = *cell.milliseconds};
+  }
+  const Class* made = declared;
+  if (made == nullptr && cell.json == kModel) made = modelClassNamed("OrvantaReviewAction");
+  if (made == nullptr) return cell.json == kNoModel ? Outcome{} : stored(value);
+  const Value model = makeModel(*made, nullptr);
+  if (inArray) return {.held = Array({model}), .written = Array({unread(*made)})};
+  return value.dictionary() ? Outcome{.held = model, .written = unread(*made)} : stored(value);
+}
+
+TEST(PushPayloadMatrix, TypeCodeAndValueDecideOverEveryKey) {
+  for (const Class* cls :
+       {&OrvantaPushObject::classObject(), &OrvantaPushObjectAlert::classObject(),
+        &OrvantaPushObjectAction::classObject(), &OrvantaPushStyle::classObject(),
+        &OrvantaPushCarouselObject::classObject(), &OrvantaInAppMessageAction::classObject(),
+        &OrvantaUserNotificationAction::classObject()}) {
+    for (const auto& [key, property] : cls->keyPathPropertySelectorMapping) {
+      const Class* declared = modelClassIn(cls->mergedClassTable()[property]);
+      for (const Cell& cell : kCells) {
+        SCOPED_TRACE(std::string(cls->name) + " " + std::string(key) + " given " + cell.json);
+        const Outcome expected = outcome(cell, cls->property(property)->encoding, declared);
+        const auto dot = key.find('.');
+        Dictionary payload{{key.substr(dot + 1), parsed(cell.json)}};
+        if (dot != std::string_view::npos) payload = {{key.substr(0, dot), payload}};
+        RecordingPlatform platform;
+        const Ref<OrvantaBaseModel> model = makeModel(*cls, &payload);
+        EXPECT_EQ(!model, expected.refusedWithLines.has_value());
+        EXPECT_EQ(platform.log.size(), expected.refusedWithLines.value_or(0));
+        if (!model) continue;
+        const Value held = model->valueForKey(property);
+        EXPECT_EQ(held, expected.held);
+        EXPECT_EQ(held.kind(), expected.held.kind());
+        EXPECT_EQ(held.className(), expected.held.className());
+        Dictionary written = unread(*cls);
+        written.set(key, expected.written);
+        EXPECT_EQ(Value(model->dictionaryValue()), Value(written));
+      }
+    }
+  }
+}
+
+TEST(PushPayloadMatrix, ThePartsAreDictionariesOrNothingIsRead) {
+  for (const char* part : {"aps", "_ov"}) {
+    for (const Cell& cell : kCells) {
+      SCOPED_TRACE(part + (" given " + cell.json));
+      RecordingPlatform platform;
+      const Value value = parsed(cell.json);
+      const Dictionary payload{{part, value}};
+      Ref<OrvantaPushObject> push;
+      const auto error = thrown([&] { push = make<OrvantaPushObject>(payload); });
+      // The keys of an array are those of its elements; no scalar is read from their array.
+      const bool isSearched = value.array() && (*value.array())[0].dictionary();
+      const bool hasKeys = value.dictionary() || isSearched;
+      EXPECT_EQ(error.starts_with("NSUnknownKeyException: "), !hasKeys);
+      EXPECT_EQ(platform.log.size(), isSearched ? 1U : 0U);
+      ASSERT_EQ(bool(push), value.dictionary() != nullptr);
+      EXPECT_TRUE(!push || push->dictionaryValue() == unread(push->isa()));
+    }
+  }
+}
+
+TEST(PushPayloadMatrix, AlertAndClickActionAreThereWhateverIsGiven) {
+  for (const Cell& cell : kCells) {
+    const Value value = parsed(cell.json);
+    const auto push = make<OrvantaPushObject>(Dictionary{{"aps", Dictionary{{"alert", value}}}});
+    ASSERT_TRUE(push && push->alert() && push->action()) << cell.json;
+    EXPECT_EQ(push->alert().get()->body().value(), value.isString() ? value : Value());
+    Dictionary written = unread(push->isa());
+    if (value.isString()) written.set("body", value);
+    EXPECT_EQ(push->dictionaryValue(), written) << cell.json;
+
+    const RecordingPlatform platform;
+    const auto clicked = make<OrvantaPushObject>(Dictionary{{"_ov", Dictionary{{"act", value}}}});
+    ASSERT_EQ(!clicked, outcome(cell, "@", nullptr).refusedWithLines.has_value()) << cell.json;
+    if (!clicked) continue;
+    ASSERT_TRUE(clicked->alert() && clicked->action()) << cell.json;
+    const Value uri = value.dictionary() ? (*value.dictionary())["uri"] : Value();
+    EXPECT_EQ(clicked->action().get()->deeplinkURLString().value(), uri) << cell.json;
+  }
+}
+
+}  // namespace
+}  // namespace orvanta::testing

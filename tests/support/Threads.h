@@ -1,0 +1,31 @@
+#pragma once
+
+#include <atomic>
+#include <thread>
+#include <type_traits>
+#include <vector>
+
+namespace orvanta::testing {
+
+/// Runs the work in four threads that start together; it may take its thread's number.
+template <class Work>
+void runTogether(const Work& work) {
+  std::atomic<int> waiting{4};
+  std::vector<std::thread> threads;
+  threads.reserve(4);
+  for (int i = 0; i < 4; ++i) {
+    threads.emplace_back([&work, &waiting, number = i] {
+      static_cast<void>(number);  // not every work takes it
+      --waiting;
+      while (waiting != 0) std::this_thread::yield();
+      if constexpr (std::is_invocable_v<Work, int>) {
+        work(number);
+      } else {
+        work();
+      }
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+}
+
+}  // namespace orvanta::testing
