@@ -62,25 +62,26 @@ std::string textOf(std::size_t n, std::string_view open, std::string_view item,
 void read(const std::string& text) { parseJSON(text); }
 void tell(const std::string& text) { findDuplicateKeys(text); }
 void write(const std::string& text) {
-  Value value = parsed(text);
-  pretty(value);
+  Value value = parseJSON(text);
+  toPrettyJSON(value);
   describe(value);
   value.editArray().append(1);  // copies an array
 }
 void push(const std::string& text) {
   const RefusalRecorder recorder;
-  const auto object = made<OrvantaPushObject>(text);
-  if (object) object->copyWithZone(), object->debugDescription(), pretty(object->dictionaryValue());
+  const auto object = modelFromJSON<OrvantaPushObject>(text);
+  if (object)
+    object->copyWithZone(), object->debugDescription(), toPrettyJSON(object->dictionaryValue());
 }
 void path(const std::string& text) {
   const auto model = make<LeafModel>();
   model->setKeyPathPropertyDictionary({{text, "name"}});
-  update(*model, nested(500, R"({"a":)", "}", "1"));
+  updateFromJSON(*model, nested(500, R"({"a":)", "}", "1"));
 }
 void categories(const std::string& text) {
   FakePlatform platform;
   UNNotificationCategorySet& set = platform.center->registered;
-  const Value names = parsed(text);
+  const Value names = parseJSON(text);
   for (const Value& name : *names.array()) set.insert({std::string(*name.string()), {}});
   NotificationHelper::setNotificationCategories(set, platform.center, {});
   platform.runAll();
@@ -181,7 +182,7 @@ std::string deepAndWide(std::string_view open, std::string_view item) {
 // Lines are indented by their depth: what is shown of this one was a thousand times its text.
 TEST(ResourceBounds, ADeepPayloadWasDescribedAsAWholeForALineOfTheLog) {
   RecordingPlatform platform;
-  const Dictionary payload = dictionaryOf(deepAndWide(R"({"size":)", "1"));
+  const Dictionary payload = dictionaryFromJSON(deepAndWide(R"({"size":)", "1"));
   EXPECT_LT(used([&] { EXPECT_FALSE(make<LeafModel>(payload)); }).peak, 1'000'000U);
   EXPECT_GT(platform.log.at(0).size(), 65536U);
 }
@@ -197,14 +198,14 @@ TEST(ResourceBounds, ModelsThatFailedByTheThousandFilledTheLog) {
                .append("}}}");
   }
   RecordingPlatform platform;
-  made<OrvantaPushObject>(text);
+  modelFromJSON<OrvantaPushObject>(text);
   ASSERT_EQ(platform.log.size(), 512U);
   EXPECT_LT(platform.log.back().size(), 400U);
 }
 
 TEST(ResourceBounds, TellingWhyADeepArrayWasRefusedWalkedItAtEveryLevel) {
   const RecordingPlatform platform;
-  const Dictionary payload = dictionaryOf(deepAndWide(R"({"aps":)", "{}"));
+  const Dictionary payload = dictionaryFromJSON(deepAndWide(R"({"aps":)", "{}"));
   const auto refused = [&] { EXPECT_FALSE(make<DottedModel>(payload)); };
   const std::size_t unasked = used(refused).total;
   const RefusalRecorder recorder;

@@ -25,9 +25,9 @@ TEST(Array, RefusesNil) {
   const std::string refusal =
       "NSInvalidArgumentException: *** -[__NSArrayM insertObject:atIndex:]: object cannot be nil";
   Array array({1});
-  EXPECT_EQ(thrown([&] { array.append(Value()); }), refusal);
+  EXPECT_EQ(exceptionFrom([&] { array.append(Value()); }), refusal);
   EXPECT_EQ(array, Array({1}));
-  EXPECT_EQ(thrown([] { const Array made({kLong, Value()}); }), refusal);
+  EXPECT_EQ(exceptionFrom([] { const Array invalid({kLong, Value()}); }), refusal);
 }
 
 TEST(Array, ACopyPartsFromTheOriginalWithTheFirstChange) {
@@ -55,7 +55,7 @@ TEST(Array, ACopyPartsFromTheOriginalWithTheFirstChange) {
     EXPECT_EQ(second, row.changed);
     EXPECT_EQ(built, Array({kLong, 2, 3}));
 
-    const Value text = parsed("[\"" + kLong + "\", 2, 3]");
+    const Value text = parseJSON("[\"" + kLong + "\", 2, 3]");
     Value edited = text;
     row.make(edited.editArray());
     EXPECT_EQ(edited, Value(row.changed));
@@ -105,7 +105,7 @@ TEST(Dictionary, ACopyPartsFromTheOriginalWithTheFirstChange) {
     EXPECT_EQ(listed(first), row.changed);
     EXPECT_EQ(listed(built), "a=1 b=2");
 
-    const Value text = parsed(R"({"a": 1, "b": 2})");
+    const Value text = parseJSON(R"({"a": 1, "b": 2})");
     Value edited = text;
     row.make(edited.editDictionary());
     EXPECT_EQ(listed(*edited.dictionary()), row.changed);
@@ -116,7 +116,7 @@ TEST(Dictionary, ACopyPartsFromTheOriginalWithTheFirstChange) {
 TEST(Dictionary, TakesKeysAndEntriesOutOfItself) {
   // Either way a change moves the entries and frees the old ones.
   const std::function<Dictionary()> makers[] = {
-      [] { return Dictionary(*parsed(R"({"a": "key", "b": 0, "c": 0})").dictionary()); },
+      [] { return Dictionary(*parseJSON(R"({"a": "key", "b": 0, "c": 0})").dictionary()); },
       [] {
         Dictionary full({{"a", "key"}, {"b", 0}});
         full.set("c", 0);
@@ -217,7 +217,7 @@ TEST(Dictionary, ManyKeysOfOneLengthAndPrefixAreReadInReasonableTime) {
     text.append("\"").append(prefix).append(std::to_string(100'000 + i)).append("\":");
     text.append(std::to_string(i)).append(i + 1 < kCount ? "," : "}");
   }
-  const Value value = parsed(text);
+  const Value value = parseJSON(text);
   ASSERT_NE(value.dictionary(), nullptr);
   ASSERT_EQ(value.dictionary()->size(), kCount);
   for (std::size_t i = 0; i < kCount; i += 97) {
@@ -233,7 +233,7 @@ TEST(ParsedValues, OutliveTheTextAndTheTree) {
   {
     std::string text = R"({"list": [1, {"name": "a string of more than fourteen bytes"}],)"
                        R"( "and a key of more than fourteen bytes": {"short": "text"}})";
-    const Value tree = parsed(text);
+    const Value tree = parseJSON(text);
     text.assign(text.size(), '?');
     const Dictionary& root = *tree.dictionary();
     array = root["list"];

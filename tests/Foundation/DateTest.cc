@@ -13,8 +13,8 @@ constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 TEST(Date, WholeMillisecondsComeBackTruncatedNotRounded) {
   const struct {
-    std::int64_t given;
-    std::int64_t back;
+    std::int64_t milliseconds;
+    std::int64_t roundTrip;
   } rows[] = {
       {1001, 1000},  // 1.001 * 1000.0 lies below 1001
       {1500000000123, 1500000000123},
@@ -22,7 +22,7 @@ TEST(Date, WholeMillisecondsComeBackTruncatedNotRounded) {
       {-1001, -1000},
   };
   for (const auto& row : rows)
-    EXPECT_EQ(Date::fromMilliseconds(row.given).milliseconds(), row.back);
+    EXPECT_EQ(Date::fromMilliseconds(row.milliseconds).milliseconds(), row.roundTrip);
   EXPECT_EQ(Date::fromMilliseconds(1500000000123).secondsSince1970, 1500000000.123);
 }
 

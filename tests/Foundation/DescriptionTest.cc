@@ -19,7 +19,7 @@ TEST(Description, OfSingleValuesIsPlain) {
 }
 
 TEST(Description, OfCollectionsIsAnOldPropertyListWithSortedKeys) {
-  const Value value = parsed(R"({"none": null, "list": [1, "a b", {"k": [[]]}], "empty": [],
+  const Value value = parseJSON(R"({"none": null, "list": [1, "a b", {"k": [[]]}], "empty": [],
       "alert": {"title": "Hello!", "body": "hey"}, "Z": {}, "content-type": -1, "aa": true})");
   EXPECT_EQ(describe(value),
             "{\n"

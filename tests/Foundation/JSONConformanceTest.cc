@@ -50,7 +50,7 @@ void accepts(Kind kind, const std::string& row) {
   JSONError error{"untouched", 7};
   const Value value = read(text, &error);
   EXPECT_EQ(value.kind(), kind);
-  EXPECT_EQ(written(value, {.escapeSlashes = false}), canonical);
+  EXPECT_EQ(toJSON(value, {.escapeSlashes = false}), canonical);
   EXPECT_EQ(read(canonical), value);
   EXPECT_EQ(error.reason, "untouched");
   readsPrefixes(text);
@@ -271,13 +271,13 @@ TEST(JSONConformance, AcceptsEverySizeOfContainer) {
         array.append(name + std::to_string(i));
         dictionary.set(name + std::to_string(i), i);
       }
-      EXPECT_EQ(read(written(array)), Value(array));
-      const Value again = read(written(dictionary));
+      EXPECT_EQ(read(toJSON(array)), Value(array));
+      const Value again = read(toJSON(dictionary));
       EXPECT_EQ(again, Value(dictionary));
       EXPECT_EQ((*again.dictionary())[name + std::to_string(size - 1)], Value(size - 1));
-      std::string twice = written(dictionary);
+      std::string twice = toJSON(dictionary);
       twice.back() = ',';
-      EXPECT_EQ(read(twice + written(dictionary).substr(1)), again);
+      EXPECT_EQ(read(twice + toJSON(dictionary).substr(1)), again);
     }
   }
 }

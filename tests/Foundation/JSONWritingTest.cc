@@ -32,11 +32,11 @@ TEST(JSONWriting, WritesScalars) {
       {"\u00e9\u20ac\U0001F600\u2028", "\"\u00e9\u20ac\U0001F600\u2028\""},
   };
   for (const auto& row : rows) {
-    EXPECT_EQ(written(row.value), row.text);
-    EXPECT_EQ(pretty(row.value), row.text);
-    EXPECT_EQ(parsed(row.text), row.value) << row.text;
+    EXPECT_EQ(toJSON(row.value), row.text);
+    EXPECT_EQ(toPrettyJSON(row.value), row.text);
+    EXPECT_EQ(parseJSON(row.text), row.value) << row.text;
   }
-  EXPECT_EQ(written("a/b", {.escapeSlashes = false}), R"("a/b")");
+  EXPECT_EQ(toJSON("a/b", {.escapeSlashes = false}), R"("a/b")");
 }
 
 TEST(JSONWriting, DoublesReadBackAsTheSameNumber) {
@@ -45,8 +45,8 @@ TEST(JSONWriting, DoublesReadBackAsTheSameNumber) {
     state = state * 6364136223846793005U + 1442695040888963407U;
     const auto number = std::bit_cast<double>(state ^ state >> 29U);
     if (!std::isfinite(number)) continue;
-    const std::string text = written(number);
-    ASSERT_EQ(parsed(text).number()->doubleValue(), number) << text;
+    const std::string text = toJSON(number);
+    ASSERT_EQ(parseJSON(text).number()->doubleValue(), number) << text;
   }
 }
 
@@ -64,10 +64,10 @@ TEST(JSONWriting, LaysOutContainers) {
       {R"({"a\/b\n":{"c":true}})", "{\n  \"a\\/b\\n\" : {\n    \"c\" : true\n  }\n}"},
   };
   for (const auto& row : rows) {
-    const Value value = parsed(row.compact);
-    EXPECT_EQ(written(value), row.compact);
-    EXPECT_EQ(pretty(value), row.pretty);
-    EXPECT_EQ(parsed(row.pretty), value);
+    const Value value = parseJSON(row.compact);
+    EXPECT_EQ(toJSON(value), row.compact);
+    EXPECT_EQ(toPrettyJSON(value), row.pretty);
+    EXPECT_EQ(parseJSON(row.pretty), value);
     EXPECT_TRUE(isValidJSONObject(value));
   }
   std::string text = "before ";
@@ -80,11 +80,11 @@ TEST(JSONWriting, RefusesWhatJSONCannotHold) {
        {Value(), Value(Date{}), Value(*Url::parse("a")), Value(Labelled::make(1)),
         Value(&Plain::kClass), Value(kNaN), Value(kInfinity), Value(-kInfinity),
         Value(std::numeric_limits<float>::infinity())}) {
-    EXPECT_EQ(written(value), "refused") << describe(value);
+    EXPECT_EQ(toJSON(value), "invalid") << describe(value);
     if (value.isNil()) continue;
     for (const Value& holder : {Value(Array({1, value})), Value(Dictionary({{"a", value}})),
                                 Value(Array({Dictionary({{"a", Array({value})}})}))}) {
-      EXPECT_EQ(written(holder), "refused") << describe(value);
+      EXPECT_EQ(toJSON(holder), "invalid") << describe(value);
       EXPECT_FALSE(isValidJSONObject(holder)) << describe(value);
     }
   }
@@ -97,16 +97,16 @@ TEST(JSONWriting, TakesFiveHundredAndTwelveLevels) {
     array = Array({array});
     dictionary = Dictionary({{"a", dictionary}});
   }
-  EXPECT_EQ(written(array), nested(512, "[", "]"));
+  EXPECT_EQ(toJSON(array), nested(512, "[", "]"));
   EXPECT_TRUE(isValidJSONObject(array));
   EXPECT_TRUE(isValidJSONObject(dictionary));
-  EXPECT_EQ(parsed(written(dictionary)), dictionary);
+  EXPECT_EQ(parseJSON(toJSON(dictionary)), dictionary);
   for (const Value& value : {Value(Array({array})), Value(Dictionary({{"a", dictionary}}))}) {
-    EXPECT_EQ(written(value), "refused");
+    EXPECT_EQ(toJSON(value), "invalid");
     EXPECT_FALSE(isValidJSONObject(value));
   }
   // Siblings do not add up.
-  EXPECT_NE(written(Array({(*array.array())[0], (*array.array())[0]})), "refused");
+  EXPECT_NE(toJSON(Array({(*array.array())[0], (*array.array())[0]})), "invalid");
 }
 
 }  // namespace

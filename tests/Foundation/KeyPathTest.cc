@@ -24,7 +24,7 @@ TEST(KeyPath, ReadsThroughDictionariesAndArrays) {
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.receiver);
-    const Value receiver = parsed(row.receiver);
+    const Value receiver = parseJSON(row.receiver);
     EXPECT_EQ(valueForKeyPath(receiver, row.path), row.result);
     EXPECT_EQ(valueForKeyPath(receiver, splitKeyPath(row.path)), row.result);
     if (const Dictionary* dictionary = receiver.dictionary()) {
@@ -39,7 +39,7 @@ TEST(KeyPath, ReadsPropertiesOfObjects) {
   EXPECT_EQ(valueForKeyPath(object, "label.en"), Value("Hello"));
   EXPECT_EQ(valueForKeyPath(Dictionary({{"o", Array({object})}}), "o.label.en"),
             Value(Array({"Hello"})));
-  EXPECT_EQ(thrown([&] { valueForKeyPath(object, "other"); }),
+  EXPECT_EQ(exceptionFrom([&] { valueForKeyPath(object, "other"); }),
             "NSUnknownKeyException: [<Labelled> valueForUndefinedKey:]: this class is not key "
             "value coding-compliant for the key other.");
 }
@@ -56,7 +56,7 @@ TEST(KeyPath, RaisesAtAValueWithoutKeys) {
       {R"({"a": [{"b": true}]})", "a.b.c", "NSNumber", "c"},
   };
   for (const auto& row : rows) {
-    EXPECT_EQ(thrown([&] { valueForKeyPath(parsed(row.receiver), row.path); }),
+    EXPECT_EQ(exceptionFrom([&] { valueForKeyPath(parseJSON(row.receiver), row.path); }),
               "NSUnknownKeyException: [<" + std::string(row.className) +
                   "> valueForUndefinedKey:]: this class is not key value coding-compliant for "
                   "the key " +

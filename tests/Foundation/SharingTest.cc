@@ -31,7 +31,7 @@ TEST(Sharing, ThreadsReadCopyAndDropOneTree) {
   for (int i = 0; i < 40; ++i) text += "\"k" + std::to_string(i) + "\": [1, 2.5],";
   text += R"("last": null}})";
   for (const bool built : {false, true}) {
-    Value tree = parsed(text);
+    Value tree = parseJSON(text);
     if (built) tree = rebuilt(tree);  // on the heap every node has a count of its own
     const std::string before = describe(tree);
     // One copy for each thread; the last one to drop it frees the tree.
@@ -59,7 +59,7 @@ TEST(Sharing, PartsDroppedInDifferentThreadsFreeTheTreeOnce) {
   for (int round = 0; round < 50; ++round) {
     std::vector<Value> parts;
     {
-      const Value tree = parsed(R"(["a text of more than fourteen bytes", {"a": 1}, [2], {}])");
+      const Value tree = parseJSON(R"(["a text of more than fourteen bytes", {"a": 1}, [2], {}])");
       for (const Value& element : *tree.array()) parts.push_back(element);
     }
     runTogether([&](int thread) { parts[static_cast<std::size_t>(thread)] = Value(); });

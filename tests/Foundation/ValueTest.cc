@@ -39,12 +39,12 @@ TEST(Value, EqualContentMadeApartIsEqualAndHashesAlike) {
     EXPECT_EQ(a, b);
     EXPECT_EQ(a.hash(), b.hash());
   };
-  expectEqual(kLong, parsed('"' + kLong + '"'));
+  expectEqual(kLong, parseJSON('"' + kLong + '"'));
   expectEqual(*Url::parse("https://x/y"), *Url::parse("https://x/y"));
-  expectEqual(Array(), parsed("[]"));
-  expectEqual(Array({1, Array({"x", kLong})}), parsed(R"([1.0, ["x", ")" + kLong + "\"]]"));
-  expectEqual(Dictionary(), parsed("{}"));
-  expectEqual(Dictionary({{"a", 1}, {kLong, 2}}), parsed("{\"" + kLong + R"(": 2, "a": 1})"));
+  expectEqual(Array(), parseJSON("[]"));
+  expectEqual(Array({1, Array({"x", kLong})}), parseJSON(R"([1.0, ["x", ")" + kLong + "\"]]"));
+  expectEqual(Dictionary(), parseJSON("{}"));
+  expectEqual(Dictionary({{"a", 1}, {kLong, 2}}), parseJSON("{\"" + kLong + R"(": 2, "a": 1})"));
   expectEqual(Date{0.0}, Date{-0.0});
   expectEqual(Labelled::make("x"), Labelled::make("x"));
 }
@@ -96,7 +96,7 @@ TEST(Value, AssigningItselfOrAPartOfItselfKeepsTheContent) {
   value = (*value.dictionary())["key"];
   EXPECT_EQ(value, Value(kLong));
 
-  value = parsed(R"({"a": [{"b": "inline"}]})");
+  value = parseJSON(R"({"a": [{"b": "inline"}]})");
   value = (*value.dictionary())["a"];
   value = (*value.array())[0];
   value = *value.dictionary();

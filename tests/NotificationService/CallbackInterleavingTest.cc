@@ -50,7 +50,7 @@ struct Delivered {
 /// pipeline delivers, it took when the registration was done. A registration keeps all before it.
 class Rules {
  public:
-  explicit Rules(const World& given) : world(given) {}
+  explicit Rules(const World& explored) : world(explored) {}
 
   void arrive(int request) {
     current = request;
@@ -113,7 +113,7 @@ class Rules {
   bool attached_[3] = {};
 };
 
-/// One order of a world, driven by choices; those that are not made yet are the first possible.
+/// Runs one order of a world by a list of choices; takes the first one where the list ends.
 class Order {
  public:
   explicit Order(const World& world) : rules_(world) {

@@ -14,7 +14,7 @@ class CommunicationIntent : public ::testing::Test, protected ExtensionRun {
     receive("{}");
     platform.calls.clear();
     delivered.clear();
-    extension->bestAttemptContent()->userInfo = dictionaryOf(payloadWith({kIcon}));
+    extension->bestAttemptContent()->userInfo = dictionaryFromJSON(payloadWith({kIcon}));
     content_->title = "Ana";
   }
   void setIntent() {
@@ -62,7 +62,7 @@ TEST_F(CommunicationIntent, CallsBackAsTheStepsEnd) {
 
 TEST_F(CommunicationIntent, WithoutIconTheContentIsDeliveredAtOnce) {
   extension->bestAttemptContent()->userInfo = {};
-  content_->userInfo = dictionaryOf(payloadWith({kIcon}));  // which is not read
+  content_->userInfo = dictionaryFromJSON(payloadWith({kIcon}));  // which is not read
   setIntent();
   EXPECT_EQ(journal(), "deliver");
   EXPECT_EQ(delivered[0], content_);

@@ -41,7 +41,7 @@ class ExtensionRun {
   Content receive(std::string_view payload) { return receive(payload, handler()); }
   Content receive(std::string_view payload, UNContentHandler contentHandler) {
     auto content = std::make_shared<UNNotificationContent>(original);
-    content->userInfo = dictionaryOf(payload);
+    content->userInfo = dictionaryFromJSON(payload);
     extension->didReceiveNotificationRequest({"request", content}, std::move(contentHandler));
     return content;
   }

@@ -13,7 +13,7 @@ class MediaAttachment : public ::testing::Test, protected ExtensionRun {
   MediaAttachment() {
     receive("{}");
     platform.calls.clear();
-    extension->bestAttemptContent()->userInfo = dictionaryOf(kPayload);
+    extension->bestAttemptContent()->userInfo = dictionaryFromJSON(kPayload);
     for (const char* const name : {"one", "two"}) {
       content_->attachments.push_back(UNNotificationAttachment::attachmentWithParts(
           {name, Url::fileURLWithPath("/present"), std::nullopt, "public.png", "Image", 1}));

@@ -40,7 +40,7 @@ TEST(UserNotificationAction, FieldsBecomeOptionsAndKind) {
       {R"({"bhv": 2})", 4, false},
   };
   for (const auto& row : rows) {
-    const auto action = made<OrvantaUserNotificationAction>(row.json);
+    const auto action = modelFromJSON<OrvantaUserNotificationAction>(row.json);
     ASSERT_TRUE(action) << row.json;
     EXPECT_EQ(action->interactiveAction()->options(), row.options) << row.json;
     EXPECT_EQ(action->interactiveAction()->takesText(), row.takesText) << row.json;
@@ -58,7 +58,7 @@ TEST(UserNotificationAction, WhatIsNoTextIsAnEmptyIdentifierOrTitle) {
       {R"({"id": ["buy"], "text": {}})", "", ""},
   };
   for (const auto& row : rows) {
-    const auto action = made<OrvantaUserNotificationAction>(row.json)->interactiveAction();
+    const auto action = modelFromJSON<OrvantaUserNotificationAction>(row.json)->interactiveAction();
     EXPECT_EQ(action->identifier(), row.identifier) << row.json;
     EXPECT_EQ(action->title(), row.title) << row.json;
   }

@@ -98,7 +98,7 @@ TEST(Pipeline, ValuesOfAnotherKindCountAsAbsent) {
     EXPECT_EQ(run.journal(), row.journal);
     ASSERT_EQ(run.delivered.size(), 1U);
     EXPECT_EQ(run.delivered[0], run.extension->bestAttemptContent());
-    EXPECT_EQ(Value(run.delivered[0]->userInfo), Value(dictionaryOf(row.payload)));
+    EXPECT_EQ(Value(run.delivered[0]->userInfo), Value(dictionaryFromJSON(row.payload)));
   }
 }
 
@@ -106,9 +106,10 @@ TEST(Pipeline, StepsReadThePayloadOfTheBestAttempt) {
   ExtensionRun run;
   run.receive(payloadWith({kButtons, kMedia, kIcon}));
   auto& userInfo = run.extension->bestAttemptContent()->userInfo;
-  userInfo = dictionaryOf(R"({"_ov": {"mu": "https://m.example/other", "ps": {"iospi": "moon"}}})");
+  userInfo =
+      dictionaryFromJSON(R"({"_ov": {"mu": "https://m.example/other", "ps": {"iospi": "moon"}}})");
   run.platform.runNext();
-  userInfo = dictionaryOf(R"({"_ov": {"ps": {"iospi": "sun"}}})");
+  userInfo = dictionaryFromJSON(R"({"_ov": {"ps": {"iospi": "sun"}}})");
   run.platform.runAll();
   EXPECT_EQ(run.journal(),
             "read, write, download https://m.example/other, move CFNetworkDownload_abc123.tmp, "
@@ -178,7 +179,7 @@ TEST(Pipeline, ExpiryBeforeAnyRequestIsOnlyLogged) {
 TEST(Pipeline, WithoutARequestThereIsNothingToReadOrDeliver) {
   ExtensionRun run;
   const LogLevel silent(0);
-  const auto object = made<OrvantaPushObject>(payloadWith({kMedia, kIcon}));
+  const auto object = modelFromJSON<OrvantaPushObject>(payloadWith({kMedia, kIcon}));
   run.extension->updateNotificationContent(run.handler(), object);
   run.platform.runAll();
   EXPECT_EQ(run.journal(), "download nothing, deliver nothing");
@@ -223,15 +224,15 @@ TEST(Pipeline, PendingStepsKeepTheExtensionAliveAndTheLastOneFreesIt) {
   const std::weak_ptr<OrvantaNotificationServiceExtension> weak = [] {
     ExtensionRun run;
     run.receive(payloadWith({kButtons, kMedia, kIcon}));
-    std::weak_ptr<OrvantaNotificationServiceExtension> held = run.extension;
+    std::weak_ptr<OrvantaNotificationServiceExtension> extension = run.extension;
     run.extension.reset();
     for (int step = 0; step < 3; ++step) {
-      EXPECT_FALSE(held.expired()) << step;
+      EXPECT_FALSE(extension.expired()) << step;
       run.platform.runNext();
     }
-    EXPECT_TRUE(held.expired());
+    EXPECT_TRUE(extension.expired());
     EXPECT_EQ(run.delivered.size(), 1U);
-    return held;
+    return extension;
   }();
   EXPECT_TRUE(weak.expired());
 }

@@ -30,7 +30,7 @@ TEST(LaunchDecision, NamesEveryConditionThatIsNotMet) {
       {R"({"aps": {"mutable-content": 1, "alert": {"loc-key": "a"}}})", {}},
   };
   for (const auto& row : rows) {
-    const LaunchDecision decision = launchDecision(dictionaryOf(row.payload));
+    const LaunchDecision decision = launchDecision(dictionaryFromJSON(row.payload));
     EXPECT_EQ(decision.unmetConditions, row.unmet) << row.payload;
     EXPECT_EQ(decision.starts(), row.unmet.empty()) << row.payload;
   }
@@ -52,7 +52,7 @@ UNNotificationContent contentOf(const Dictionary& payload) {
 /// "title|subtitle|body" of the content for an alert; "-" is none.
 std::string textsOf(std::string_view alert) {
   const UNNotificationContent content =
-      contentOf(Dictionary{{"aps", Dictionary{{"alert", parsed(alert)}}}});
+      contentOf(Dictionary{{"aps", Dictionary{{"alert", parseJSON(alert)}}}});
   return content.title.value_or("-") + "|" + content.subtitle.value_or("-") + "|" +
          content.body.value_or("-");
 }
@@ -121,7 +121,8 @@ TEST(ContentForPayload, TakesBadgeSoundCategoryAndThreadOfTheRightKind) {
       {R"({"badge": {}, "sound": true, "category": {}, "thread-id": ["t"]})", {}, {}, "", ""},
   };
   for (const auto& row : rows) {
-    const UNNotificationContent content = contentOf(Dictionary{{"aps", dictionaryOf(row.aps)}});
+    const UNNotificationContent content =
+        contentOf(Dictionary{{"aps", dictionaryFromJSON(row.aps)}});
     EXPECT_EQ(content.badge, row.badge) << row.aps;
     EXPECT_EQ(content.badge.kindName(), row.badge.kindName()) << row.aps;
     EXPECT_EQ(content.sound, row.sound) << row.aps;

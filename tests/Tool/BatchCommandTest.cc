@@ -42,11 +42,11 @@ TEST(BatchCommand, FoldsStoredRequests) {
     std::string batches;
     std::istringstream out(run.out);
     for (std::string line; std::getline(out, line);) {
-      const Value batch = parsed(line);
+      const Value batch = parseJSON(line);
       ASSERT_NE(batch.dictionary(), nullptr) << line;
       batches += describe((*batch.dictionary())["storageId"]) + ":" +
                  describe((*batch.dictionary())["events"]) +
-                 written((*batch.dictionary())["idsContained"]) + " ";
+                 toJSON((*batch.dictionary())["idsContained"]) + " ";
     }
     EXPECT_EQ(batches, row.batches);
   }
@@ -100,7 +100,7 @@ TEST(RequestCommand, PrintsTheCallOfARequest) {
   const ToolRun run = runTool({"request", "OrvantaFetchCouponRequest"}, R"({"page":2})");
   EXPECT_EQ(run.exit, ExitCode::done);
   EXPECT_EQ(
-      written(parsed(run.out), {.escapeSlashes = false}),
+      toJSON(parseJSON(run.out), {.escapeSlashes = false}),
       R"({"baseURL":null,"path":"/coupon/fetch","HTTPMethod":"POST","HTTPHeaders":{},)"
       R"("HTTPBody":{"page":2,"max":0},"timeoutInterval":20,"queuePriority":0,"priority":1})");
   EXPECT_NE(runTool({"request", "OrvantaFetchCouponRequest", "--text"}, "{}")

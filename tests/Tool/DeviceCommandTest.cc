@@ -8,11 +8,11 @@ namespace {
 
 TEST(DeviceCommand, PrintsWhatTheDeviceIsLike) {
   const std::string folder = std::string(ORVANTA_SOURCE_DIR) + "/examples/devices/";
-  EXPECT_EQ(written(parsed(runTool({"device"}).out)),
+  EXPECT_EQ(toJSON(parseJSON(runTool({"device"}).out)),
             R"({"osV":"17.0","appV":"2.4.1","oper":"Example Mobile","lang":"en","mnf":"Apple",)"
             R"("mdl":"iPhone15,2"})");
   EXPECT_EQ(
-      written(parsed(runTool({"device", "--all", "--device", folder + "old-phone.json"}).out)),
+      toJSON(parseJSON(runTool({"device", "--all", "--device", folder + "old-phone.json"}).out)),
       R"({"osn":"iOS","arc":"armv7s","res":"640x1136","den":"@2x","lo":"tr","ct":3,)"
       R"("td":13317,"tr":1008,"bl":37,"ogv":"","osV":"9.3.5","appV":"1.9.0",)"
       R"("oper":"Example Mobile","lang":"tr","mnf":"Apple","mdl":"iPhone5,2"})");
@@ -20,7 +20,7 @@ TEST(DeviceCommand, PrintsWhatTheDeviceIsLike) {
 
 TEST(DeviceCommand, ReadsWhatAProfileOmitsFromTheMachine) {
   for (const char* const device : {"host", "-"}) {
-    const Value whole = parsed(runTool({"device", "--all", "--device", device}, "{}").out);
+    const Value whole = parseJSON(runTool({"device", "--all", "--device", device}, "{}").out);
     ASSERT_NE(whole.dictionary(), nullptr);
     const Dictionary& info = *whole.dictionary();
     EXPECT_GT(info["tr"].number()->doubleValue(), 0.0);

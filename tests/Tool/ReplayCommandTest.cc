@@ -30,8 +30,8 @@ TEST(ReplayCommand, CountsWhatCameOfThePayloads) {
   for (const char* const jobs : {"1", "3"}) {
     const ToolRun run = runTool({"replay", "--json", "--jobs", jobs, "--log-level", "0"}, lines);
     EXPECT_EQ(run.exit, ExitCode::notMade);
-    const Value counts = parsed(run.out);
-    EXPECT_EQ(written(counts, {.escapeSlashes = false}),
+    const Value counts = parseJSON(run.out);
+    EXPECT_EQ(toJSON(counts, {.escapeSlashes = false}),
               R"({"format":1,"payloads":7,"deliveries":7,"plain":2,"buttons":1,"media":2,"icon":1,)"
               R"("refused":2,"refusedBy":{"_ov.ia > actM":1,"_ov.mu":1},"undefinedKey":1,)"
               R"("bytes":{"p50":28,"p90":77,"p99":77,"max":77},"badLines":2,"firstBadLines":[)"

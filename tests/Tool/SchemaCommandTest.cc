@@ -14,7 +14,7 @@ using tool::ExitCode;
 
 /// The entry of one class in `schema CLASS --json`.
 Dictionary entryOf(const std::string& className) {
-  const Value whole = parsed(runTool({"schema", className, "--json"}).out);
+  const Value whole = parseJSON(runTool({"schema", className, "--json"}).out);
   const Array* classes =
       whole.dictionary() != nullptr ? (*whole.dictionary())["classes"].array() : nullptr;
   if (classes == nullptr || classes->size() != 1) return {};
@@ -26,7 +26,7 @@ TEST(SchemaCommand, DescribesOneClassAsJson) {
   const ToolRun run = runTool({"schema", "OrvantaPushStyle", "--json"});
   EXPECT_EQ(run.exit, ExitCode::done);
   EXPECT_EQ(run.err, "");
-  EXPECT_EQ(written(parsed(run.out)),
+  EXPECT_EQ(toJSON(parseJSON(run.out)),
             R"({"format":1,"classes":[{"name":"OrvantaPushStyle","superclass":"OrvantaBaseModel",)"
             R"("properties":[{"name":"fontFamily","type":"@\"NSString\"","readOnly":false},)"
             R"({"name":"pushIcon","type":"@\"NSString\"","readOnly":true}],)"
@@ -34,7 +34,7 @@ TEST(SchemaCommand, DescribesOneClassAsJson) {
 }
 
 TEST(SchemaCommand, WithoutAClassDescribesEachOnce) {
-  const Value whole = parsed(runTool({"schema", "--json"}).out);
+  const Value whole = parseJSON(runTool({"schema", "--json"}).out);
   ASSERT_NE(whole.dictionary(), nullptr);
   EXPECT_EQ((*whole.dictionary())["format"], Value(1));
   const Array* classes = (*whole.dictionary())["classes"].array();
@@ -44,7 +44,7 @@ TEST(SchemaCommand, WithoutAClassDescribesEachOnce) {
   for (std::size_t i = 0; i < classes->size(); ++i) {
     const std::string name(modelClasses()[i]->name);
     EXPECT_EQ((*(*classes)[i].dictionary())["name"], Value(name));
-    EXPECT_EQ(written((*classes)[i]), written(entryOf(name)));
+    EXPECT_EQ(toJSON((*classes)[i]), toJSON(entryOf(name)));
     EXPECT_NE(table.find(runTool({"schema", name}).out), std::string::npos) << name;
   }
 }
@@ -72,11 +72,12 @@ TEST(SchemaCommand, TellsEventsFromOtherClasses) {
 }
 
 TEST(SchemaCommand, TellsTheEndpointsOfRequests) {
-  const Value whole = parsed(runTool({"schema", "--json"}).out);
+  const Value whole = parseJSON(runTool({"schema", "--json"}).out);
   EXPECT_EQ((*whole.dictionary())["endpoints"].array()->size(), 21U);
   EXPECT_EQ((*(*whole.dictionary())["endpoints"].array())[2],
-            parsed(R"({"code":3,"path":"/event/fire","class":"OrvantaEventRequest"})"));
-  EXPECT_EQ((*(*whole.dictionary())["methods"].array())[1], parsed(R"({"code":1,"method":"GET"})"));
+            parseJSON(R"({"code":3,"path":"/event/fire","class":"OrvantaEventRequest"})"));
+  EXPECT_EQ((*(*whole.dictionary())["methods"].array())[1],
+            parseJSON(R"({"code":1,"method":"GET"})"));
   const std::pair<const char*, Value> priorities[] = {
       {"OrvantaBaseRequest", Value::null()},
       {"OrvantaAddTestDeviceRequest", Value::null()},
@@ -86,11 +87,11 @@ TEST(SchemaCommand, TellsTheEndpointsOfRequests) {
     EXPECT_EQ(entryOf(name)["priority"], priority) << name;
   }
   EXPECT_EQ(entryOf("OrvantaBaseRequest")["request"],
-            parsed(R"({"code":0,"path":null,"method":"POST",)"
-                   R"("responseClass":"OrvantaBaseResponseModel"})"));
+            parseJSON(R"({"code":0,"path":null,"method":"POST",)"
+                      R"("responseClass":"OrvantaBaseResponseModel"})"));
   EXPECT_EQ(entryOf("OrvantaFetchCouponRequest")["request"],
-            parsed(R"({"code":21,"path":"/coupon/fetch","method":"POST",)"
-                   R"("responseClass":"OrvantaFetchCouponResponse"})"));
+            parseJSON(R"({"code":21,"path":"/coupon/fetch","method":"POST",)"
+                      R"("responseClass":"OrvantaFetchCouponResponse"})"));
 }
 
 TEST(SchemaCommand, MarkdownIsTheDocumentedWireFormat) {

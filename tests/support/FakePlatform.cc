@@ -89,14 +89,14 @@ void FakePlatform::downloadTaskWithURL(const std::optional<Url>& url,
 
 Ref<NSError> FakePlatform::moveItemAtURL(const Url& source, const Url& destination) {
   calls.push_back("move " + source.lastPathComponent());
-  const auto found = files.find(source.path());
-  if (found == files.end()) return moveError(4, 2);
+  const auto file = files.find(source.path());
+  if (file == files.end()) return moveError(4, 2);
   if (files.contains(destination.path())) return moveError(516, 17);
   if (!lockedFolder.empty() && destination.path().starts_with(lockedFolder)) {
     return moveError(513, 13);
   }
-  files[destination.path()] = found->second;
-  files.erase(found);
+  files[destination.path()] = file->second;
+  files.erase(file);
   return nullptr;
 }
 

@@ -143,8 +143,8 @@ class FakePlatform final : public Platform,
   Intents::Update contentByUpdating(const UNNotificationContent& content,
                                     const INSendMessageIntent& provider) override;
   std::string localizedStringForKey(std::string_view key) override {
-    const auto found = texts.find(key);
-    return found == texts.end() ? std::string(key) : found->second;
+    const auto entry = texts.find(key);
+    return entry == texts.end() ? std::string(key) : entry->second;
   }
 
   std::deque<std::function<void()>> pending_;

@@ -1,27 +1,30 @@
 #pragma once
 
+#include <stdexcept>
+#include <string>
 #include <string_view>
-#include <vector>
 
 #include "orvanta/Model/Mapping/OrvantaBaseModel.h"
 #include "support/Values.h"
 
 namespace orvanta::testing {
 
-/// The dictionary of a JSON text.
-Dictionary dictionaryOf(std::string_view json);
-/// Updates a model from a JSON text.
-bool update(OrvantaBaseModel& model, std::string_view json);
-/// A new model initialised from a JSON text, or nil.
-template <class M>
-Ref<M> made(std::string_view json) {
-  return make<M>(dictionaryOf(json));
+/// Throws `std::invalid_argument` when the JSON is not a dictionary.
+inline Dictionary dictionaryFromJSON(std::string_view json) {
+  const Value value = parseJSON(json);
+  if (value.dictionary() == nullptr) throw std::invalid_argument(std::string(json));
+  return *value.dictionary();
 }
 
-/// A value of every kind that can be stored.
-std::vector<Value> oneOfEachKind();
-/// What becomes of a value of a kind that a dictionary holds for a property of a type code.
-enum class Outcome { keptAsItIs, read, converted, refused, refusedWithLog };
-Outcome outcomeOf(Kind kind, std::string_view encoding);
+inline bool updateFromJSON(OrvantaBaseModel& model, std::string_view json) {
+  const Dictionary dictionary = dictionaryFromJSON(json);
+  return model.updateWithDictionary(&dictionary);
+}
+
+/// A new model, or nil when its initializer fails.
+template <class M>
+Ref<M> modelFromJSON(std::string_view json) {
+  return make<M>(dictionaryFromJSON(json));
+}
 
 }  // namespace orvanta::testing

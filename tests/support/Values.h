@@ -23,18 +23,16 @@ inline void PrintTo(const Value& value, std::ostream* out) {
 
 namespace testing {
 
-/// The value of a text that is known to be JSON, otherwise nil.
-inline Value parsed(std::string_view text) { return parseJSON(text); }
-
-inline std::string written(const Value& value, JSONStyle style = {}) {
+/// The JSON of a value, or "invalid" where it has none.
+inline std::string toJSON(const Value& value, JSONStyle style = {}) {
   std::string text;
-  return writeJSON(value, text, style) ? text : "refused";
+  return writeJSON(value, text, style) ? text : "invalid";
 }
-inline std::string pretty(const Value& value) { return written(value, {.pretty = true}); }
+inline std::string toPrettyJSON(const Value& value) { return toJSON(value, {.pretty = true}); }
 
 /// "name: reason" of the exception that a call throws, or "nothing thrown".
 template <class Call>
-std::string thrown(Call&& call) {
+std::string exceptionFrom(Call&& call) {
   try {
     call();
   } catch (const Exception& exception) {
@@ -43,7 +41,7 @@ std::string thrown(Call&& call) {
   return "nothing thrown";
 }
 
-/// A text that `open` begins and `close` ends as many times, around `core`.
+/// `core` between `depth` times `open` and as many times `close`.
 inline std::string nested(std::size_t depth, std::string_view open, std::string_view close,
                           std::string_view core = "") {
   std::string text;
@@ -53,8 +51,8 @@ inline std::string nested(std::size_t depth, std::string_view open, std::string_
   return text;
 }
 
-/// An object with one property, "label"; equal to any other with the same label. It counts those
-/// that are alive.
+/// An object with one property, "label"; equal to any other with the same label. Counts the
+/// living instances.
 class Labelled : public Object {
  public:
   static constexpr ClassObject kClass{"Labelled", nullptr};

@@ -70,23 +70,23 @@ TEST(CommerceEvents, StandFlatBesideWhatTheyAreAbout) {
     Dictionary written = row.event->dictionaryValue();
     EXPECT_EQ(written["revenue"], Value(9223372036854775808.0));
     written.remove("revenue");
-    EXPECT_EQ(Value(written), parsed(row.text));
+    EXPECT_EQ(Value(written), parseJSON(row.text));
   }
 }
 
 TEST(CommerceEvents, AnswerANewObjectOfTheReceiversClass) {
   const auto receiver = make<PromotedCartAdd>();
   const auto product = OrvantaProduct::productWithId("p1", "Jacket", 9.5);
-  const auto made = receiver->initWithProduct(product, 2, 19.0);
-  EXPECT_NE(made.get(), receiver.get());
-  EXPECT_EQ(&made->isa(), &PromotedCartAdd::classObject());
-  EXPECT_EQ(made->count(), 2U);
+  const auto event = receiver->initWithProduct(product, 2, 19.0);
+  EXPECT_NE(event.get(), receiver.get());
+  EXPECT_EQ(&event->isa(), &PromotedCartAdd::classObject());
+  EXPECT_EQ(event->count(), 2U);
   EXPECT_EQ(receiver->count(), 0U);
-  EXPECT_EQ(made->revenue(), OrvantaEvent::kNoAmount);
+  EXPECT_EQ(event->revenue(), OrvantaEvent::kNoAmount);
 }
 
 TEST(CommerceEvents, AreReadFromTheFlatDictionary) {
-  const auto event = made<OrvantaCartAddProductEvent>(
+  const auto event = modelFromJSON<OrvantaCartAddProductEvent>(
       R"({"ea":"p1","eq":"9.5","ec":3,"code":"other","revenue":1})");
   ASSERT_NE(event->product().get(), nullptr);
   EXPECT_EQ(event->product().get()->productId().get(), "p1");
@@ -131,9 +131,10 @@ TEST(OrvantaPurchaseEvent, CountsItsLineItems) {
   Dictionary fields = written;
   fields.remove("items");
   fields.remove("revenue");
-  EXPECT_EQ(Value(fields), parsed(R"({"code":"o:ph","er":1.0,"es":2.0,"ec":1,"fz":2,"em":"card",)"
-                                  R"("ep":3.0,"el":4.0,"ek":"AUTUMN"})"));
-  EXPECT_EQ(written["items"], parsed(R"([{"ec":2,"ea":"p","eb":"n","eq":1.0}])"));
+  EXPECT_EQ(Value(fields),
+            parseJSON(R"({"code":"o:ph","er":1.0,"es":2.0,"ec":1,"fz":2,"em":"card",)"
+                      R"("ep":3.0,"el":4.0,"ek":"AUTUMN"})"));
+  EXPECT_EQ(written["items"], parseJSON(R"([{"ec":2,"ea":"p","eb":"n","eq":1.0}])"));
   // Read back, the items stay dictionaries.
   EXPECT_EQ(make<OrvantaPurchaseEvent>(written)->lineItems().value(), written["items"]);
 }

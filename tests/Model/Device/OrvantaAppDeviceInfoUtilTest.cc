@@ -14,12 +14,12 @@ using Util = OrvantaAppDeviceInfoUtil;
 /// A fact of the device of a profile, as JSON.
 template <class Fact>
 std::string fact(const std::string& profile, Fact (*read)()) {
-  SimulatedDevice device(DeviceProfile::fromDictionary(dictionaryOf(profile)));
+  SimulatedDevice device(DeviceProfile::fromDictionary(dictionaryFromJSON(profile)));
   const PlatformOverride override(device);
   if constexpr (std::is_same_v<Fact, Held<String>>) {
-    return read() ? written(Array{read().value()}) : "nil";
+    return read() ? toJSON(Array{read().value()}) : "nil";
   } else {
-    return written(Array{read()});
+    return toJSON(Array{read()});
   }
 }
 
@@ -111,10 +111,10 @@ TEST(DeviceInfo, AnExceptionEndsTheWalkWithALogLine) {
 TEST(DeviceInfo, FillsTheModelAlsoOnAPlatformThatKnowsNothing) {
   Platform none;
   const PlatformOverride override(none);
-  EXPECT_EQ(written(Util::allDeviceInfo()->dictionaryValue()),
+  EXPECT_EQ(toJSON(Util::allDeviceInfo()->dictionaryValue()),
             R"({"osn":"iOS","ct":0,"td":0,"tr":0,"bl":100,"ogv":"","mnf":"Apple"})");
   EXPECT_EQ(Util::freeRAM(), ~std::uint64_t{0});
-  EXPECT_EQ(written(made<OrvantaAppAllDeviceInfo>(R"({"lo":"de"})")->dictionaryValue()),
+  EXPECT_EQ(toJSON(modelFromJSON<OrvantaAppAllDeviceInfo>(R"({"lo":"de"})")->dictionaryValue()),
             R"({"lo":"de","ct":0,"td":0,"tr":0,"bl":0,"lang":"de"})");
 }
 

@@ -36,8 +36,8 @@ namespace orvanta::testing {
 namespace {
 
 TEST(Events, AreMadeFromTheirArguments) {
-  const auto push =
-      made<OrvantaPushObject>(R"({"_ov":{"pid":"p","piid":"pi","ia":[{"id":"reply","act":{}}]}})");
+  const auto push = modelFromJSON<OrvantaPushObject>(
+      R"({"_ov":{"pid":"p","piid":"pi","ia":[{"id":"reply","act":{}}]}})");
   push->setInteractiveActionIdentifier("reply");
   push->setInputText("hello");
   const struct {
@@ -93,7 +93,7 @@ TEST(Events, AreMadeFromTheirArguments) {
     EXPECT_EQ(fields["revenue"], Value(9223372036854775808.0)) << row.code;
     fields.remove("code");
     fields.remove("revenue");
-    EXPECT_EQ(Value(fields), parsed(row.fields)) << row.code;
+    EXPECT_EQ(Value(fields), parseJSON(row.fields)) << row.code;
     EXPECT_EQ(row.event->priority(), row.priority) << row.code;
   }
 }
@@ -114,17 +114,17 @@ TEST(OrvantaEvent, HasACodeOfItsClassWhateverIsRead) {
   EXPECT_EQ(codes.erase("read"), 1U);  // the base and the two intermediate classes
   EXPECT_EQ(codes.size(), 40U);
   EXPECT_EQ(classes, 43U);
-  EXPECT_EQ(made<OrvantaOpenAppEvent>("{}")->revenue(), 0.0);
+  EXPECT_EQ(modelFromJSON<OrvantaOpenAppEvent>("{}")->revenue(), 0.0);
 }
 
 TEST(OrvantaEvent, CarriesIdentifiersDateAndPlace) {
-  const auto event = made<OrvantaLoginEvent>(
+  const auto event = modelFromJSON<OrvantaLoginEvent>(
       R"({"ids":{"iid":"i","slt":4},"ts":1500,"fv":"41.0,29.0","uid":"u","revenue":"2.5"})");
   ASSERT_NE(event->identifiers().get(), nullptr);
   EXPECT_EQ(event->identifiers().get()->installationId().get(), "i");
   EXPECT_EQ(event->creationDate().get(), Date{1.5});
   event->setCreationDate(Date{2.25});
-  EXPECT_EQ(written(event->dictionaryValue()),
+  EXPECT_EQ(toJSON(event->dictionaryValue()),
             R"({"uid":"u","ids":{"iid":"i","slt":4},"code":"o:cl","fv":"41.0,29.0","ts":2250,)"
             R"("revenue":2.5})");
 }
@@ -156,12 +156,12 @@ TEST(OrvantaErrorEvent, DoesNotKeepWhatItReports) {
 }
 
 TEST(OrvantaWebViewActionEvent, LetsItsDataWin) {
-  const auto event =
-      made<OrvantaWebViewActionEvent>(R"({"code":"own","fv":"here","klazz":"K","x":null})");
+  const auto event = modelFromJSON<OrvantaWebViewActionEvent>(
+      R"({"code":"own","fv":"here","klazz":"K","x":null})");
   EXPECT_EQ(event->locationString().get(), "here");
   EXPECT_EQ(event->eventKey().get(), "o:rpa");
   EXPECT_EQ(Value(event->dictionaryValueWithClassInfo()),
-            parsed(R"({"code":"own","fv":"here","revenue":0.0,"klazz":"K","x":null})"));
+            parseJSON(R"({"code":"own","fv":"here","revenue":0.0,"klazz":"K","x":null})"));
 }
 
 TEST(OrvantaCrashEvent, KeepsItsInfoToItself) {

@@ -36,11 +36,11 @@ TEST(OrvantaIdentifiers, DropsWhatTheOtherHasTheSameOf) {
       {R"({"slt":1})", R"({"slt":"1"})", R"({"slt":1})"},
   };
   for (const auto& row : rows) {
-    const auto own = made<OrvantaIdentifiers>(row.own);
-    const auto named = made<OrvantaIdentifiers>(row.own);
-    const auto other = row.other.empty() ? nullptr : made<OrvantaIdentifiers>(row.other);
+    const auto own = modelFromJSON<OrvantaIdentifiers>(row.own);
+    const auto named = modelFromJSON<OrvantaIdentifiers>(row.own);
+    const auto other = row.other.empty() ? nullptr : modelFromJSON<OrvantaIdentifiers>(row.other);
     own->removePropertiesSameWithIdentifiers(other.get());
-    EXPECT_EQ(Value(own->dictionaryValue()), parsed(row.left)) << row.own;
+    EXPECT_EQ(Value(own->dictionaryValue()), parseJSON(row.left)) << row.own;
     for (const Property& property : named->isa().properties) {
       named->removePropertiesWithKeys({&property.name, 1}, other.get());
     }
@@ -49,18 +49,20 @@ TEST(OrvantaIdentifiers, DropsWhatTheOtherHasTheSameOf) {
 }
 
 TEST(OrvantaIdentifiers, ComparesTheElevenInASubclassToo) {
-  const auto own = made<ShopIdentifiers>(R"({"shop":"s","iid":"i"})");
-  own->removePropertiesSameWithIdentifiers(made<OrvantaIdentifiers>(R"({"iid":"i"})").get());
-  EXPECT_EQ(written(own->dictionaryValue()), R"({"shop":"s"})");
+  const auto own = modelFromJSON<ShopIdentifiers>(R"({"shop":"s","iid":"i"})");
+  own->removePropertiesSameWithIdentifiers(
+      modelFromJSON<OrvantaIdentifiers>(R"({"iid":"i"})").get());
+  EXPECT_EQ(toJSON(own->dictionaryValue()), R"({"shop":"s"})");
 }
 
 TEST(OrvantaIdentifiers, DropsTheNamedPropertiesOnly) {
-  const auto own = made<OrvantaIdentifiers>(R"({"iid":"i","did":"d"})");
+  const auto own = modelFromJSON<OrvantaIdentifiers>(R"({"iid":"i","did":"d"})");
   const std::string_view names[] = {"deviceId"};
   own->removePropertiesWithKeys(names, own.get());
-  EXPECT_EQ(written(own->dictionaryValue()), R"({"iid":"i"})");
+  EXPECT_EQ(toJSON(own->dictionaryValue()), R"({"iid":"i"})");
   const std::string_view unknown[] = {"iid"};
-  EXPECT_NE(thrown([&] { own->removePropertiesWithKeys(unknown, own.get()); }), "nothing thrown");
+  EXPECT_NE(exceptionFrom([&] { own->removePropertiesWithKeys(unknown, own.get()); }),
+            "nothing thrown");
 }
 
 struct StillClock final : Clock {

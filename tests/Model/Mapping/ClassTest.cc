@@ -15,16 +15,16 @@ TEST(ClassTables, AnObjectsOwnKeyTableServesBothDirections) {
   const auto model = make<LeafModel>();
   const auto other = make<LeafModel>();
   model->setValueForKey(Dictionary({{"other.name", "name"}}), "keyPathPropertyDictionary");
-  EXPECT_TRUE(update(*model, R"({"other": {"name": "a"}, "name": "b", "size": 3})"));
+  EXPECT_TRUE(updateFromJSON(*model, R"({"other": {"name": "a"}, "name": "b", "size": 3})"));
   EXPECT_EQ(model->name().get(), "a");
   EXPECT_EQ(model->size(), 0);
-  EXPECT_EQ(written(model->dictionaryValue()), R"({"other.name":"a"})");
-  EXPECT_TRUE(update(*other, R"({"name": "b"})"));  // the class keeps its table
+  EXPECT_EQ(toJSON(model->dictionaryValue()), R"({"other.name":"a"})");
+  EXPECT_TRUE(updateFromJSON(*other, R"({"name": "b"})"));  // the class keeps its table
   EXPECT_EQ(other->name().get(), "b");
 
   model->setValueForKey("no table", "keyPathPropertyDictionary");  // counts as not set
   EXPECT_EQ(model->keyPathPropertyDictionary(), LeafModel::classObject().mergedKeyTable());
-  EXPECT_TRUE(update(*model, R"({"name": "c"})"));
+  EXPECT_TRUE(updateFromJSON(*model, R"({"name": "c"})"));
   EXPECT_EQ(model->name().get(), "c");
 }
 
@@ -34,13 +34,13 @@ TEST(ClassTables, AnObjectsOwnClassTableDecidesWhatIsMade) {
   const Dictionary table{{"free", leafClass()}, {"list", "not a class"}, {"leaf", noModel}};
   model->setValueForKey(table, "keyPathClassDictionary");
   EXPECT_EQ(model->valueForKey("keyPathClassDictionary"), Value(table));
-  EXPECT_TRUE(update(*model, R"({"free": {"name": "a"}, "leaf": {}, "list": [{}]})"));
+  EXPECT_TRUE(updateFromJSON(*model, R"({"free": {"name": "a"}, "leaf": {}, "list": [{}]})"));
   EXPECT_NE(model->free().value().as<LeafModel>(), nullptr);
   EXPECT_NE(model->leaf().value().dictionary(), nullptr);
   EXPECT_EQ(model->list().value(), Value(Array({Dictionary()})));
 
   model->setValueForKey(Value(), "keyPathClassDictionary");
-  EXPECT_TRUE(update(*model, R"({"free": {}, "leaf": {}})"));
+  EXPECT_TRUE(updateFromJSON(*model, R"({"free": {}, "leaf": {}})"));
   EXPECT_NE(model->free().value().dictionary(), nullptr);
   EXPECT_NE(model->leaf().get(), nullptr);
 }
@@ -50,8 +50,8 @@ TEST(ClassTables, AnObjectsOwnClassTableDecidesWhatIsMade) {
 TEST(ClassProperties, ThreadsCanUseAClassFirstAtTheSameTime) {
   std::atomic<const Dictionary*> first{nullptr};
   runTogether([&] {
-    const auto model = made<UntouchedModel>(R"({"link": "a/b", "name": "n"})");
-    EXPECT_EQ(written(model->dictionaryValue()), R"({"link":"a\/b","name":"n","size":0})");
+    const auto model = modelFromJSON<UntouchedModel>(R"({"link": "a/b", "name": "n"})");
+    EXPECT_EQ(toJSON(model->dictionaryValue()), R"({"link":"a\/b","name":"n","size":0})");
     const Dictionary* cache = &model->propertyTypeEncodingCache();
     const Dictionary* expected = nullptr;
     if (!first.compare_exchange_strong(expected, cache)) {
@@ -79,19 +79,19 @@ TEST(KeyValueCoding, ReadsAndWritesByNameWhateverTheAccess) {
 TEST(KeyValueCoding, ThrowsForUnknownKeysAndScalarsWithoutReading) {
   const auto model = make<ScalarModel>();
   const std::string complaint = "this class is not key value coding-compliant for the key x.";
-  EXPECT_EQ(thrown([&] { model->valueForKey("x"); }),
+  EXPECT_EQ(exceptionFrom([&] { model->valueForKey("x"); }),
             "NSUnknownKeyException: [<ScalarModel> valueForUndefinedKey:]: " + complaint);
-  EXPECT_EQ(thrown([&] { model->setValueForKey(1, "x"); }),
+  EXPECT_EQ(exceptionFrom([&] { model->setValueForKey(1, "x"); }),
             "NSUnknownKeyException: [<ScalarModel> setValue:forUndefinedKey:]: " + complaint);
   for (const auto& value : {Value(), Value::null(), Value(Array()), Value(Date{1})}) {
     for (const Property& property : ScalarModel::classObject().properties) {
-      EXPECT_TRUE(thrown([&] {
+      EXPECT_TRUE(exceptionFrom([&] {
                     model->setValueForKey(value, property.name);
                   }).starts_with("NSInvalidArgumentException: "))
           << property.name << describe(value);
     }
   }
-  EXPECT_EQ(thrown([] { make<ComputedModel>()->setValueForKey(1, "twice"); }),
+  EXPECT_EQ(exceptionFrom([] { make<ComputedModel>()->setValueForKey(1, "twice"); }),
             "NSUnknownKeyException: [<ComputedModel> setValue:forUndefinedKey:]: this class is not "
             "key value coding-compliant for the key twice.");
 }
@@ -127,7 +127,7 @@ TEST(Validation, ConvertsByTheTypeCodeAndNeverExplains) {
     }
   }
   Value null = Value::null();
-  EXPECT_EQ(thrown([&] { scalars->validateValue(null, "flag"); }),
+  EXPECT_EQ(exceptionFrom([&] { scalars->validateValue(null, "flag"); }),
             "NSInvalidArgumentException: -[NSNull boolValue]: "
             "unrecognized selector sent to instance");
 }

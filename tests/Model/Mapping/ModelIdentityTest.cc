@@ -11,14 +11,14 @@ namespace orvanta::testing {
 namespace {
 
 TEST(ModelIdentity, EqualDictionariesMakeEqualModels) {
-  const Value leaf = made<LeafModel>(R"({"name": "a", "size": 1})");
+  const Value leaf = modelFromJSON<LeafModel>(R"({"name": "a", "size": 1})");
   const struct {
     Value other;
     bool isEqual;
   } rows[] = {
       {leaf, true},
-      {made<LeafModel>(R"({"size": 1.0, "name": "a"})"), true},
-      {made<LeafModel>(R"({"name": "a", "size": 2})"), false},
+      {modelFromJSON<LeafModel>(R"({"size": 1.0, "name": "a"})"), true},
+      {modelFromJSON<LeafModel>(R"({"name": "a", "size": 2})"), false},
       {Dictionary({{"name", "a"}, {"size", 1}}), false},
       {Value::null(), false},
   };
@@ -32,7 +32,7 @@ TEST(ModelIdentity, EqualDictionariesMakeEqualModels) {
 }
 
 TEST(ModelIdentity, ACopyIsReadFromTheDictionary) {
-  const auto original = made<NestingModel>(R"({"leaf": {"name": "a"}, "list": [1]})");
+  const auto original = modelFromJSON<NestingModel>(R"({"leaf": {"name": "a"}, "list": [1]})");
   const auto copy = original->copyWithZone();
   ASSERT_TRUE(copy);
   EXPECT_EQ(&copy->isa(), &NestingModel::classObject());
@@ -43,20 +43,21 @@ TEST(ModelIdentity, ACopyIsReadFromTheDictionary) {
 }
 
 TEST(ModelIdentity, ACopyLosesDottedKeysAndUnmappedProperties) {
-  const auto original = made<DottedModel>(R"({"aps": {"sound": "s", "badge": 3}, "title": "t"})");
+  const auto original =
+      modelFromJSON<DottedModel>(R"({"aps": {"sound": "s", "badge": 3}, "title": "t"})");
   const Value copy = original->copyWithZone();
   const auto* dotted = copy.as<DottedModel>();
   EXPECT_FALSE(dotted->sound());
   EXPECT_EQ(dotted->badge(), 0);
   EXPECT_EQ(dotted->title().get(), "t");
 
-  const Value defaults = made<DefaultsModel>(R"({"unit": "box"})")->copyWithZone();
+  const Value defaults = modelFromJSON<DefaultsModel>(R"({"unit": "box"})")->copyWithZone();
   EXPECT_EQ(defaults.as<DefaultsModel>()->count(), kUnsetInteger);
   EXPECT_EQ(defaults.as<DefaultsModel>()->unit().get(), "box");
 }
 
 TEST(ModelIdentity, DescribesItselfForDebuggingEntryByEntry) {
-  const auto model = made<LeafModel>(R"({"name": "a b", "size": 1})");
+  const auto model = modelFromJSON<LeafModel>(R"({"name": "a b", "size": 1})");
   const AttributedString text = model->attributedDebugDescription();
   const std::vector<AttributedString::Run> runs = {
       {"\nLeafModel\n", TextStyle::headline, 1},
@@ -76,7 +77,7 @@ TEST(KeyValueStoreObject, HoldsAValueAndTheTimeOfItsMaking) {
   const auto holder = OrvantaKeyValueStoreObject::objectWithValue(Array({1}));
   EXPECT_EQ(holder->creationDate().get(), Date{1500000000.123456789});
   EXPECT_EQ(holder->value().value(), Value(Array({1})));
-  EXPECT_EQ(written(holder->dictionaryValue()), R"({"date":1500000000123,"value":[1]})");
+  EXPECT_EQ(toJSON(holder->dictionaryValue()), R"({"date":1500000000123,"value":[1]})");
   EXPECT_EQ(Value(holder->copyWithZone()), Value(holder));
 }
 
@@ -84,10 +85,10 @@ TEST(KeyValueStoreObject, WithoutADateIsOf1970) {
   RecordingPlatform platform;
   platform.now = 5'000'000'000;
   EXPECT_EQ(make<OrvantaKeyValueStoreObject>()->creationDate().get(), Date{0});
-  const auto holder = made<OrvantaKeyValueStoreObject>(R"({"value": "v"})");
+  const auto holder = modelFromJSON<OrvantaKeyValueStoreObject>(R"({"value": "v"})");
   EXPECT_EQ(holder->creationDate().get(), Date{0});
-  EXPECT_TRUE(update(*holder, R"({"date": 2000})"));
-  EXPECT_TRUE(update(*holder, "{}"));
+  EXPECT_TRUE(updateFromJSON(*holder, R"({"date": 2000})"));
+  EXPECT_TRUE(updateFromJSON(*holder, "{}"));
   EXPECT_EQ(holder->creationDate().get(), Date{2});
   EXPECT_EQ(holder->value().value(), Value("v"));
 }

@@ -47,8 +47,8 @@ TEST(ModelRegistry, EveryKeyIsReadAndWritten) {
         dictionary.set(row.key(), sample);
       } else {
         const std::string_view parent = row.key().substr(0, dot);
-        const Dictionary* held = dictionary[parent].dictionary();
-        Dictionary nested = held != nullptr ? *held : Dictionary();
+        const Dictionary* siblings = dictionary[parent].dictionary();
+        Dictionary nested = siblings != nullptr ? *siblings : Dictionary();
         nested.set(row.key().substr(dot + 1), sample);
         dictionary.set(parent, nested);
       }
@@ -80,8 +80,8 @@ TEST(ModelRegistry, EveryTypeCodeIsWellFormed) {
   }
 }
 
-/// What a pattern's group finds in a text.
-std::set<std::string> found(const std::string& text, const std::regex& pattern) {
+/// The matches of a pattern's group in a string.
+std::set<std::string> matches(const std::string& text, const std::regex& pattern) {
   std::set<std::string> names;
   for (auto at = std::sregex_iterator(text.begin(), text.end(), pattern);
        at != std::sregex_iterator(); ++at) {
@@ -90,7 +90,7 @@ std::set<std::string> found(const std::string& text, const std::regex& pattern) 
   return names;
 }
 
-std::string textOf(const std::filesystem::path& file) {
+std::string contentsOf(const std::filesystem::path& file) {
   std::stringstream text;
   text << std::ifstream(file).rdbuf();
   return text.str();
@@ -103,10 +103,11 @@ TEST(ModelRegistry, ListsExactlyTheClassesThatHeadersDeclare) {
       "(?:^|\n)  ORVANTA_(?:MODEL|(?:ABSTRACT_)?EVENT|(?:UNRANKED_)?REQUEST)\\((Orvanta\\w+)");
   std::set<std::string> declared = {"OrvantaBaseModel"};  // the root opens its body by hand
   for (const auto& file : std::filesystem::recursive_directory_iterator(models)) {
-    if (file.path().extension() == ".h") declared.merge(found(textOf(file.path()), declaration));
+    if (file.path().extension() == ".h")
+      declared.merge(matches(contentsOf(file.path()), declaration));
   }
   const std::regex listing("(?:^|\n)ORVANTA_MODEL_CLASS\\((\\w+)\\)");
-  EXPECT_EQ(found(textOf(models / "Mapping/ModelClasses.def"), listing), declared);
+  EXPECT_EQ(matches(contentsOf(models / "Mapping/ModelClasses.def"), listing), declared);
 
   std::set<std::string> registered;
   for (const Class* cls : modelClasses()) registered.emplace(cls->name);

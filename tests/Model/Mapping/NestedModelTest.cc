@@ -17,7 +17,7 @@ TEST(NestedModel, DeclaredClassBeatsKlazzAndKlazzBeatsNothing) {
   const struct {
     std::string_view json;
     std::string_view property;
-    std::string_view made;
+    std::string_view className;
   } rows[] = {
       {R"({"leaf": {"klazz": "OrvantaPushStyle"}})", "leaf", "LeafModel"},
       {R"({"free": {"klazz": "OrvantaPushStyle"}})", "free", "OrvantaPushStyle"},
@@ -31,14 +31,14 @@ TEST(NestedModel, DeclaredClassBeatsKlazzAndKlazzBeatsNothing) {
       {R"({"leaves": {}})", "leaves", "LeafModel"},
   };
   for (const auto& row : rows) {
-    const auto model = made<NestingModel>(row.json);
+    const auto model = modelFromJSON<NestingModel>(row.json);
     ASSERT_TRUE(model) << row.json;
-    EXPECT_EQ(classOrKind(model->valueForKey(row.property)), row.made) << row.json;
+    EXPECT_EQ(classOrKind(model->valueForKey(row.property)), row.className) << row.json;
   }
 }
 
 TEST(NestedModel, ArraysKeepOrderAndCountAndAreConvertedAtEveryDepth) {
-  const auto model = made<NestingModel>(
+  const auto model = modelFromJSON<NestingModel>(
       R"({"leaves": [{"name": "a"}, 5, [{"name": "b"}, [{"name": "c"}], null], {"name": "d"}],
           "list": [{"klazz": "OrvantaPushStyle"}, {"x": 1}, [{"klazz": "OrvantaPushStyle"}]]})");
   ASSERT_TRUE(model);
@@ -53,26 +53,27 @@ TEST(NestedModel, ArraysKeepOrderAndCountAndAreConvertedAtEveryDepth) {
   EXPECT_TRUE(inner[2].isNull());
   EXPECT_EQ(name(leaves[3]), "d");
 
-  const auto nested = made<NestingModel>(R"({"leaves": [[{"name": "only arrays here"}]]})");
+  const auto nested =
+      modelFromJSON<NestingModel>(R"({"leaves": [[{"name": "only arrays here"}]]})");
   EXPECT_EQ(classOrKind((*(*nested->leaves().get())[0].array())[0]), "LeafModel");
 
   const Array& list = *model->list().get();
   EXPECT_EQ(classOrKind(list[0]), "OrvantaPushStyle");
   EXPECT_EQ(classOrKind(list[1]), "a dictionary");
   EXPECT_EQ(classOrKind((*list[2].array())[0]), "OrvantaPushStyle");
-  const Dictionary plain = dictionaryOf(R"({"list": [{"x": 1}, [2]]})");  // then it is shared
+  const Dictionary plain = dictionaryFromJSON(R"({"list": [{"x": 1}, [2]]})");  // then it is shared
   EXPECT_EQ(make<NestingModel>(plain)->list().get()->begin(), plain["list"].array()->begin());
 }
 
 TEST(NestedModel, OneThatRefusesItsDictionaryBecomesNil) {
-  const auto model = made<NestingModel>(R"({"leaf": {"name": "old"}, "deeper": {}})");
+  const auto model = modelFromJSON<NestingModel>(R"({"leaf": {"name": "old"}, "deeper": {}})");
   RecordingPlatform platform;
-  EXPECT_TRUE(update(*model, R"({"leaf": {"size": null}, "list": [1]})"));
+  EXPECT_TRUE(updateFromJSON(*model, R"({"leaf": {"size": null}, "list": [1]})"));
   EXPECT_FALSE(model->leaf());
   EXPECT_EQ(platform.log.size(), 1U);  // the leaf's own
   EXPECT_TRUE(model->list());
 
-  EXPECT_TRUE(update(*model, R"({"deeper": {"leaves": [{"size": null}]}})"));
+  EXPECT_TRUE(updateFromJSON(*model, R"({"deeper": {"leaves": [{"size": null}]}})"));
   EXPECT_FALSE(model->deeper());
 }
 
@@ -80,7 +81,8 @@ TEST(NestedModel, AnElementThatRefusesEndsTheUpdate) {
   RecordingPlatform platform;
   const auto model = make<NestingModel>();
   ASSERT_TRUE(model);
-  EXPECT_FALSE(update(*model, R"({"leaves": [{}, {"size": null}], "free": 1, "leaf": {}})"));
+  EXPECT_FALSE(
+      updateFromJSON(*model, R"({"leaves": [{}, {"size": null}], "free": 1, "leaf": {}})"));
   EXPECT_TRUE(model->leaf());
   EXPECT_FALSE(model->leaves());
   EXPECT_FALSE(model->free());
@@ -96,13 +98,13 @@ TEST(NestedModel, NestingHasALimitAndThenOnlyTheInnermostModelsAreMissing) {
   for (const std::size_t models : {kMost, kMost + 1}) {
     RecordingPlatform platform;
     const auto outermost =
-        made<NestingModel>(nested(models - 1, R"({"deeper": )", "}", R"({"free": 1})"));
+        modelFromJSON<NestingModel>(nested(models - 1, R"({"deeper": )", "}", R"({"free": 1})"));
     ASSERT_TRUE(outermost);
-    std::size_t found = 1;
-    for (const NestingModel* at = outermost.get(); at->deeper().get() != nullptr; ++found) {
+    std::size_t count = 1;
+    for (const NestingModel* at = outermost.get(); at->deeper().get() != nullptr; ++count) {
       at = at->deeper().get();
     }
-    EXPECT_EQ(found, kMost);
+    EXPECT_EQ(count, kMost);
     EXPECT_EQ(platform.log.size(), models - kMost);
   }
 }
@@ -121,7 +123,7 @@ TEST(NestedModel, TheNumberOfModelsInOneDictionaryHasALimit) {
                                "too many models in one dictionary"
                              : "taken");
     EXPECT_EQ(platform.log.size(), models > kMost ? 2U : 0U);
-    EXPECT_TRUE(made<NestingModel>(R"({"leaves": [{}]})"));  // each update counts anew
+    EXPECT_TRUE(modelFromJSON<NestingModel>(R"({"leaves": [{}]})"));  // each update counts anew
   }
 }
 
@@ -138,7 +140,7 @@ TEST(NestedModel, PushesInsideActionsMultiplied) {
           R"({"klazz":"OrvantaPushObject","_ov":{"act":{"klazz":"OrvantaPushObjectAction","uri":)" +
           text + "}}}";
     }
-    made<OrvantaPushObject>(text);
+    modelFromJSON<OrvantaPushObject>(text);
     EXPECT_LT(platform.log.size(), 3 * OrvantaBaseModel::kMostNamedModels) << elements;
   }
 }
@@ -147,10 +149,10 @@ TEST(NestedModel, AnUndefinedKeyFromAnInitialiserRefusesTheOwnerSilently) {
   RecordingPlatform platform;
   const auto holder = make<PushHolderModel>();
   ASSERT_TRUE(holder);
-  EXPECT_FALSE(update(*holder, R"({"push": {"aps": 1}, "after": "x"})"));
+  EXPECT_FALSE(updateFromJSON(*holder, R"({"push": {"aps": 1}, "after": "x"})"));
   EXPECT_FALSE(holder->after());
   EXPECT_TRUE(platform.log.empty());
-  EXPECT_TRUE(update(*holder, R"({"push": {"_ov": {"mu": 5}}, "after": "x"})"));
+  EXPECT_TRUE(updateFromJSON(*holder, R"({"push": {"_ov": {"mu": 5}}, "after": "x"})"));
   EXPECT_FALSE(holder->push());
 }
 

@@ -32,14 +32,14 @@ TEST(OrvantaLogger, WritesErrorLinesFromOneAndDebugLinesFromTwo) {
 TEST(OrvantaLogger, MakesNoMessageThatIsNotWritten) {
   const LogLevel scope(0);
   RecordingPlatform platform;
-  int made = 0;
-  const auto message = [&made] { return std::to_string(++made); };
+  int messages = 0;
+  const auto message = [&messages] { return std::to_string(++messages); };
   logError(kSite, message);
   OrvantaLogger::setLogLevel(1);
   logDebug(kSite, message);
-  EXPECT_EQ(made, 0);
+  EXPECT_EQ(messages, 0);
   logError(kSite, message);
-  EXPECT_EQ(made, 1);
+  EXPECT_EQ(messages, 1);
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ std::string refusalOf(std::string_view json) {
   const LogLevel silent(0);
   std::string end;
   try {
-    if (made<M>(json)) end = "taken";
+    if (modelFromJSON<M>(json)) end = "taken";
   } catch (const Exception&) {
     end = " [thrown]";
   }
@@ -35,7 +35,7 @@ TEST(RefusalRecorder, TellsThePropertyThatIsMissing) {
   const RefusalRecorder recorder;
   const auto model = make<LeafModel>();
   model->setKeyPathPropertyDictionary({{"x", "missing"}});
-  EXPECT_FALSE(update(*model, R"({"x": {}})"));
+  EXPECT_FALSE(updateFromJSON(*model, R"({"x": {}})"));
   ASSERT_TRUE(recorder.refusal());
   EXPECT_EQ(recorder.refusal()->description(),
             "LeafModel \"x\" (missing): a dictionary, "
@@ -59,13 +59,13 @@ TEST(RefusalRecorder, OnceResetTellsAboutTheNextUpdate) {
   RefusalRecorder recorder;
   const auto model = make<ScalarModel>();
   ASSERT_TRUE(model);
-  EXPECT_FALSE(update(*model, R"({"i": null})"));
+  EXPECT_FALSE(updateFromJSON(*model, R"({"i": null})"));
   recorder.reset();
-  EXPECT_FALSE(update(*model, R"({"q": []})"));
+  EXPECT_FALSE(updateFromJSON(*model, R"({"q": []})"));
   ASSERT_TRUE(recorder.refusal());
   EXPECT_EQ(recorder.refusal()->kind, "an array");
   recorder.reset();
-  EXPECT_TRUE(update(*model, R"({"q": 1})"));
+  EXPECT_TRUE(updateFromJSON(*model, R"({"q": 1})"));
   EXPECT_FALSE(recorder.refusal());
 }
 
@@ -74,13 +74,13 @@ TEST(RefusalRecorder, TheInnermostRecorderOfTheThreadIsTold) {
   RefusalRecorder outer;
   {
     const RefusalRecorder inner;
-    EXPECT_FALSE(made<LeafModel>(R"({"size": null})"));
+    EXPECT_FALSE(modelFromJSON<LeafModel>(R"({"size": null})"));
     EXPECT_TRUE(inner.refusal());
   }
   EXPECT_FALSE(outer.refusal());
-  std::thread([] { EXPECT_FALSE(made<LeafModel>(R"({"size": null})")); }).join();
+  std::thread([] { EXPECT_FALSE(modelFromJSON<LeafModel>(R"({"size": null})")); }).join();
   EXPECT_FALSE(outer.refusal());
-  EXPECT_FALSE(made<LeafModel>(R"({"size": null})"));
+  EXPECT_FALSE(modelFromJSON<LeafModel>(R"({"size": null})"));
   EXPECT_TRUE(outer.refusal());
   outer.reset();
   EXPECT_FALSE(outer.refusal());

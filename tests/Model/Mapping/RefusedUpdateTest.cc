@@ -12,7 +12,7 @@ namespace {
 
 TEST(RefusedUpdate, IsLoggedWithDictionaryClassAndReason) {
   RecordingPlatform platform;
-  EXPECT_FALSE(made<LeafModel>(R"({"size": null, "name": "a b"})"));
+  EXPECT_FALSE(modelFromJSON<LeafModel>(R"({"size": null, "name": "a b"})"));
   ASSERT_EQ(platform.log.size(), 1U);
   EXPECT_EQ(platform.log.front(),
             "\n\n❗ -[OrvantaBaseModel updateWithDictionary:] (OrvantaBaseModel:81) ❗\n"
@@ -83,7 +83,7 @@ TEST(RefusedUpdate, AHugeDictionaryIsLoggedInPart) {
 TEST(RefusedUpdate, NeedsNoSystemLog) {
   Platform none;
   const PlatformOverride scope(none);
-  EXPECT_FALSE(made<LeafModel>(R"({"size": null})"));
+  EXPECT_FALSE(modelFromJSON<LeafModel>(R"({"size": null})"));
 }
 
 }  // namespace

@@ -19,21 +19,22 @@ std::vector<std::string> keysOf(const Dictionary& dictionary) {
 using Keys = std::vector<std::string>;
 
 TEST(Writing, ScalarsKeepTheirKind) {
-  const auto model = made<ScalarModel>(R"({"B": 2, "i": -3, "q": -4, "d": 0.5, "f": 0.5})");
+  const auto model =
+      modelFromJSON<ScalarModel>(R"({"B": 2, "i": -3, "q": -4, "d": 0.5, "f": 0.5})");
   model->setNatural(std::numeric_limits<std::uint64_t>::max());
-  EXPECT_EQ(written(model->dictionaryValue()),
+  EXPECT_EQ(toJSON(model->dictionaryValue()),
             R"({"B":true,"i":-3,"q":-4,"Q":18446744073709551615,"f":0.5,"d":0.5})");
   EXPECT_EQ(model->dictionaryValue()["B"].kind(), Kind::boolean);
   EXPECT_EQ(model->dictionaryValue()["f"].kind(), Kind::real32);
-  EXPECT_EQ(written(make<ScalarModel>()->dictionaryValue()),
+  EXPECT_EQ(toJSON(make<ScalarModel>()->dictionaryValue()),
             R"({"B":false,"i":0,"q":0,"Q":0,"f":0,"d":0})");
 }
 
 TEST(Writing, ConvertsBackWhatReadingConverted) {
   const char* text = R"({"text":"t","url":"https:\/\/e.com\/a","date":1500,"any":null})";
-  const auto model = made<ObjectModel>(text);
+  const auto model = modelFromJSON<ObjectModel>(text);
   EXPECT_EQ(model->date().get(), Date{1.5});
-  EXPECT_EQ(written(model->dictionaryValue()), text);
+  EXPECT_EQ(toJSON(model->dictionaryValue()), text);
 }
 
 TEST(Writing, LeavesOutNilAndWhatAConverterRefuses) {
@@ -76,16 +77,16 @@ TEST(Writing, LeavesOutTheUnsetIntegerOfAnyKindButNoOtherNumber) {
 }
 
 TEST(Writing, NamesTheClassOfEveryModelWhenAsked) {
-  const auto model = made<NestingModel>(
+  const auto model = modelFromJSON<NestingModel>(
       R"({"leaf": {"name": "a"}, "leaves": [[{}]], "free": {"klazz": "OrvantaPushStyle"},
           "list": [{"x": 1}], "deeper": {"leaf": {}}})");
-  EXPECT_EQ(written(model->dictionaryValueWithClassInfo()),
+  EXPECT_EQ(toJSON(model->dictionaryValueWithClassInfo()),
             R"({"leaf":{"name":"a","size":0,"klazz":"LeafModel"},)"
             R"("leaves":[[{"size":0,"klazz":"LeafModel"}]],)"
             R"("free":{"klazz":"OrvantaPushStyle"},"list":[{"x":1}],)"
             R"("deeper":{"leaf":{"size":0,"klazz":"LeafModel"},"klazz":"NestingModel"},)"
             R"("klazz":"NestingModel"})");
-  EXPECT_EQ(written(model->dictionaryValue()),
+  EXPECT_EQ(toJSON(model->dictionaryValue()),
             R"({"leaf":{"name":"a","size":0},"leaves":[[{"size":0}]],"free":{},)"
             R"("list":[{"x":1}],"deeper":{"leaf":{"size":0}}})");
 }
@@ -113,15 +114,15 @@ TEST(Writing, AGetterThatThrowsIsLeftOut) {
   const auto model = make<FaultyGetterModel>();
   model->setFirst("a");
   model->setLast("b");
-  EXPECT_EQ(written(model->dictionaryValue()), R"({"first":"a","last":"b"})");
+  EXPECT_EQ(toJSON(model->dictionaryValue()), R"({"first":"a","last":"b"})");
   EXPECT_TRUE(platform.log.empty());
 }
 
 TEST(Writing, APropertyPathIsReadThroughNestedObjects) {
-  const auto model = made<NestingModel>(R"({"leaf": {"name": "inner"}, "free": 5})");
+  const auto model = modelFromJSON<NestingModel>(R"({"leaf": {"name": "inner"}, "free": 5})");
   model->setKeyPathPropertyDictionary(
       {{"n", "leaf.name"}, {"x", "leaf.missing"}, {"y", "free.z"}, {"nil", "deeper.leaf"}});
-  EXPECT_EQ(written(model->dictionaryValue()), R"({"n":"inner"})");
+  EXPECT_EQ(toJSON(model->dictionaryValue()), R"({"n":"inner"})");
 }
 
 TEST(Writing, ThreadsTakeTurnsAtOneObject) {

@@ -11,7 +11,7 @@ namespace {
 constexpr auto kNoBadge = static_cast<std::uint64_t>(kUnsetInteger);
 
 TEST(OrvantaPushObject, ReadsAPayload) {
-  const auto push = made<OrvantaPushObject>(R"({
+  const auto push = modelFromJSON<OrvantaPushObject>(R"({
     "aps": {"alert": {"title": "t", "subtitle": "s", "body": "b"}, "badge": 18,
             "mutable-content": 1},
     "_ov": {"mu": "https://example.com/a.jpg?w=1&q=80", "prms": {"vip": true, "none": null},
@@ -26,13 +26,13 @@ TEST(OrvantaPushObject, ReadsAPayload) {
   EXPECT_EQ(push->badge(), 18U);
   EXPECT_EQ(push->mediaAttachmentURL().get()->absoluteString(),
             "https://example.com/a.jpg?w=1&q=80");
-  EXPECT_EQ(push->customDictionary().value(), parsed(R"({"vip": true, "none": null})"));
+  EXPECT_EQ(push->customDictionary().value(), parseJSON(R"({"vip": true, "none": null})"));
   EXPECT_EQ(push->inAppMessage().get()->timeToLive(), 30.0);
-  EXPECT_EQ(push->defaultActionDictionary().value(), parsed(R"({"uri": "shop://sale"})"));
+  EXPECT_EQ(push->defaultActionDictionary().value(), parseJSON(R"({"uri": "shop://sale"})"));
   EXPECT_EQ(push->actionDictionary().value(), push->defaultActionDictionary().value());
   EXPECT_EQ(push->action().get()->deeplinkURLString().get(), "shop://sale");
   EXPECT_EQ(push->action().get()->deeplinkURL().get()->absoluteString(), "shop:%2F%2Fsale");
-  EXPECT_EQ(push->carousel().value(), parsed(R"([{"id": "1"}])"));
+  EXPECT_EQ(push->carousel().value(), parseJSON(R"([{"id": "1"}])"));
   const auto* button = (*push->interactiveActions().get())[0].as<OrvantaUserNotificationAction>();
   ASSERT_NE(button, nullptr);
   EXPECT_EQ(button->title().get(), "Buy");
@@ -46,10 +46,10 @@ TEST(OrvantaPushObject, ReadsAPayload) {
 TEST(OrvantaPushObject, AnEmptyPayloadGivesAnEmptyAlertAndActionAndNoBadge) {
   for (const char* json : {"{}", R"({"aps": {}, "_ov": {}})", R"({"aps": {"alert": {}}})",
                            R"({"title": "top level", "act": {"uri": "x"}, "aps.badge": 5})"}) {
-    const auto push = made<OrvantaPushObject>(json);
+    const auto push = modelFromJSON<OrvantaPushObject>(json);
     ASSERT_TRUE(push) << json;
     EXPECT_EQ(push->badge(), kNoBadge) << json;
-    EXPECT_EQ(written(push->dictionaryValue()),
+    EXPECT_EQ(toJSON(push->dictionaryValue()),
               R"({"_ov.pt":0,"_ov.st":0,"_ov.dr":false,"_ov.stl":0,"_ov.thc":false})")
         << json;
   }
@@ -73,21 +73,22 @@ TEST(OrvantaPushObject, TheAlertIsATextADictionaryOrEmpty) {
   };
   for (const auto& row : rows) {
     const auto push =
-        made<OrvantaPushObject>(R"({"aps": {"alert": )" + std::string(row.alert) + "}}");
+        modelFromJSON<OrvantaPushObject>(R"({"aps": {"alert": )" + std::string(row.alert) + "}}");
     ASSERT_TRUE(push) << row.alert;
     ASSERT_TRUE(push->alert().get()) << row.alert;
-    EXPECT_EQ(written(push->alert().get()->dictionaryValue()), row.written) << row.alert;
+    EXPECT_EQ(toJSON(push->alert().get()->dictionaryValue()), row.written) << row.alert;
   }
 }
 
 TEST(OrvantaPushObject, ThrowsWhenThePayloadsPartsAreNoDictionaries) {
   for (const char* part : {"aps", "_ov"}) {
-    for (const char* held : {"\"text\"", "5", "false", "null", "[1]", "[null]"}) {
+    for (const char* json : {"\"text\"", "5", "false", "null", "[1]", "[null]"}) {
       RecordingPlatform platform;
-      const auto payload = dictionaryOf("{\"" + std::string(part) + "\": " + held + "}");
-      EXPECT_TRUE(
-          thrown([&] { make<OrvantaPushObject>(payload); }).starts_with("NSUnknownKeyException: "))
-          << part << held;
+      const auto payload = dictionaryFromJSON("{\"" + std::string(part) + "\": " + json + "}");
+      EXPECT_TRUE(exceptionFrom([&] {
+                    make<OrvantaPushObject>(payload);
+                  }).starts_with("NSUnknownKeyException: "))
+          << part << json;
       EXPECT_TRUE(platform.log.empty());
     }
   }
@@ -97,14 +98,14 @@ TEST(OrvantaPushObject, AnArrayOfPartsIsReadElementWiseAndHasNoScalars) {
   for (const char* json : {R"({"aps": [{"alert": "text"}]})", R"({"aps": []})", R"({"_ov": []})"}) {
     RecordingPlatform platform;
     const auto push = Ref<OrvantaPushObject>::adopt(new OrvantaPushObject);
-    EXPECT_FALSE(update(*push, json)) << json;
+    EXPECT_FALSE(updateFromJSON(*push, json)) << json;
     EXPECT_TRUE(push->alert().get()->dictionaryValue().empty()) << json;
     EXPECT_EQ(platform.log.size(), 1U) << json;
   }
 }
 
 TEST(OrvantaPushObject, AnAlertsEntryNamedLikeTheClassIsNotAmongItsOwn) {
-  const auto push = made<OrvantaPushObject>(R"({"aps": {"alert": {"title": "t"}}})");
+  const auto push = modelFromJSON<OrvantaPushObject>(R"({"aps": {"alert": {"title": "t"}}})");
   push->alert().get()->setKeyPathPropertyDictionary({{"klazz", "title"}, {"x", "title"}});
   EXPECT_FALSE(push->dictionaryValue().contains("klazz"));
   EXPECT_EQ(push->dictionaryValue()["x"], Value("t"));
@@ -115,11 +116,11 @@ TEST(OrvantaPushObject, AnAlertThatRefusesSkipsTheTable) {
   const char* json = R"({"aps": {"sound": "new", "alert": {"title": [
                              {"klazz": "OrvantaUserNotificationAction", "actM": null}]}},
                          "_ov": {"act": {"uri": "a"}}})";
-  EXPECT_FALSE(made<OrvantaPushObject>(json));
-  const auto push = made<OrvantaPushObject>(
+  EXPECT_FALSE(modelFromJSON<OrvantaPushObject>(json));
+  const auto push = modelFromJSON<OrvantaPushObject>(
       R"({"aps": {"sound": "old", "badge": 1}, "_ov": {"act": {"uri": "b"}}})");
   push->setActionDictionary(nullptr);
-  EXPECT_FALSE(update(*push, json));
+  EXPECT_FALSE(updateFromJSON(*push, json));
   EXPECT_FALSE(push->alert());
   EXPECT_EQ(push->sound().get(), "old");
   EXPECT_EQ(push->badge(), kNoBadge);
@@ -128,9 +129,9 @@ TEST(OrvantaPushObject, AnAlertThatRefusesSkipsTheTable) {
 }
 
 TEST(OrvantaPushObject, AnUpdateMakesAlertActionAndBadgeAnew) {
-  const auto push = made<OrvantaPushObject>(
+  const auto push = modelFromJSON<OrvantaPushObject>(
       R"({"aps": {"alert": "old", "badge": 3, "sound": "s"}, "_ov": {"act": {"uri": "a"}}})");
-  EXPECT_TRUE(update(*push, "{}"));
+  EXPECT_TRUE(updateFromJSON(*push, "{}"));
   EXPECT_FALSE(push->alert().get()->body());
   EXPECT_FALSE(push->action().get()->deeplinkURLString());
   EXPECT_EQ(push->badge(), kNoBadge);
@@ -140,19 +141,20 @@ TEST(OrvantaPushObject, AnUpdateMakesAlertActionAndBadgeAnew) {
 
 TEST(OrvantaPushObject, AClickActionOfAnotherKindGivesAnEmptyAction) {
   for (const char* act : {R"("shop://a")", "5", "null", R"([{"uri": "a"}])"}) {
-    const auto push = made<OrvantaPushObject>(R"({"_ov": {"act": )" + std::string(act) + "}}");
+    const auto push =
+        modelFromJSON<OrvantaPushObject>(R"({"_ov": {"act": )" + std::string(act) + "}}");
     ASSERT_TRUE(push) << act;
     EXPECT_FALSE(push->action().get()->deeplinkURLString()) << act;
     EXPECT_FALSE(push->action().get()->deeplinkURL()) << act;
-    EXPECT_EQ(push->defaultActionDictionary().value(), parsed(act)) << act;
-    EXPECT_EQ(push->actionDictionary().value(), parsed(act)) << act;
+    EXPECT_EQ(push->defaultActionDictionary().value(), parseJSON(act)) << act;
+    EXPECT_EQ(push->actionDictionary().value(), parseJSON(act)) << act;
   }
 }
 
 // ---- The action in force ----
 
 Ref<OrvantaPushObject> pushWithButtons() {
-  return made<OrvantaPushObject>(
+  return modelFromJSON<OrvantaPushObject>(
       R"({"_ov": {"act": {"uri": "default"}, "ia": [
             "not a button", {"text": "no identifier", "act": {"uri": "zero"}},
             {"id": "a", "act": {"uri": "first"}}, {"id": "a", "act": {"uri": "second"}},
@@ -186,12 +188,12 @@ TEST(OrvantaPushObject, AnIdentifierSelectsTheFirstButtonThatHasIt) {
 // ---- Writing ----
 
 TEST(OrvantaPushObject, WritesTheAlertAtTheTopLevelBeforeItsOwnEntries) {
-  const auto push = made<OrvantaPushObject>(
+  const auto push = modelFromJSON<OrvantaPushObject>(
       R"({"aps": {"alert": {"title": "t", "body": "b"}, "badge": 0, "sound": "s"},
           "_ov": {"act": {"uri": "u"}, "mu": "a/b", "ets": 1700000000000.5, "pid": null}})");
   push->setIncludedInInbox(true);
   push->setInputText("typed");
-  EXPECT_EQ(written(push->dictionaryValue()),
+  EXPECT_EQ(toJSON(push->dictionaryValue()),
             R"({"title":"t","body":"b","aps.sound":"s","aps.badge":0,"_ov.pt":0,"_ov.mu":"a\/b",)"
             R"("_ov.pid":null,"_ov.st":0,"_ov.dr":false,"_ov.act":{"uri":"u"},)"
             R"("_ov.ets":1700000000000,"_ov.stl":0,"_ov.thc":false})");

@@ -38,7 +38,7 @@ TEST(OrvantaPushObjectAction, PercentEncodesTheDeepLinkAsAHost) {
 }
 
 TEST(OrvantaPushObjectAction, ForgetsTheUrlOfAnEarlierText) {
-  const auto action = made<OrvantaPushObjectAction>(R"({"uri": "a"})");
+  const auto action = modelFromJSON<OrvantaPushObjectAction>(R"({"uri": "a"})");
   action->setDeeplinkURLAsURL();
   EXPECT_TRUE(action->deeplinkURL());
   action->setDeeplinkURLString(nullptr);

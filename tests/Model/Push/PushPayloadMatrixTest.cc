@@ -12,9 +12,10 @@ namespace orvanta::testing {
 namespace {
 
 constexpr std::uint64_t kTwo63 = std::uint64_t{1} << 63U;
-const std::string kNoURL = R"("no URL")";
+const std::string kInvalidURL = R"("no URL")";
 const std::string kModel = R"({"klazz":"OrvantaReviewAction"})";
-const std::string kNoModel = R"({"klazz":"OrvantaWidgetAction","uri":5})";  // the model refuses it
+const std::string kInvalidModel =
+    R"({"klazz":"OrvantaWidgetAction","uri":5})";  // the model refuses it
 
 /// A value and its readings, where it has any.
 const struct Cell {
@@ -32,13 +33,13 @@ const struct Cell {
     {"9223372036854775807", true, 0x1p63, kTwo63 - 1, kUnsetInteger},
     {"9223372036854775808", true, 0x1p63, kTwo63, -kUnsetInteger - 1},
     {R"("12.5px")", true, 12.5, 12U},
-    {kNoURL, false, 0.0, 0U},
+    {kInvalidURL, false, 0.0, 0U},
     {R"("")", false, 0.0, 0U},
     {"[1]"},
     {R"({"x":1})"},
     {kModel},
-    {kNoModel},
-    {"[" + kNoModel + "]"},
+    {kInvalidModel},
+    {"[" + kInvalidModel + "]"},
 };
 
 /// What an object writes that was given nothing: its scalars, but for a badge.
@@ -54,7 +55,7 @@ Dictionary unread(const Class& cls) {
 
 /// What a property holds and writes, nil for nothing, unless the whole object is nil.
 struct Outcome {
-  Value held{};
+  Value value{};
   Value written{};
   std::optional<std::size_t> refusedWithLines{};
 };
@@ -62,7 +63,7 @@ const Outcome kRefused{.refusedWithLines = 0};
 const Outcome kRefusedWithLog{.refusedWithLines = 1};
 
 Outcome stored(const Value& value) {
-  return {.held = value, .written = value == Value(kUnsetInteger) ? Value() : value};
+  return {.value = value, .written = value == Value(kUnsetInteger) ? Value() : value};
 }
 Outcome read(const std::optional<Value>& reading) {
   return reading ? stored(*reading) : kRefusedWithLog;
@@ -71,28 +72,29 @@ Outcome read(const std::optional<Value>& reading) {
 Outcome outcome(const Cell& cell, std::string_view encoding, const Class* declared) {
   // A dictionary's model is of the declared class, else of the one that it names; one that refuses
   // is nil, which no array holds.
-  const Value value = parsed(cell.json);
-  const bool inArray = cell.json == "[" + kNoModel + "]";
+  const Value value = parseJSON(cell.json);
+  const bool inArray = cell.json == "[" + kInvalidModel + "]";
   if (inArray && declared == nullptr) return kRefusedWithLog;
   if (encoding == "B") return read(cell.boolean);
   if (encoding == "Q") return read(cell.natural);
   if (encoding == "d") return read(cell.real);
   if (encoding.find("NSURL") != std::string_view::npos) {
     if (!value.isString()) return kRefused;
-    return cell.json == kNoURL ? Outcome{} : Outcome{.held = *Url::parse(value), .written = value};
+    return cell.json == kInvalidURL ? Outcome{}
+                                    : Outcome{.value = *Url::parse(value), .written = value};
   }
   if (encoding.find("NSDate") != std::string_view::npos) {
     if (value.isNull()) return stored(value);
     if (!cell.milliseconds) return kRefused;
     const auto milliseconds = static_cast<double>(*cell.milliseconds);
-    return {.held = Date{milliseconds / 1000.0}, .written = *cell.milliseconds};
+    return {.value = Date{milliseconds / 1000.0}, .written = *cell.milliseconds};
   }
-  const Class* made = declared;
-  if (made == nullptr && cell.json == kModel) made = modelClassNamed("OrvantaReviewAction");
-  if (made == nullptr) return cell.json == kNoModel ? Outcome{} : stored(value);
-  const Value model = makeModel(*made, nullptr);
-  if (inArray) return {.held = Array({model}), .written = Array({unread(*made)})};
-  return value.dictionary() ? Outcome{.held = model, .written = unread(*made)} : stored(value);
+  const Class* cls = declared;
+  if (cls == nullptr && cell.json == kModel) cls = modelClassNamed("OrvantaReviewAction");
+  if (cls == nullptr) return cell.json == kInvalidModel ? Outcome{} : stored(value);
+  const Value model = makeModel(*cls, nullptr);
+  if (inArray) return {.value = Array({model}), .written = Array({unread(*cls)})};
+  return value.dictionary() ? Outcome{.value = model, .written = unread(*cls)} : stored(value);
 }
 
 TEST(PushPayloadMatrix, TypeCodeAndValueDecideOverEveryKey) {
@@ -104,20 +106,20 @@ TEST(PushPayloadMatrix, TypeCodeAndValueDecideOverEveryKey) {
     for (const auto& [key, property] : cls->keyPathPropertySelectorMapping) {
       const Class* declared = modelClassIn(cls->mergedClassTable()[property]);
       for (const Cell& cell : kCells) {
-        SCOPED_TRACE(std::string(cls->name) + " " + std::string(key) + " given " + cell.json);
+        SCOPED_TRACE(std::string(cls->name) + " " + std::string(key) + " = " + cell.json);
         const Outcome expected = outcome(cell, cls->property(property)->encoding, declared);
         const auto dot = key.find('.');
-        Dictionary payload{{key.substr(dot + 1), parsed(cell.json)}};
+        Dictionary payload{{key.substr(dot + 1), parseJSON(cell.json)}};
         if (dot != std::string_view::npos) payload = {{key.substr(0, dot), payload}};
         RecordingPlatform platform;
         const Ref<OrvantaBaseModel> model = makeModel(*cls, &payload);
         EXPECT_EQ(!model, expected.refusedWithLines.has_value());
         EXPECT_EQ(platform.log.size(), expected.refusedWithLines.value_or(0));
         if (!model) continue;
-        const Value held = model->valueForKey(property);
-        EXPECT_EQ(held, expected.held);
-        EXPECT_EQ(held.kind(), expected.held.kind());
-        EXPECT_EQ(held.className(), expected.held.className());
+        const Value actual = model->valueForKey(property);
+        EXPECT_EQ(actual, expected.value);
+        EXPECT_EQ(actual.kind(), expected.value.kind());
+        EXPECT_EQ(actual.className(), expected.value.className());
         Dictionary written = unread(*cls);
         written.set(key, expected.written);
         EXPECT_EQ(Value(model->dictionaryValue()), Value(written));
@@ -129,12 +131,12 @@ TEST(PushPayloadMatrix, TypeCodeAndValueDecideOverEveryKey) {
 TEST(PushPayloadMatrix, ThePartsAreDictionariesOrNothingIsRead) {
   for (const char* part : {"aps", "_ov"}) {
     for (const Cell& cell : kCells) {
-      SCOPED_TRACE(part + (" given " + cell.json));
+      SCOPED_TRACE(part + (" = " + cell.json));
       RecordingPlatform platform;
-      const Value value = parsed(cell.json);
+      const Value value = parseJSON(cell.json);
       const Dictionary payload{{part, value}};
       Ref<OrvantaPushObject> push;
-      const auto error = thrown([&] { push = make<OrvantaPushObject>(payload); });
+      const auto error = exceptionFrom([&] { push = make<OrvantaPushObject>(payload); });
       // The keys of an array are those of its elements; no scalar is read from their array.
       const bool isSearched = value.array() && (*value.array())[0].dictionary();
       const bool hasKeys = value.dictionary() || isSearched;
@@ -148,7 +150,7 @@ TEST(PushPayloadMatrix, ThePartsAreDictionariesOrNothingIsRead) {
 
 TEST(PushPayloadMatrix, AlertAndClickActionAreThereWhateverIsGiven) {
   for (const Cell& cell : kCells) {
-    const Value value = parsed(cell.json);
+    const Value value = parseJSON(cell.json);
     const auto push = make<OrvantaPushObject>(Dictionary{{"aps", Dictionary{{"alert", value}}}});
     ASSERT_TRUE(push && push->alert() && push->action()) << cell.json;
     EXPECT_EQ(push->alert().get()->body().value(), value.isString() ? value : Value());

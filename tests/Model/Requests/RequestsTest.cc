@@ -35,7 +35,7 @@ TEST(OrvantaBaseRequest, SetsUpOncePerObjectAndMakesASpec) {
   EXPECT_FALSE(base->requestSpec()->path);
   EXPECT_EQ(base->priority(), std::nullopt);
 
-  const auto request = made<OrvantaSetInboxStatusRequest>(R"({"st":4,"ids":{"iid":"i"}})");
+  const auto request = modelFromJSON<OrvantaSetInboxStatusRequest>(R"({"st":4,"ids":{"iid":"i"}})");
   request->setStorageId(7);
   request->editIdsContained().append(8);
   request->setQueuePriority(-4);
@@ -48,7 +48,7 @@ TEST(OrvantaBaseRequest, SetsUpOncePerObjectAndMakesASpec) {
 }
 
 TEST(Requests, AreMadeFromTheirArguments) {
-  const auto user = made<OrvantaUser>(R"({"pa":"Nora","pg":0})");
+  const auto user = modelFromJSON<OrvantaUser>(R"({"pa":"Nora","pg":0})");
   user->setEmail("nora@example.com");
   user->setMSISDN("+900");
   const auto filter = make<OrvantaInboxFilter>();
@@ -74,30 +74,31 @@ TEST(Requests, AreMadeFromTheirArguments) {
   };
   for (const auto& [request, body] : rows) {
     ASSERT_TRUE(request);
-    EXPECT_EQ(Value(request->requestSpec()->HTTPBody), parsed(body)) << body;
+    EXPECT_EQ(Value(request->requestSpec()->HTTPBody), parseJSON(body)) << body;
     EXPECT_EQ(request->priority(), 1);
   }
 }
 
 TEST(OrvantaFetchInboxRequest, ReadsItsFilterFromItsOwnDictionary) {
-  const auto request = made<OrvantaFetchInboxRequest>(R"({"ps":"30","ids":{"iid":"i"}})");
+  const auto request = modelFromJSON<OrvantaFetchInboxRequest>(R"({"ps":"30","ids":{"iid":"i"}})");
   ASSERT_NE(request->filter().get(), nullptr);
   EXPECT_EQ(request->filter().get()->pageSize(), 30);
   EXPECT_EQ(request->filter().get()->status(), 0U);  // the defaults are those of `init` alone
-  EXPECT_EQ(Value(request->dictionaryValueWithClassInfo()),
-            parsed(R"({"ids":{"iid":"i","klazz":"OrvantaIdentifiers"},"st":0,"ps":30,"ie":false,)"
-                   R"("klazz":"OrvantaFetchInboxRequest"})"));
+  EXPECT_EQ(
+      Value(request->dictionaryValueWithClassInfo()),
+      parseJSON(R"({"ids":{"iid":"i","klazz":"OrvantaIdentifiers"},"st":0,"ps":30,"ie":false,)"
+                R"("klazz":"OrvantaFetchInboxRequest"})"));
   const LogLevel quiet(0);
-  EXPECT_FALSE(made<OrvantaFetchInboxRequest>(R"({"ps":null})"));
+  EXPECT_FALSE(modelFromJSON<OrvantaFetchInboxRequest>(R"({"ps":null})"));
 }
 
 TEST(Filters, HaveDefaultsOfTheirOwn) {
-  EXPECT_EQ(written(make<OrvantaInboxFilter>()->dictionaryValue()),
+  EXPECT_EQ(toJSON(make<OrvantaInboxFilter>()->dictionaryValue()),
             R"({"st":3,"ps":2147483647,"ie":false})");
-  EXPECT_EQ(written(make<OrvantaInboxCategoryFilter>()->dictionaryValue()),
+  EXPECT_EQ(toJSON(make<OrvantaInboxCategoryFilter>()->dictionaryValue()),
             R"({"st":3,"ps":2147483647,"ie":false})");
-  EXPECT_EQ(written(make<OrvantaInboxCountFilter>()->dictionaryValue()), R"({"st":3,"ie":false})");
-  EXPECT_EQ(written(make<OrvantaCouponFilter>()->dictionaryValue()), R"({"page":0,"max":0})");
+  EXPECT_EQ(toJSON(make<OrvantaInboxCountFilter>()->dictionaryValue()), R"({"st":3,"ie":false})");
+  EXPECT_EQ(toJSON(make<OrvantaCouponFilter>()->dictionaryValue()), R"({"page":0,"max":0})");
 }
 
 // ---- Batches -----------------------------------------------------------------
@@ -147,21 +148,21 @@ TEST(OrvantaEventRequest, TakesAsManyEventsAsThereIsRoomFor) {
 
 TEST(OrvantaEventRequest, StripsWhatItsIdentifiersSayAlready) {
   const auto leader = batchOf(1);
-  leader->setIdentifiers(made<OrvantaIdentifiers>(R"({"iid":"i","sid":"1"})"));
+  leader->setIdentifiers(modelFromJSON<OrvantaIdentifiers>(R"({"iid":"i","sid":"1"})"));
   const auto other = batchOf(2);
-  const auto own = made<OrvantaIdentifiers>(R"({"iid":"i","sid":"own"})");
+  const auto own = modelFromJSON<OrvantaIdentifiers>(R"({"iid":"i","sid":"own"})");
   (*other->events().get())[0].as<OrvantaLoginEvent>()->setIdentifiers(own);
-  other->setIdentifiers(made<OrvantaIdentifiers>(R"({"iid":"i","sid":"2"})"));
+  other->setIdentifiers(modelFromJSON<OrvantaIdentifiers>(R"({"iid":"i","sid":"2"})"));
   other->editEvents().append("no event");
   bool limitReached = false;
   leader->mergeEventsFromEventRequest(*other, limitReached);
   for (int time = 0; time < 2; ++time) {
     const Dictionary body = leader->requestSpec()->HTTPBody;
-    EXPECT_EQ(body["ids"], parsed(R"({"iid":"i","sid":"1"})"));
+    EXPECT_EQ(body["ids"], parseJSON(R"({"iid":"i","sid":"1"})"));
     const Array& events = *body["events"].array();
     EXPECT_TRUE((*events[0].dictionary())["ids"].isNil());
-    EXPECT_EQ((*events[1].dictionary())["ids"], parsed(R"({"sid":"own"})"));
-    EXPECT_EQ((*events[2].dictionary())["ids"], parsed(R"({"sid":"2"})"));
+    EXPECT_EQ((*events[1].dictionary())["ids"], parseJSON(R"({"sid":"own"})"));
+    EXPECT_EQ((*events[2].dictionary())["ids"], parseJSON(R"({"sid":"2"})"));
     EXPECT_EQ(events[3], Value("no event"));
   }
 }
@@ -180,9 +181,10 @@ TEST(OrvantaEventRequest, IsRankedByItsEvents) {
         make<OrvantaEventRequest>(&OrvantaEventRequest::initWithEventArray, events)->priority(),
         priority);
   }
-  EXPECT_EQ(made<OrvantaEventRequest>("{}")->priority(), 0);
-  EXPECT_EQ(
-      made<OrvantaEventRequest>(R"({"events":[{"klazz":"OrvantaGeofenceEvent"}]})")->priority(), 1);
+  EXPECT_EQ(modelFromJSON<OrvantaEventRequest>("{}")->priority(), 0);
+  EXPECT_EQ(modelFromJSON<OrvantaEventRequest>(R"({"events":[{"klazz":"OrvantaGeofenceEvent"}]})")
+                ->priority(),
+            1);
 }
 
 // ---- Replies, user and configuration -------------------------------------------
@@ -202,8 +204,8 @@ TEST(OrvantaInboxCountResponse, SumsTheCountsOfAMask) {
       {"null", 1, 0},
   };
   for (const auto& row : rows) {
-    const auto response =
-        made<OrvantaInboxCountResponse>(std::string(R"({"cnts":)").append(row.counts).append("}"));
+    const auto response = modelFromJSON<OrvantaInboxCountResponse>(
+        std::string(R"({"cnts":)").append(row.counts).append("}"));
     EXPECT_EQ(response->countForStatus(row.mask), row.sum) << row.counts << " " << row.mask;
   }
 }
@@ -214,18 +216,18 @@ TEST(OrvantaAppConfig, ForgetsTenPropertiesAndKeepsTheRest) {
       R"("sai":false,"bte":false,"btl":0,"scv":false,"ife":false,"ipe":false,"exe":false,)"
       R"("itd":false,"ept":9223372036854775808.0,"ep":2,"oep":true})";
   const auto config = make<OrvantaAppConfig>();
-  EXPECT_EQ(Value(config->dictionaryValue()), parsed(kDefaults));
-  const Value all = parsed(
+  EXPECT_EQ(Value(config->dictionaryValue()), parseJSON(kDefaults));
+  const Value all = parseJSON(
       R"({"v":4,"badge":true,"locHist":true,"sei":60,"cei":1,"sai":true,"url":"u","geofs":[{"a":1}],)"
       R"("htmlTemps":{},"interCats":[{"id":"a"},{"id":"b"}],"bte":true,"btl":3,"scv":true,)"
       R"("ife":true,"ipe":true,"exe":true,"itd":true,"ept":2,"appKey":"k","ep":0,"oep":false})");
   EXPECT_TRUE(config->updateWithDictionary(all.dictionary()));
   EXPECT_EQ(config->interactiveCategories().get()->size(), 2U);
-  EXPECT_EQ(config->geofences().value(), parsed(R"([{"a":1}])"));
+  EXPECT_EQ(config->geofences().value(), parseJSON(R"([{"a":1}])"));
   const Dictionary nothing;
   EXPECT_TRUE(config->updateWithDictionary(&nothing));
   Dictionary left = config->dictionaryValue();
-  for (const Dictionary::Entry& row : dictionaryOf(kDefaults)) {
+  for (const Dictionary::Entry& row : dictionaryFromJSON(kDefaults)) {
     const bool isKept = row.key() == "bte" || row.key() == "btl" || row.key() == "ife" ||
                         row.key() == "ipe" || row.key() == "exe" || row.key() == "itd";
     EXPECT_EQ(left[row.key()], isKept ? (*all.dictionary())[row.key()] : row.value) << row.key();
@@ -234,7 +236,7 @@ TEST(OrvantaAppConfig, ForgetsTenPropertiesAndKeepsTheRest) {
 }
 
 TEST(OrvantaInboxCategoryResponse, IsReadDownToItsLastMessage) {
-  const auto response = made<OrvantaInboxCategoryResponse>(
+  const auto response = modelFromJSON<OrvantaInboxCategoryResponse>(
       R"({"cnt":[{"ct":"sale","st":{"1":2,"4":"7"},"msg":{"_ov":{"pid":"p"}}}]})");
   const auto* category = (*response->objects().get())[0].as<OrvantaInboxCategoryObject>();
   ASSERT_NE(category, nullptr);
