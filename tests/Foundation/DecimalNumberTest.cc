@@ -14,10 +14,7 @@ DecimalNumber decimal(std::string_view text) {
 
 TEST(DecimalNumber, ReadsTheLongestPrefixAndWritesPlainDigits) {
   const std::string nines(38, '9');
-  const struct {
-    std::string text;
-    std::string plain;
-  } rows[] = {
+  const std::pair<std::string, std::string> rows[] = {
       {"-0.00", "0"},
       {" \t+47.50x", "47.5"},
       {".5", "0.5"},
@@ -36,10 +33,10 @@ TEST(DecimalNumber, ReadsTheLongestPrefixAndWritesPlainDigits) {
       {"1e99999999999999999999", "NaN"},
       {"1e-99999999999999999999", "0"},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(decimal(row.text).stringValue(), row.plain) << row.text;
-    EXPECT_EQ(decimal(row.text).isNaN(), row.plain == "NaN") << row.text;
-    EXPECT_EQ(decimal(decimal(row.text).stringValue()), decimal(row.text)) << row.text;
+  for (const auto& [text, plain] : rows) {
+    EXPECT_EQ(decimal(text).stringValue(), plain) << text;
+    EXPECT_EQ(decimal(text).isNaN(), plain == "NaN") << text;
+    EXPECT_EQ(decimal(decimal(text).stringValue()), decimal(text)) << text;
   }
 }
 
@@ -57,74 +54,57 @@ TEST(DecimalNumber, ConvertsFromAndToIntegers) {
   EXPECT_EQ(DecimalNumber::notANumber().longLongValue(), 0);
 }
 
-TEST(DecimalNumber, Subtracts) {
+TEST(DecimalNumber, CalculatesWithThirtyEightDigits) {
+  const auto minus = &DecimalNumber::subtracting;
+  const auto times = &DecimalNumber::multiplyingBy;
+  const auto over = &DecimalNumber::dividingByRoundingDown;
   const std::string nines(38, '9');
   const struct {
     std::string a;
+    decltype(minus) operation;
     std::string b;
-    std::string difference;
+    std::string result;
   } rows[] = {
-      {"3", "5", "-2"},
-      {"1e20", "1e-10", "99999999999999999999.9999999999"},
-      {"123456789012345678901234", "123456789012345678901233", "1"},
-      {nines, "-1", "1" + std::string(38, '0')},
-      {nines, "-" + nines, "1" + std::string(37, '9') + "0"},  // 39 digits, one dropped
-      {"NaN", "1", "NaN"},
+      {"3", minus, "5", "-2"},
+      {"1e20", minus, "1e-10", "99999999999999999999.9999999999"},
+      {"123456789012345678901234", minus, "123456789012345678901233", "1"},
+      {nines, minus, "-1", "1" + std::string(38, '0')},
+      {nines, minus, "-" + nines, "1" + std::string(37, '9') + "0"},  // 39 digits, one dropped
+      {"NaN", minus, "1", "NaN"},
+      {"-0.5", times, "0.2", "-0.1"},
+      {"0.2", times, "-0.5", "-0.1"},
+      {"-2", times, "0", "0"},
+      {"12345678901234567890", times, "98765432109876543210",
+       "1219326311370217952237463801111263526900"},
+      {nines, times, nines, std::string(37, '9') + "8" + std::string(38, '0')},
+      {"1e100", times, "1e100", "NaN"},
+      {"1e-100", times, "1e-100", "0"},
+      {"NaN", times, "0", "NaN"},
+      {"0", times, "NaN", "NaN"},
+      // Division rounds toward minus infinity.
+      {"-7", over, "2", "-4"},
+      {"-7", over, "-2", "3"},
+      {"-1e-128", over, "1e100", "-1"},
+      {nines.substr(1) + "8", over, nines, "0"},
+      {"1e30", over, nines + "e-20", "1000000000000"},
+      {"1e60", over, "7", "142857142857142857142857142857142857140000000000000000000000"},
+      {"-1e60", over, "7", "-142857142857142857142857142857142857150000000000000000000000"},
+      {"1", over, "0", "NaN"},
+      {"NaN", over, "1", "NaN"},
   };
   for (const auto& row : rows) {
-    EXPECT_EQ(decimal(row.a).subtracting(decimal(row.b)).stringValue(), row.difference)
-        << row.a << " - " << row.b;
+    EXPECT_EQ((decimal(row.a).*row.operation)(decimal(row.b)).stringValue(), row.result)
+        << row.a << ", " << row.b;
   }
 }
 
-TEST(DecimalNumber, Multiplies) {
-  const std::string nines(38, '9');
-  const struct {
-    std::string a;
-    std::string b;
-    std::string product;
-  } rows[] = {
-      {"-0.5", "0.2", "-0.1"},
-      {"-2", "0", "0"},
-      {"12345678901234567890", "98765432109876543210", "1219326311370217952237463801111263526900"},
-      {nines, nines, std::string(37, '9') + "8" + std::string(38, '0')},
-      {"1e100", "1e100", "NaN"},
-      {"1e-100", "1e-100", "0"},
-      {"NaN", "0", "NaN"},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(decimal(row.a).multiplyingBy(decimal(row.b)).stringValue(), row.product)
-        << row.a << " * " << row.b;
-    EXPECT_EQ(decimal(row.b).multiplyingBy(decimal(row.a)).stringValue(), row.product);
-  }
+TEST(DecimalNumber, MultipliesByAnyPowerOfTen) {
   EXPECT_EQ(decimal("47111700000000.123456789").multiplyingByPowerOf10(9).stringValue(),
             "47111700000000123456789");
   EXPECT_EQ(decimal("-5").multiplyingByPowerOf10(-3).stringValue(), "-0.005");
   EXPECT_TRUE(decimal("1").multiplyingByPowerOf10(std::numeric_limits<int>::max()).isNaN());
   EXPECT_EQ(decimal("1").multiplyingByPowerOf10(std::numeric_limits<int>::min()), DecimalNumber());
   EXPECT_TRUE(DecimalNumber::notANumber().multiplyingByPowerOf10(1).isNaN());
-}
-
-TEST(DecimalNumber, DividesTowardMinusInfinity) {
-  const struct {
-    std::string a;
-    std::string b;
-    std::string quotient;
-  } rows[] = {
-      {"-7", "2", "-4"},
-      {"-7", "-2", "3"},
-      {"-1e-128", "1e100", "-1"},
-      {"99999999999999999999999999999999999998", "99999999999999999999999999999999999999", "0"},
-      {"1e30", "99999999999999999999999999999999999999e-20", "1000000000000"},
-      {"1e60", "7", "142857142857142857142857142857142857140000000000000000000000"},
-      {"-1e60", "7", "-142857142857142857142857142857142857150000000000000000000000"},
-      {"1", "0", "NaN"},
-      {"NaN", "1", "NaN"},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(decimal(row.a).dividingByRoundingDown(decimal(row.b)).stringValue(), row.quotient)
-        << row.a << " / " << row.b;
-  }
 }
 
 }  // namespace

@@ -48,10 +48,7 @@ TEST(Description, OfCollectionsIsAnOldPropertyListWithSortedKeys) {
 }
 
 TEST(Description, QuotesWhatIsNotLettersAndDigits) {
-  const struct {
-    Value value;
-    std::string_view text;
-  } rows[] = {
+  const std::pair<Value, std::string_view> rows[] = {
       {"plain09AZaz", "plain09AZaz"},
       {"", R"("")"},
       {-1, R"("-1")"},
@@ -61,8 +58,8 @@ TEST(Description, QuotesWhatIsNotLettersAndDigits) {
       {"\U0001F600", R"("\Ud83d\Ude00")"},
       {"\xC3", R"("\U00c3")"},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(describe(Array({row.value})), "(\n    " + std::string(row.text) + "\n)");
+  for (const auto& [value, text] : rows) {
+    EXPECT_EQ(describe(Array({value})), "(\n    " + std::string(text) + "\n)");
   }
 }
 

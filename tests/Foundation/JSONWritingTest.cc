@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -12,10 +13,7 @@ constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 TEST(JSONWriting, WritesScalars) {
-  const struct {
-    Value value;
-    std::string_view text;
-  } rows[] = {
+  const std::pair<Value, std::string_view> rows[] = {
       {true, "true"},
       {std::numeric_limits<std::int64_t>::min(), "-9223372036854775808"},
       {std::numeric_limits<std::uint64_t>::max(), "18446744073709551615"},
@@ -31,10 +29,10 @@ TEST(JSONWriting, WritesScalars) {
       {std::string(1, '\0'), R"("\u0000")"},
       {"\u00e9\u20ac\U0001F600\u2028", "\"\u00e9\u20ac\U0001F600\u2028\""},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(toJSON(row.value), row.text);
-    EXPECT_EQ(toPrettyJSON(row.value), row.text);
-    EXPECT_EQ(parseJSON(row.text), row.value) << row.text;
+  for (const auto& [value, text] : rows) {
+    EXPECT_EQ(toJSON(value), text);
+    EXPECT_EQ(toPrettyJSON(value), text);
+    EXPECT_EQ(parseJSON(text), value) << text;
   }
   EXPECT_EQ(toJSON("a/b", {.escapeSlashes = false}), R"("a/b")");
 }
@@ -50,11 +48,42 @@ TEST(JSONWriting, DoublesReadBackAsTheSameNumber) {
   }
 }
 
+TEST(JSONWriting, AmountsHaveTheShortestText) {
+  const auto check = [](double number) {
+    char text[40];
+    const auto end = std::to_chars(text, std::end(text), number).ptr;
+    EXPECT_EQ(toJSON(number), std::string(text, end));
+  };
+  for (const double scale : {1.0, 1e3, 1e6, 1e9}) {
+    for (int i = 1; i < 3000; i += 7) {
+      const double amount = static_cast<double>(i) / 1000.0 * scale;
+      for (const double number : {amount, std::nextafter(amount, 0.0), std::nextafter(amount, 1e9)})
+        check(number);
+    }
+  }
+  for (const double number : {0.0, 100'000.0, 1.1e6, 999'999'999'999.999, 1e12, 0x1p63, 5e-4}) {
+    check(number);
+    if (number != 0.0) check(-number);
+  }
+}
+
+TEST(JSONWriting, EscapesAtEveryPlaceInStringsOfEveryLength) {
+  for (const int length : {0, 1, 3, 4, 7, 8, 9, 15, 16, 17, 511, 512, 513, 1100}) {
+    const auto size = static_cast<std::size_t>(length);
+    const std::string plain(size, 'x');
+    EXPECT_EQ(toJSON(plain), '"' + plain + '"');
+    for (std::size_t place = 0; place < size; ++place) {
+      std::string text = plain;
+      std::string expected = plain;
+      text[place] = '\x01';
+      expected.replace(place, 1, "\\u0001");
+      ASSERT_EQ(toJSON(text), '"' + expected + '"') << size << ", " << place;
+    }
+  }
+}
+
 TEST(JSONWriting, LaysOutContainers) {
-  const struct {
-    std::string_view compact;
-    std::string_view pretty;
-  } rows[] = {
+  const std::pair<std::string_view, std::string_view> rows[] = {
       {"[]", "[\n\n]"},
       {"{}", "{\n\n}"},
       {"[1]", "[\n  1\n]"},
@@ -63,11 +92,11 @@ TEST(JSONWriting, LaysOutContainers) {
        "{\n  \"a\" : {\n\n  },\n  \"b\" : [\n    [\n\n    ],\n    null\n  ]\n}"},
       {R"({"a\/b\n":{"c":true}})", "{\n  \"a\\/b\\n\" : {\n    \"c\" : true\n  }\n}"},
   };
-  for (const auto& row : rows) {
-    const Value value = parseJSON(row.compact);
-    EXPECT_EQ(toJSON(value), row.compact);
-    EXPECT_EQ(toPrettyJSON(value), row.pretty);
-    EXPECT_EQ(parseJSON(row.pretty), value);
+  for (const auto& [compact, pretty] : rows) {
+    const Value value = parseJSON(compact);
+    EXPECT_EQ(toJSON(value), compact);
+    EXPECT_EQ(toPrettyJSON(value), pretty);
+    EXPECT_EQ(parseJSON(pretty), value);
     EXPECT_TRUE(isValidJSONObject(value));
   }
   std::string text = "before ";

@@ -75,15 +75,12 @@ TEST(Number, EqualsByExactValueWhateverTheKind) {
 }
 
 TEST(Number, IsDescribedByItsKind) {
-  const struct {
-    Value value;
-    std::string_view text;
-  } rows[] = {
+  const std::pair<Value, std::string_view> rows[] = {
       {true, "1"},   {0.1 + 0.2, "0.3"}, {kTwo63, "9.223372036854776e+18"}, {1e-7, "1e-07"},
       {-0.0, "-0"},  {0.1F, "0.1"},      {16777216.0F, "1.677722e+07"},     {kInfinity, "inf"},
       {kNaN, "nan"},
   };
-  for (const auto& row : rows) EXPECT_EQ(describe(row.value), row.text);
+  for (const auto& [value, text] : rows) EXPECT_EQ(describe(value), text);
 }
 
 // ---- Readings of text -----------------------------------------------------
@@ -118,10 +115,7 @@ TEST(ScalarReading, TakesIntegersOutOfText) {
 }
 
 TEST(ScalarReading, TakesRealsOutOfText) {
-  const struct {
-    std::string text;
-    double value;
-  } rows[] = {
+  const std::pair<std::string, double> rows[] = {
       {"", 0.0},
       {"-abc", 0.0},  // no number, so no sign either
       {".", 0.0},
@@ -144,11 +138,11 @@ TEST(ScalarReading, TakesRealsOutOfText) {
       {"1" + std::string(400, '0') + "e-400", 1.0},
       {"0.1000000000000000055511151231257827021181583404541015625", 0.1},
   };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.text);
-    const double value = scalarReading<double>(row.text);
-    EXPECT_EQ(value, row.value);
-    EXPECT_EQ(std::signbit(value), std::signbit(row.value));
+  for (const auto& [text, expected] : rows) {
+    SCOPED_TRACE(text);
+    const double value = scalarReading<double>(text);
+    EXPECT_EQ(value, expected);
+    EXPECT_EQ(std::signbit(value), std::signbit(expected));
   }
   EXPECT_EQ(scalarReading<float>("-1e39"), -std::numeric_limits<float>::infinity());
 }

@@ -31,10 +31,7 @@ TEST(Url, RefusesWhatNoUrlHolds) {
 }
 
 TEST(PercentEncoding, WritesWhatIsOutsideTheSet) {
-  const struct {
-    std::string_view text;
-    std::string_view encoded;
-  } rows[] = {
+  const std::pair<std::string_view, std::string_view> rows[] = {
       {"app://host/path?x=1", "app:%2F%2Fhost%2Fpath%3Fx=1"},
       {"%20", "%2520"},
       {"\xC3\xA4", "%C3%A4"},
@@ -42,8 +39,8 @@ TEST(PercentEncoding, WritesWhatIsOutsideTheSet) {
       {"/?#@\"<>\\^{|}`", "%2F%3F%23%40%22%3C%3E%5C%5E%7B%7C%7D%60"},
       {"\n\x7F\xFF", "%0A%7F%FF"},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(percentEncoded(row.text, CharacterSet::urlHostAllowed()), row.encoded);
+  for (const auto& [text, encoded] : rows) {
+    EXPECT_EQ(percentEncoded(text, CharacterSet::urlHostAllowed()), encoded);
   }
   EXPECT_EQ(percentEncoded(std::string_view("\0a", 2), CharacterSet::alphanumerics()), "%00a");
   EXPECT_EQ(percentEncoded("a-b", CharacterSet("-").with("b")), "%61-b");

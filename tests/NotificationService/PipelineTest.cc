@@ -63,10 +63,7 @@ TEST(Pipeline, ValuesOfAnotherKindCountAsAbsent) {
   constexpr std::string_view kUnchanged = "deliver";
   constexpr std::string_view kRegistered = "read, write, deliver";
   constexpr std::string_view kDownloaded = "download https://m.example/a, deliver";
-  const struct {
-    std::string_view payload;
-    std::string_view journal;
-  } rows[] = {
+  const std::pair<std::string_view, std::string_view> rows[] = {
       {R"({"aps": {}, "_ov": {"ia": [{"id": "buy"}]}})", kUnchanged},
       {R"({"aps": {"category": 5}, "_ov": {"ia": [{"id": "buy"}]}})", kUnchanged},
       {R"({"aps": {"category": ""}, "_ov": {"ia": [{"id": "buy"}]}})", kRegistered},
@@ -89,16 +86,16 @@ TEST(Pipeline, ValuesOfAnotherKindCountAsAbsent) {
       {R"({"_ov": null})", kUnchanged},
   };
   const LogLevel silent(0);
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.payload);
+  for (const auto& [payload, journal] : rows) {
+    SCOPED_TRACE(payload);
     ExtensionRun run;
     run.platform.download.error = error("D", 1);
-    run.receive(row.payload);
+    run.receive(payload);
     run.platform.runAll();
-    EXPECT_EQ(run.journal(), row.journal);
+    EXPECT_EQ(run.journal(), journal);
     ASSERT_EQ(run.delivered.size(), 1U);
     EXPECT_EQ(run.delivered[0], run.extension->bestAttemptContent());
-    EXPECT_EQ(Value(run.delivered[0]->userInfo), Value(dictionaryFromJSON(row.payload)));
+    EXPECT_EQ(Value(run.delivered[0]->userInfo), Value(dictionaryFromJSON(payload)));
   }
 }
 

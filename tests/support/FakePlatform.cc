@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "orvanta/Foundation/Description.h"
+#include "orvanta/Foundation/internal/ASCII.h"
 
 namespace orvanta::testing {
 
@@ -27,13 +28,6 @@ constexpr MediaType kTypes[] = {
     {"public.mpeg-4", "video/mp4", ".mp4", "Movie", 50'000'000},
     {"public.plain-text", "text/plain", ".txt", "", 0},
 };
-
-std::string lowercased(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(), [](char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-  });
-  return text;
-}
 
 Ref<NSError> moveError(std::int64_t code, std::int64_t posixCode) {
   const Value underlying =
@@ -103,7 +97,7 @@ Ref<NSError> FakePlatform::moveItemAtURL(const Url& source, const Url& destinati
 std::optional<std::string> FakePlatform::preferredIdentifierForMIMEType(
     const std::optional<std::string>& type) {
   if (!type) return std::nullopt;
-  const std::string lower = lowercased(*type);
+  const std::string lower = toLowerASCII(*type);
   for (const MediaType& known : kTypes) {
     if (known.mimeType == lower) return std::string(known.identifier);
   }

@@ -33,10 +33,7 @@ TEST(CommerceEvents, StandFlatBesideWhatTheyAreAbout) {
   item->setCampaignId("item's");
   const auto content = OrvantaContent::contentWithId("c1", "News", 3);
   const std::string_view kProduct = R"({"ea":"p1","eb":"Jacket","eq":9.5,"eg":["wool"],)";
-  const struct {
-    Ref<OrvantaEvent> event;
-    std::string text;
-  } rows[] = {
+  const std::pair<Ref<OrvantaEvent>, std::string> rows[] = {
       {OrvantaCartAddProductEvent::eventWithProduct(product, 4, 38.0),
        std::string(kProduct) + R"("code":"o:acp","ec":4,"er":38.0})"},
       {OrvantaCartRemoveProductEvent::eventWithProduct(product, 1),
@@ -65,12 +62,12 @@ TEST(CommerceEvents, StandFlatBesideWhatTheyAreAbout) {
       {OrvantaOrderCancelEvent::eventWithSubTotal(10.0, 12.5, 2),
        R"({"er":10.0,"es":12.5,"ec":2,"code":"o:co"})"},
   };
-  for (const auto& row : rows) {
-    ASSERT_TRUE(row.event) << row.text;
-    Dictionary written = row.event->dictionaryValue();
+  for (const auto& [event, text] : rows) {
+    ASSERT_TRUE(event) << text;
+    Dictionary written = event->dictionaryValue();
     EXPECT_EQ(written["revenue"], Value(9223372036854775808.0));
     written.remove("revenue");
-    EXPECT_EQ(Value(written), parseJSON(row.text));
+    EXPECT_EQ(Value(written), parseJSON(text));
   }
 }
 

@@ -35,16 +35,15 @@ TEST(RefusedUpdate, KeepsWhatWasAssignedBeforeAndReadsNoFurther) {
 }
 
 TEST(RefusedUpdate, LogsEveryErrorButThatOfAnUndefinedKey) {
-  const struct {
-    std::string_view text;
-    std::string_view reason;  // empty: nothing is logged
-  } rows[] = {{"known", "known trouble"}, {"standard", "standard trouble"}, {"unknown key", ""}};
-  for (const auto& row : rows) {
+  // The reason in the log, empty where nothing is logged.
+  const std::pair<std::string_view, std::string_view> rows[] = {
+      {"known", "known trouble"}, {"standard", "standard trouble"}, {"unknown key", ""}};
+  for (const auto& [text, reason] : rows) {
     RecordingPlatform platform;
-    EXPECT_FALSE(make<SetterModel>(Dictionary{{"text", row.text}})) << row.text;
-    ASSERT_EQ(platform.log.size(), row.reason.empty() ? 0U : 1U) << row.text;
-    if (!row.reason.empty()) {
-      const std::string end = "' to class 'SetterModel' : " + std::string(row.reason) + "\n\n";
+    EXPECT_FALSE(make<SetterModel>(Dictionary{{"text", text}})) << text;
+    ASSERT_EQ(platform.log.size(), reason.empty() ? 0U : 1U) << text;
+    if (!reason.empty()) {
+      const std::string end = "' to class 'SetterModel' : " + std::string(reason) + "\n\n";
       EXPECT_TRUE(platform.log.front().ends_with(end)) << platform.log.front();
     }
   }

@@ -60,10 +60,7 @@ TEST(OrvantaPushObject, AnEmptyPayloadGivesAnEmptyAlertAndActionAndNoBadge) {
 }
 
 TEST(OrvantaPushObject, TheAlertIsATextADictionaryOrEmpty) {
-  const struct {
-    std::string_view alert;
-    std::string_view written;
-  } rows[] = {
+  const std::pair<std::string_view, std::string_view> rows[] = {
       {R"("text")", R"({"body":"text"})"},
       {R"({"title": "t", "title-loc-key": "k"})", R"({"title":"t"})"},
       {R"({"body": 5, "subtitle": null})", R"({"subtitle":null,"body":5})"},
@@ -71,12 +68,12 @@ TEST(OrvantaPushObject, TheAlertIsATextADictionaryOrEmpty) {
       {"null", "{}"},
       {R"(["text"])", "{}"},
   };
-  for (const auto& row : rows) {
+  for (const auto& [alert, written] : rows) {
     const auto push =
-        modelFromJSON<OrvantaPushObject>(R"({"aps": {"alert": )" + std::string(row.alert) + "}}");
-    ASSERT_TRUE(push) << row.alert;
-    ASSERT_TRUE(push->alert().get()) << row.alert;
-    EXPECT_EQ(toJSON(push->alert().get()->dictionaryValue()), row.written) << row.alert;
+        modelFromJSON<OrvantaPushObject>(R"({"aps": {"alert": )" + std::string(alert) + "}}");
+    ASSERT_TRUE(push) << alert;
+    ASSERT_TRUE(push->alert().get()) << alert;
+    EXPECT_EQ(toJSON(push->alert().get()->dictionaryValue()), written) << alert;
   }
 }
 

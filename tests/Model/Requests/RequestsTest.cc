@@ -1,10 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "orvanta/Model/Configuration/OrvantaAppConfig.h"
-#include "orvanta/Model/Events/OrvantaGeofenceEvent.h"
-#include "orvanta/Model/Events/OrvantaLoginEvent.h"
 #include "orvanta/Model/Requests/OrvantaCouponFilter.h"
-#include "orvanta/Model/Requests/OrvantaEventRequest.h"
 #include "orvanta/Model/Requests/OrvantaFetchInboxRequest.h"
 #include "orvanta/Model/Requests/OrvantaInboxCategoryFilter.h"
 #include "orvanta/Model/Requests/OrvantaInboxCountFilter.h"
@@ -12,8 +8,6 @@
 #include "orvanta/Model/Requests/OrvantaSetInboxStatusRequest.h"
 #include "orvanta/Model/Requests/OrvantaSetUserCategoryRequest.h"
 #include "orvanta/Model/Requests/OrvantaUpdateUserRequest.h"
-#include "orvanta/Model/Responses/OrvantaInboxCategoryResponse.h"
-#include "orvanta/Model/Responses/OrvantaInboxCountResponse.h"
 #include "support/LogLevel.h"
 #include "support/ModelHelpers.h"
 
@@ -99,150 +93,6 @@ TEST(Filters, HaveDefaultsOfTheirOwn) {
             R"({"st":3,"ps":2147483647,"ie":false})");
   EXPECT_EQ(toJSON(make<OrvantaInboxCountFilter>()->dictionaryValue()), R"({"st":3,"ie":false})");
   EXPECT_EQ(toJSON(make<OrvantaCouponFilter>()->dictionaryValue()), R"({"page":0,"max":0})");
-}
-
-// ---- Batches -----------------------------------------------------------------
-
-Ref<OrvantaEventRequest> batchOf(std::size_t events) {
-  Array array;
-  for (std::size_t i = 0; i < events; ++i) {
-    array.append(OrvantaLoginEvent::eventWithUserId(std::to_string(i)));
-  }
-  return make<OrvantaEventRequest>(&OrvantaEventRequest::initWithEventArray, array);
-}
-
-std::size_t countOf(const Ref<OrvantaEventRequest>& request) {
-  return request->events().get()->size();
-}
-
-TEST(OrvantaEventRequest, TakesAsManyEventsAsThereIsRoomFor) {
-  const struct {
-    std::size_t own, theirs, ownAfter, theirsAfter;
-    bool limitReached;
-  } rows[] = {
-      {95, 10, 100, 5, true}, {100, 4, 100, 4, true}, {0, 150, 100, 50, true},
-      {1, 1, 2, 0, false},    {99, 0, 99, 0, false},  {101, 3, 104, 0, false},
-  };
-  for (const auto& row : rows) {
-    const auto own = batchOf(row.own);
-    const auto other = batchOf(row.theirs);
-    other->setStorageId(42);
-    bool limitReached = !row.limitReached;
-    own->mergeEventsFromEventRequest(*other, limitReached);
-    EXPECT_EQ(countOf(own), row.ownAfter);
-    EXPECT_EQ(countOf(other), row.theirsAfter);
-    EXPECT_EQ(limitReached, row.limitReached) << row.own << " " << row.theirs;
-    EXPECT_EQ(own->idsContained().value(), Value(Array{42}));
-  }
-  const auto own = batchOf(2);
-  const auto other = batchOf(2);
-  other->editEvents().set(0, OrvantaLoginEvent::eventWithUserId("first"));
-  bool limitReached = false;
-  own->mergeEventsFromEventRequest(*other, limitReached);
-  EXPECT_EQ((*own->events().get())[2].as<OrvantaLoginEvent>()->userId().get(), "first");
-  EXPECT_EQ(own->idsContained().value(), Value(Array{}));  // the other was never stored
-  own->setEvents(nullptr);
-  own->mergeEventsFromEventRequest(*batchOf(1), limitReached);
-  EXPECT_EQ(countOf(own), 1U);
-}
-
-TEST(OrvantaEventRequest, StripsWhatItsIdentifiersSayAlready) {
-  const auto leader = batchOf(1);
-  leader->setIdentifiers(modelFromJSON<OrvantaIdentifiers>(R"({"iid":"i","sid":"1"})"));
-  const auto other = batchOf(2);
-  const auto own = modelFromJSON<OrvantaIdentifiers>(R"({"iid":"i","sid":"own"})");
-  (*other->events().get())[0].as<OrvantaLoginEvent>()->setIdentifiers(own);
-  other->setIdentifiers(modelFromJSON<OrvantaIdentifiers>(R"({"iid":"i","sid":"2"})"));
-  other->editEvents().append("no event");
-  bool limitReached = false;
-  leader->mergeEventsFromEventRequest(*other, limitReached);
-  for (int time = 0; time < 2; ++time) {
-    const Dictionary body = leader->requestSpec()->HTTPBody;
-    EXPECT_EQ(body["ids"], parseJSON(R"({"iid":"i","sid":"1"})"));
-    const Array& events = *body["events"].array();
-    EXPECT_TRUE((*events[0].dictionary())["ids"].isNil());
-    EXPECT_EQ((*events[1].dictionary())["ids"], parseJSON(R"({"sid":"own"})"));
-    EXPECT_EQ((*events[2].dictionary())["ids"], parseJSON(R"({"sid":"2"})"));
-    EXPECT_EQ(events[3], Value("no event"));
-  }
-}
-
-TEST(OrvantaEventRequest, IsRankedByItsEvents) {
-  const auto geofence = OrvantaGeofenceEvent::eventWithIdentifier("g", 1);
-  const std::pair<Array, std::int64_t> rows[] = {
-      {{}, 0},
-      {{geofence}, 1},
-      {{OrvantaLoginEvent::eventWithUserId("u")}, 0},
-      {{"no event"}, 0},
-      {{"no event", "nor this"}, 1},
-  };
-  for (const auto& [events, priority] : rows) {
-    EXPECT_EQ(
-        make<OrvantaEventRequest>(&OrvantaEventRequest::initWithEventArray, events)->priority(),
-        priority);
-  }
-  EXPECT_EQ(modelFromJSON<OrvantaEventRequest>("{}")->priority(), 0);
-  EXPECT_EQ(modelFromJSON<OrvantaEventRequest>(R"({"events":[{"klazz":"OrvantaGeofenceEvent"}]})")
-                ->priority(),
-            1);
-}
-
-// ---- Replies, user and configuration -------------------------------------------
-
-TEST(OrvantaInboxCountResponse, SumsTheCountsOfAMask) {
-  const struct {
-    std::string_view counts;
-    std::uint64_t mask;
-    std::int64_t sum;
-  } rows[] = {
-      {R"({"1":5,"2":7,"4":2})", 3, 12},
-      {R"({"1":5,"2":7,"4":2})", 4, 2},
-      {R"({"1":5,"2":7,"4":2})", 7, 14},
-      {R"({"1":5,"2":7,"4":2})", 8, 0},
-      {R"({"1":"6","2":null,"3":[1],"x":9})", 3, 6},
-      {"[1]", 1, 0},
-      {"null", 1, 0},
-  };
-  for (const auto& row : rows) {
-    const auto response = modelFromJSON<OrvantaInboxCountResponse>(
-        std::string(R"({"cnts":)").append(row.counts).append("}"));
-    EXPECT_EQ(response->countForStatus(row.mask), row.sum) << row.counts << " " << row.mask;
-  }
-}
-
-TEST(OrvantaAppConfig, ForgetsTenPropertiesAndKeepsTheRest) {
-  const std::string_view kDefaults =
-      R"({"v":0,"badge":false,"locHist":false,"sei":180.0,"cei":9223372036854775808.0,)"
-      R"("sai":false,"bte":false,"btl":0,"scv":false,"ife":false,"ipe":false,"exe":false,)"
-      R"("itd":false,"ept":9223372036854775808.0,"ep":2,"oep":true})";
-  const auto config = make<OrvantaAppConfig>();
-  EXPECT_EQ(Value(config->dictionaryValue()), parseJSON(kDefaults));
-  const Value all = parseJSON(
-      R"({"v":4,"badge":true,"locHist":true,"sei":60,"cei":1,"sai":true,"url":"u","geofs":[{"a":1}],)"
-      R"("htmlTemps":{},"interCats":[{"id":"a"},{"id":"b"}],"bte":true,"btl":3,"scv":true,)"
-      R"("ife":true,"ipe":true,"exe":true,"itd":true,"ept":2,"appKey":"k","ep":0,"oep":false})");
-  EXPECT_TRUE(config->updateWithDictionary(all.dictionary()));
-  EXPECT_EQ(config->interactiveCategories().get()->size(), 2U);
-  EXPECT_EQ(config->geofences().value(), parseJSON(R"([{"a":1}])"));
-  const Dictionary nothing;
-  EXPECT_TRUE(config->updateWithDictionary(&nothing));
-  Dictionary left = config->dictionaryValue();
-  for (const Dictionary::Entry& row : dictionaryFromJSON(kDefaults)) {
-    const bool isKept = row.key() == "bte" || row.key() == "btl" || row.key() == "ife" ||
-                        row.key() == "ipe" || row.key() == "exe" || row.key() == "itd";
-    EXPECT_EQ(left[row.key()], isKept ? (*all.dictionary())[row.key()] : row.value) << row.key();
-  }
-  EXPECT_EQ(left["url"], Value("u"));
-}
-
-TEST(OrvantaInboxCategoryResponse, IsReadDownToItsLastMessage) {
-  const auto response = modelFromJSON<OrvantaInboxCategoryResponse>(
-      R"({"cnt":[{"ct":"sale","st":{"1":2,"4":"7"},"msg":{"_ov":{"pid":"p"}}}]})");
-  const auto* category = (*response->objects().get())[0].as<OrvantaInboxCategoryObject>();
-  ASSERT_NE(category, nullptr);
-  EXPECT_EQ(category->status().get()->readCount(), 2);
-  EXPECT_EQ(category->status().get()->deletedCount(), 7);
-  EXPECT_EQ(category->lastMessage().get()->pushId().get(), "p");
 }
 
 }  // namespace

@@ -102,10 +102,8 @@ TEST(Reading, NothingToReadIsSuccessAndChangesNothing) {
 }
 
 TEST(Reading, ADottedKeyIsReadFromWhateverStandsOnItsWay) {
-  const struct {
-    std::string_view json;
-    std::string_view read;  // empty: refused
-  } rows[] = {
+  // The written model, empty where the update fails.
+  const std::pair<std::string_view, std::string_view> rows[] = {
       {R"({"a": {"b": {"c": 2}}, "aps": {"sound": "s", "tags": [], "badge": 1}, "title": "t"})",
        R"({"aps.sound":"s","aps.badge":1,"a.b.c":2,"a.b":{"c":2},"aps.tags":[],"title":"t"})"},
       {R"({"a": [{"b": {"c": 2}}, {}]})",
@@ -115,9 +113,9 @@ TEST(Reading, ADottedKeyIsReadFromWhateverStandsOnItsWay) {
       {R"({"aps": "text"})", ""},
       {R"({"a": {"b": null}})", ""},
   };
-  for (const auto& row : rows) {
-    const auto model = modelFromJSON<DottedModel>(row.json);
-    EXPECT_EQ(model ? toJSON(model->dictionaryValue()) : "", row.read) << row.json;
+  for (const auto& [json, read] : rows) {
+    const auto model = modelFromJSON<DottedModel>(json);
+    EXPECT_EQ(model ? toJSON(model->dictionaryValue()) : "", read) << json;
   }
 }
 

@@ -49,10 +49,7 @@ TEST(Writing, LeavesOutNilAndWhatAConverterRefuses) {
 }
 
 TEST(Writing, LeavesOutTheUnsetIntegerOfAnyKindButNoOtherNumber) {
-  const struct {
-    Value value;
-    bool isWritten;
-  } rows[] = {
+  const std::pair<Value, bool> rows[] = {
       {kUnsetInteger, false},
       {static_cast<std::uint64_t>(kUnsetInteger), false},
       {static_cast<std::uint64_t>(kUnsetInteger) + 1, true},
@@ -60,13 +57,13 @@ TEST(Writing, LeavesOutTheUnsetIntegerOfAnyKindButNoOtherNumber) {
       {Array({kUnsetInteger}), true},
       {Dictionary({{"n", kUnsetInteger}}), true},
   };
-  for (const auto& row : rows) {
+  for (const auto& [value, isWritten] : rows) {
     for (const char* property : {"text", "number", "any"}) {
       const auto model = make<ObjectModel>();
-      model->setValueForKey(row.value, property);
+      model->setValueForKey(value, property);
       const Dictionary result = model->dictionaryValue();
-      EXPECT_EQ(result.contains(property), row.isWritten) << property << describe(row.value);
-      EXPECT_EQ(result[property], row.isWritten ? row.value : Value());
+      EXPECT_EQ(result.contains(property), isWritten) << property << describe(value);
+      EXPECT_EQ(result[property], isWritten ? value : Value());
     }
   }
   const auto scalars = make<ScalarModel>();
