@@ -13,8 +13,8 @@
 #include "support/ModelZoo.h"
 #include "support/RecordingPlatform.h"
 
-// Hostile texts. What is asked of the heap is counted, at a size and at twice that; the times are
-// shown by scripts/measure-bounds.
+// Hostile inputs. Counts the allocations for a size and for twice that size; scripts/measure-bounds
+// shows the times.
 
 static thread_local struct Heap { std::size_t live, peak, total, calls; } heap;
 static thread_local std::size_t callsUntilFailure = 0;  // 0: none
@@ -37,15 +37,16 @@ void operator delete(void* memory, std::size_t /*bytes*/) noexcept { operator de
 namespace orvanta::testing {
 namespace {
 
-/// What this thread's work asks of the heap; the peak is the highest growth.
+/// The allocations of this thread's work; the peak is the highest growth.
 Heap used(const std::function<void()>& work) {
-  constexpr std::size_t kBase = std::size_t{1} << 60U;  // it may give back more than it took
+  constexpr std::size_t kBase = std::size_t{1} << 60U;  // work may free more than it allocates
   heap = {kBase, kBase, 0, 0};
   work();
   return {heap.live, heap.peak - kBase, heap.total, heap.calls};
 }
 
-/// The item n times; "@" is another text each time, all alike to a hash that multiplies by 31.
+/// The item n times; each "@" becomes a different string, all of which collide in a hash that
+/// multiplies by 31.
 std::string textOf(std::size_t n, std::string_view open, std::string_view item,
                    std::string_view separator, std::string_view close) {
   std::string text(open);
@@ -93,7 +94,7 @@ const std::string kDeepEnd(500, ']');
 const struct {
   const char* name;
   void (*work)(const std::string& text);
-  std::size_t most;  // bytes of memory for a byte of the text
+  std::size_t most;  // bytes of memory per byte of the input
   std::string_view open, item, separator, close;
 } kRows[] = {
     {"one text, 100 n", read, 3, "\"", "@@sixteen bytes...", "", "\""},
@@ -120,7 +121,7 @@ const struct {
     {"categories", categories, 30, "[", R"("c@")", ",", "]"},
 };
 
-TEST(ResourceBounds, MemoryIsBoundedByTheTextAndWorkGrowsNoFaster) {
+TEST(ResourceBounds, MemoryIsBoundedByTheInputAndWorkGrowsLinearly) {
   const char* asked = std::getenv("ORVANTA_BOUNDS");
   const std::size_t n = asked != nullptr ? std::strtoul(asked, nullptr, 10) : 5000;
   for (const auto& row : kRows) {
@@ -128,7 +129,7 @@ TEST(ResourceBounds, MemoryIsBoundedByTheTextAndWorkGrowsNoFaster) {
     const RecordingPlatform platform;
     const auto work = [&](const std::string& text) { return used([&] { row.work(text); }); };
     const std::string text = textOf(n, row.open, row.item, row.separator, row.close);
-    work(textOf(1, row.open, row.item, row.separator, row.close));  // makes what is made once
+    work(textOf(1, row.open, row.item, row.separator, row.close));  // initializes static data
     const auto begin = std::chrono::steady_clock::now();
     const Heap once = work(text);
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - begin;
@@ -137,14 +138,14 @@ TEST(ResourceBounds, MemoryIsBoundedByTheTextAndWorkGrowsNoFaster) {
                   seconds.count(), once.peak);
     }
     const Heap twice = work(textOf(2 * n, row.open, row.item, row.separator, row.close));
-    constexpr std::size_t kLargestBlock = std::size_t{1} << 20U;  // that an arena adds
+    constexpr std::size_t kLargestBlock = std::size_t{1} << 20U;  // of an arena
     EXPECT_LE(once.peak, row.most * text.size() + kLargestBlock);
     EXPECT_LE(twice.total, once.total * 9 / 4 + kLargestBlock);
     EXPECT_LE(twice.calls, once.calls * 2 + 100);
   }
 }
 
-TEST(ResourceBounds, StoredCategoriesWereComparedEachWithEach) {
+TEST(ResourceBounds, ComparesNoCategoryWithEveryOther) {
   static int comparisons = 0;
   struct Counted : UNNotificationAction {
     explicit Counted(unsigned options) : UNNotificationAction("id", "", options) {}
@@ -155,7 +156,7 @@ TEST(ResourceBounds, StoredCategoriesWereComparedEachWithEach) {
   EXPECT_LE(comparisons, static_cast<int>(set.size()));
 }
 
-TEST(ResourceBounds, ADictionaryWithoutMemoryToGrowLostItsValues) {
+TEST(ResourceBounds, ADictionaryKeepsItsValuesWhenItCannotGrow) {
   const std::string added(20, 'x');
   for (std::size_t failing = 1;; ++failing) {
     Dictionary dictionary;
@@ -179,16 +180,16 @@ std::string deepAndWide(std::string_view open, std::string_view item) {
   return std::string(open) + nested(500, "[", "]", textOf(2000, "", item, ",", "")) + "}";
 }
 
-// Lines are indented by their depth: what is shown of this one was a thousand times its text.
-TEST(ResourceBounds, ADeepPayloadWasDescribedAsAWholeForALineOfTheLog) {
+// Lines are indented by their depth: the description of this one is a thousand times its size.
+TEST(ResourceBounds, TruncatesADeepPayloadInTheLog) {
   RecordingPlatform platform;
   const Dictionary payload = dictionaryFromJSON(deepAndWide(R"({"size":)", "1"));
   EXPECT_LT(used([&] { EXPECT_FALSE(make<LeafModel>(payload)); }).peak, 1'000'000U);
   EXPECT_GT(platform.log.at(0).size(), 65536U);
 }
 
-// Each of these holds its action twice, so the innermost is made 2^9 times, and refuses.
-TEST(ResourceBounds, ModelsThatFailedByTheThousandFilledTheLog) {
+// Each of these reads its action twice, so the innermost is created 2^9 times, and fails.
+TEST(ResourceBounds, TruncatesLogLinesOfManyFailedModels) {
   std::string text = R"({"klazz":"OrvantaPushObject","_ov":{"pt":null},"x":")";
   text.append(2000, 'x').append("\"}");
   for (int i = 0; i < 9; ++i) {
@@ -203,13 +204,13 @@ TEST(ResourceBounds, ModelsThatFailedByTheThousandFilledTheLog) {
   EXPECT_LT(platform.log.back().size(), 400U);
 }
 
-TEST(ResourceBounds, TellingWhyADeepArrayWasRefusedWalkedItAtEveryLevel) {
+TEST(ResourceBounds, ReportsWhyADeepArrayFailedInOneWalk) {
   const RecordingPlatform platform;
   const Dictionary payload = dictionaryFromJSON(deepAndWide(R"({"aps":)", "{}"));
-  const auto refused = [&] { EXPECT_FALSE(make<DottedModel>(payload)); };
-  const std::size_t unasked = used(refused).total;
+  const auto update = [&] { EXPECT_FALSE(make<DottedModel>(payload)); };
+  const std::size_t unrecorded = used(update).total;
   const RefusalRecorder recorder;
-  EXPECT_LT(used(refused).total, 2 * unasked);
+  EXPECT_LT(used(update).total, 2 * unrecorded);
 }
 
 }  // namespace

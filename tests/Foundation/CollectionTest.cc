@@ -21,16 +21,16 @@ std::string listed(const Dictionary& dictionary) {
   return text;
 }
 
-TEST(Array, RefusesNil) {
-  const std::string refusal =
+TEST(Array, RejectsNil) {
+  const std::string error =
       "NSInvalidArgumentException: *** -[__NSArrayM insertObject:atIndex:]: object cannot be nil";
   Array array({1});
-  EXPECT_EQ(exceptionFrom([&] { array.append(Value()); }), refusal);
+  EXPECT_EQ(exceptionFrom([&] { array.append(Value()); }), error);
   EXPECT_EQ(array, Array({1}));
-  EXPECT_EQ(exceptionFrom([] { const Array invalid({kLong, Value()}); }), refusal);
+  EXPECT_EQ(exceptionFrom([] { const Array invalid({kLong, Value()}); }), error);
 }
 
-TEST(Array, ACopyPartsFromTheOriginalWithTheFirstChange) {
+TEST(Array, IsCopiedOnTheFirstChange) {
   const struct {
     const char* change;
     void (*make)(Array&);
@@ -80,7 +80,7 @@ TEST(Dictionary, KeepsTheOrderOfInsertion) {
   EXPECT_EQ(listed(Dictionary({{"a", 1}, {"b", 2}, {"a", 3}, {"c", Value()}})), "a=3 b=2");
 }
 
-TEST(Dictionary, ACopyPartsFromTheOriginalWithTheFirstChange) {
+TEST(Dictionary, IsCopiedOnTheFirstChange) {
   const struct {
     const char* change;
     void (*make)(Dictionary&);
@@ -113,8 +113,8 @@ TEST(Dictionary, ACopyPartsFromTheOriginalWithTheFirstChange) {
   }
 }
 
-TEST(Dictionary, TakesKeysAndEntriesOutOfItself) {
-  // Either way a change moves the entries and frees the old ones.
+TEST(Dictionary, AcceptsItsOwnKeysAndEntries) {
+  // In both a change moves the entries and frees the old ones.
   const std::function<Dictionary()> makers[] = {
       [] { return Dictionary(*parseJSON(R"({"a": "key", "b": 0, "c": 0})").dictionary()); },
       [] {
@@ -151,7 +151,7 @@ TEST(Dictionary, TakesKeysAndEntriesOutOfItself) {
   }
 }
 
-/// Compares a dictionary with a map after many changes; `prefix` begins every key.
+/// Compares a dictionary with a map after many changes; `prefix` starts every key.
 void expectLikeAMap(const std::string& prefix, std::size_t count) {
   Dictionary dictionary;
   std::map<std::string, std::size_t> model;
@@ -194,7 +194,7 @@ TEST(Dictionary, FindsAmongAnyNumberOfKeys) {
   }
 }
 
-TEST(Dictionary, AKeyThatWasSetAfterManyWereRemovedWasLost) {
+TEST(Dictionary, FindsAKeySetAfterManyRemovals) {
   for (std::size_t left = 0; left < 33; ++left) {
     Dictionary dictionary;
     for (int i = 0; i < 33; ++i) dictionary.set("k" + std::to_string(i), i);
@@ -206,9 +206,8 @@ TEST(Dictionary, AKeyThatWasSetAfterManyWereRemovedWasLost) {
   }
 }
 
-TEST(Dictionary, ManyKeysOfOneLengthAndPrefixAreReadInReasonableTime) {
-  // Compared one by one these would take twenty thousand million steps: a minute. They take a tenth
-  // of a second.
+TEST(Dictionary, ParsesManyKeysOfOneLengthAndPrefixFast) {
+  // Comparing each key with every other takes a minute, hashing a tenth of a second.
   const std::clock_t begin = std::clock();
   constexpr std::size_t kCount = 200'000;
   std::string text = "{";
@@ -226,7 +225,7 @@ TEST(Dictionary, ManyKeysOfOneLengthAndPrefixAreReadInReasonableTime) {
   EXPECT_LT((std::clock() - begin) / CLOCKS_PER_SEC, 15);
 }
 
-TEST(ParsedValues, OutliveTheTextAndTheTree) {
+TEST(ParsedValues, OutliveTheStringAndTheTree) {
   Value string;
   Value array;
   Dictionary dictionary;
@@ -243,7 +242,7 @@ TEST(ParsedValues, OutliveTheTextAndTheTree) {
   EXPECT_EQ(string, Value("a string of more than fourteen bytes"));
   EXPECT_EQ(array, Value(Array({1, Dictionary({{"name", string}})})));
   EXPECT_EQ(dictionary["short"], Value("text"));
-  // Parts of different trees and built ones mix.
+  // Parts of parsed trees combine with built values.
   dictionary.set("list", array);
   array.editArray().append(string);
   string = Value();

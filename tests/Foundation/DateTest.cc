@@ -11,9 +11,9 @@ constexpr auto kInt64Max = std::numeric_limits<std::int64_t>::max();
 constexpr auto kInt64Min = std::numeric_limits<std::int64_t>::min();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-TEST(Date, WholeMillisecondsComeBackTruncatedNotRounded) {
+TEST(Date, TruncatesWholeMillisecondsInTheRoundTrip) {
   const std::pair<std::int64_t, std::int64_t> rows[] = {
-      {1001, 1000},  // 1.001 * 1000.0 lies below 1001
+      {1001, 1000},  // 1.001 * 1000.0 is below 1001
       {1500000000123, 1500000000123},
       {1080000000001, 1080000000000},
       {-1001, -1000},
@@ -23,7 +23,7 @@ TEST(Date, WholeMillisecondsComeBackTruncatedNotRounded) {
   EXPECT_EQ(Date::fromMilliseconds(1500000000123).secondsSince1970, 1500000000.123);
 }
 
-TEST(Date, FractionsOfMillisecondsFallTowardZeroAndExtremesAreClamped) {
+TEST(Date, RoundsFractionsTowardZeroAndClampsExtremes) {
   const std::pair<double, std::int64_t> rows[] = {
       {0.0019, 1},         {-0.0019, -1},          {1e300, kInt64Max},
       {-1e300, kInt64Min}, {kInfinity, kInt64Max}, {std::numeric_limits<double>::quiet_NaN(), 0},
@@ -32,7 +32,7 @@ TEST(Date, FractionsOfMillisecondsFallTowardZeroAndExtremesAreClamped) {
     EXPECT_EQ(Date{seconds}.milliseconds(), milliseconds);
 }
 
-TEST(Date, TextIsUtcWithoutTheFraction) {
+TEST(Date, IsDescribedInUtcWithoutTheFraction) {
   const std::pair<double, std::string_view> rows[] = {
       {0.0, "1970-01-01 00:00:00 +0000"},
       {1500000000.999, "2017-07-14 02:40:00 +0000"},

@@ -6,7 +6,7 @@
 namespace orvanta::testing {
 namespace {
 
-TEST(Description, OfSingleValuesIsPlain) {
+TEST(Description, PrintsSingleValuesPlainly) {
   EXPECT_EQ(describe(Value()), "(null)");
   EXPECT_EQ(describe(Value::null()), "<null>");
   EXPECT_EQ(describe("a \"text\"\n\u00e9"), "a \"text\"\n\u00e9");
@@ -18,7 +18,7 @@ TEST(Description, OfSingleValuesIsPlain) {
   EXPECT_EQ(describe(Dictionary()), "{\n}");
 }
 
-TEST(Description, OfCollectionsIsAnOldPropertyListWithSortedKeys) {
+TEST(Description, PrintsCollectionsAsAnOldPropertyListWithSortedKeys) {
   const Value value = parseJSON(R"({"none": null, "list": [1, "a b", {"k": [[]]}], "empty": [],
       "alert": {"title": "Hello!", "body": "hey"}, "Z": {}, "content-type": -1, "aa": true})");
   EXPECT_EQ(describe(value),
@@ -47,7 +47,7 @@ TEST(Description, OfCollectionsIsAnOldPropertyListWithSortedKeys) {
             "}");
 }
 
-TEST(Description, QuotesWhatIsNotLettersAndDigits) {
+TEST(Description, QuotesStringsOfOtherThanLettersAndDigits) {
   const std::pair<Value, std::string_view> rows[] = {
       {"plain09AZaz", "plain09AZaz"},
       {"", R"("")"},

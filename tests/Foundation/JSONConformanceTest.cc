@@ -2,13 +2,13 @@
 
 #include "support/Values.h"
 
-// Texts by category. A refused text has a "^" before the byte that the error names; an accepted one
-// is followed by " -> " and how it is written back, unless that is the same.
+// Documents by category. A rejected one has a "^" before the byte of the error; an accepted one is
+// followed by " -> " and its canonical form, where that differs.
 
 namespace orvanta::testing {
 namespace {
 
-using namespace std::string_literals;  // for texts that hold a NUL
+using namespace std::string_literals;  // for strings with a NUL
 
 constexpr std::string_view kEnd = "the text ends where a value should stand";
 constexpr std::string_view kValue = "expected a value";
@@ -16,7 +16,7 @@ constexpr std::string_view kTrailing = "text after the value";
 constexpr std::string_view kUTF8 = "text that is not UTF-8";
 constexpr std::string_view kDepth = "more than 512 nested containers";
 
-/// From a block of the text's own size, so that the address checker sees a step too far.
+/// Parses from a block of exactly the document's size, so that sanitizers see reads past its end.
 Value read(std::string_view text, JSONError* error = nullptr) {
   const std::vector<char> block(text.begin(), text.end());
   return parseJSON({block.data(), block.size()}, error);
@@ -30,7 +30,7 @@ void readsPrefixes(std::string_view text) {
   }
 }
 
-void refuses(std::string_view reason, std::string text) {
+void rejects(std::string_view reason, std::string text) {
   SCOPED_TRACE(text.substr(0, 100));
   const std::size_t offset = text.find('^');
   text.erase(offset, 1);
@@ -60,9 +60,9 @@ void accepts(Kind kind, const std::string& row) {
 }
 
 using Texts = std::vector<std::string>;
-void refuseAll(const std::vector<std::pair<std::string_view, Texts>>& groups) {
+void rejectAll(const std::vector<std::pair<std::string_view, Texts>>& groups) {
   for (const auto& [reason, texts] : groups) {
-    for (const std::string& text : texts) refuses(reason, text);
+    for (const std::string& text : texts) rejects(reason, text);
   }
 }
 void acceptAll(Kind kind, const Texts& texts) {
@@ -84,8 +84,8 @@ TEST(JSONConformance, AcceptsStructure) {
   acceptAll(Kind::null, {"null"});
 }
 
-TEST(JSONConformance, RefusesStructure) {
-  refuseAll(
+TEST(JSONConformance, RejectsStructure) {
+  rejectAll(
       {{kEnd, {"^", " ^", "\n\t^", "[^", "[1,^", "[[],^", "{\"a\":^"}},
        {"the text ends inside a container", {"[1^", "[[1]^", "{\"a\":1^", "{\"a\":{}^", "[{}  ^"}},
        {kValue, {"^]",      "^}",    "^,",        "^:",         "[^,",         "[^,1]",
@@ -106,7 +106,7 @@ TEST(JSONConformance, RefusesStructure) {
          "true^false", "[1]^//c", "{}^x"}}});
 }
 
-TEST(JSONConformance, TellsLineAndColumnOfAnError) {
+TEST(JSONConformance, ReportsLineAndColumnOfAnError) {
   const struct {
     std::string_view text;
     TextPosition position;
@@ -114,7 +114,7 @@ TEST(JSONConformance, TellsLineAndColumnOfAnError) {
               {"[\"a\nb\"]", {1, 4}},
               {"\r\n\r\n  [1,\r\n   ?]", {4, 4}},
               {"\xEF\xBB\xBF?", {1, 1}},
-              // Columns count characters; keys and containers that stand before must not matter.
+              // Columns count characters; preceding keys and containers do not matter.
               {"{\n  \"\u00e9\U0001F600\": [1, {\"long enough to be carved\": [tru]}]}", {2, 43}}};
   for (const auto& row : rows) {
     JSONError error;
@@ -148,8 +148,8 @@ TEST(JSONConformance, AcceptsNumbersAndKeepsTheirKind) {
                          "4." + zeros + "5e1 -> 40"});
 }
 
-TEST(JSONConformance, RefusesNumbers) {
-  refuseAll(
+TEST(JSONConformance, RejectsNumbers) {
+  rejectAll(
       {{kValue, {"^+1", "^.5", "^$1", "^Infinity", "^NaN", "[^inf]", "^\u0663", "^\uff11"}},
        {"expected a digit",
         {"-^",  "-^-1", "-^+1", "-^ 1",  "-^a",    "-^.5",  "1.^",        "1.^e2", "1.^-2", "[1.^]",
@@ -177,8 +177,8 @@ TEST(JSONConformance, AcceptsStrings) {
                            '"' + x + "\\n" + x + R"(\u00e9" -> ")" + x + "\\n" + x + "\u00e9\""});
 }
 
-TEST(JSONConformance, RefusesStrings) {
-  refuseAll(
+TEST(JSONConformance, RejectsStrings) {
+  rejectAll(
       {{"a string without its closing quote", {"^\"", "^\"abc", "[^\"a", R"(^"a\")", R"({^"a:1})"}},
        {"the text ends inside an escape", {R"("^\)", R"("abcdefgh^\)"}},
        {"an unknown escape",
@@ -190,7 +190,7 @@ TEST(JSONConformance, RefusesStrings) {
          R"("^\u-123")", R"("^\u 123")", R"("^\u0x41")", R"("^\u{41}")", R"("ab^\u004")"}},
        {kValue, {"^'a'", "^`a`", "^a", "^\u201ca\u201d"}}});
   for (char control = 0; control < ' '; ++control) {
-    refuses("a control character in a string", std::string("[\"a^").append(1, control) + "\"]");
+    rejects("a control character in a string", std::string("[\"a^").append(1, control) + "\"]");
   }
 }
 
@@ -226,40 +226,41 @@ TEST(JSONConformance, AcceptsUTF8) {
   }
 }
 
-TEST(JSONConformance, RefusesWhatIsNotUTF8) {
+TEST(JSONConformance, RejectsInvalidUTF8) {
   for (const std::string bytes :
-       {// Bytes that begin nothing, too long forms, surrogates, beyond the last character
+       {// Invalid lead bytes, overlong forms, surrogates, beyond the last character
         "\x80", "\xBF", "\xC0\x80", "\xC1\xBF", "\xE0\x80\x80", "\xE0\x9F\xBF", "\xF0\x80\x80\x80",
         "\xF0\x8F\xBF\xBF", "\xED\xA0\x80", "\xED\xBF\xBF", "\xED\xA0\xBD\xED\xB8\x80",
         "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xF8\x88\x80\x80\x80", "\xFC\x84\x80\x80\x80\x80",
         "\xFE", "\xFF",
-        // Cut short or broken off
+        // Truncated sequences
         "\xC3", "\xE2\x82", "\xF0\x9F\x98", "\xC3(", "\xE2(\xA1", "\xE2\x82(", "\xF0(\x8C\xBC",
         "\xF0\x90(\xBC", "\xF0\x9F\x98(", "\xC3\xC3\xA9", "\xE9t\xE9"}) {
-    refuses(kUTF8, "\"^" + bytes + "\"");
-    refuses(kUTF8, "\"^" + bytes);
-    refuses(kUTF8, "{\"\\n^" + bytes + "\":1}");
-    refuses(kValue, "[^" + bytes + "]");
+    rejects(kUTF8, "\"^" + bytes + "\"");
+    rejects(kUTF8, "\"^" + bytes);
+    rejects(kUTF8, "{\"\\n^" + bytes + "\":1}");
+    rejects(kValue, "[^" + bytes + "]");
   }
 }
 
 // ---- Depth and size ---------------------------------------------------------
 
-TEST(JSONConformance, AcceptsFiveHundredAndTwelveLevels) {
+TEST(JSONConformance, AcceptsUpTo512NestedContainers) {
   for (const std::string open : {"[", R"({"a":)", "[0,", R"([{"a":0,"b":)"}) {
     const bool isPair = open.size() > 5;
     const std::string close = isPair ? "}]" : open[0] == '[' ? "]" : "}";
     const std::size_t most = isPair ? 256 : 512;
     accepts(open[0] == '[' ? Kind::array : Kind::dictionary, nested(most, open, close, "1"));
     for (const std::string core : {"^[]", "^{}", "^[1]", "^["}) {
-      refuses(kDepth, nested(most, open, close, core));
+      rejects(kDepth, nested(most, open, close, core));
     }
-    refuses(kDepth, nested(most, open, "") + "^" + nested(100'000, open, ""));
+    rejects(kDepth, nested(most, open, "") + "^" + nested(100'000, open, ""));
   }
   accepts(Kind::array, nested(512, "[", "]"));
-  refuses(kEnd, nested(512, "[", "") + "^");
-  refuses(kTrailing, nested(512, "[", "]") + "^]");
-  accepts(Kind::array, "[" + nested(2000, "[],", "", "[]") + "]");  // not the depth, the number
+  rejects(kEnd, nested(512, "[", "") + "^");
+  rejects(kTrailing, nested(512, "[", "]") + "^]");
+  accepts(Kind::array,
+          "[" + nested(2000, "[],", "", "[]") + "]");  // many containers, not deep ones
 }
 
 TEST(JSONConformance, AcceptsEverySizeOfContainer) {
@@ -284,7 +285,7 @@ TEST(JSONConformance, AcceptsEverySizeOfContainer) {
 
 // ---- What the grammar leaves open -------------------------------------------
 
-TEST(JSONConformance, HasARuleForWhatIsLeftOpen) {
+TEST(JSONConformance, HasARuleForWhatTheGrammarLeavesOpen) {
   const struct {
     std::string_view rule;
     Kind kind;
@@ -314,7 +315,7 @@ TEST(JSONConformance, HasARuleForWhatIsLeftOpen) {
     acceptAll(kind, texts);
   }
   // A second mark, UTF-16, numbers beyond a double, half of a pair
-  refuseAll({{kValue,
+  rejectAll({{kValue,
               {"\xEF\xBB\xBF^\xEF\xBB\xBF[1]", " ^\xEF\xBB\xBF[1]", "^\xFF\xFE[\0]\0"s,
                "^\xFE\xFF\0[\0]"s, "[^\0]\0"s, "^\0[\0]"s}},
              {"a number beyond the range of a double",

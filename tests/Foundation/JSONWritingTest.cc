@@ -48,7 +48,7 @@ TEST(JSONWriting, DoublesReadBackAsTheSameNumber) {
   }
 }
 
-TEST(JSONWriting, AmountsHaveTheShortestText) {
+TEST(JSONWriting, WritesAmountsWithTheFewestDigits) {
   const auto check = [](double number) {
     char text[40];
     const auto end = std::to_chars(text, std::end(text), number).ptr;
@@ -104,7 +104,7 @@ TEST(JSONWriting, LaysOutContainers) {
   EXPECT_EQ(text, "before [1]");
 }
 
-TEST(JSONWriting, RefusesWhatJSONCannotHold) {
+TEST(JSONWriting, RejectsWhatJSONCannotRepresent) {
   for (const Value& value :
        {Value(), Value(Date{}), Value(*Url::parse("a")), Value(Labelled::make(1)),
         Value(&Plain::kClass), Value(kNaN), Value(kInfinity), Value(-kInfinity),
@@ -119,7 +119,7 @@ TEST(JSONWriting, RefusesWhatJSONCannotHold) {
   }
 }
 
-TEST(JSONWriting, TakesFiveHundredAndTwelveLevels) {
+TEST(JSONWriting, WritesUpTo512NestedContainers) {
   Value array = Array();
   Value dictionary = Dictionary();
   for (int depth = 1; depth < 512; ++depth) {

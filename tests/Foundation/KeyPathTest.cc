@@ -44,7 +44,7 @@ TEST(KeyPath, ReadsPropertiesOfObjects) {
             "value coding-compliant for the key other.");
 }
 
-TEST(KeyPath, RaisesAtAValueWithoutKeys) {
+TEST(KeyPath, ThrowsAtAValueWithoutKeys) {
   const struct {
     std::string_view receiver;
     std::string_view path;

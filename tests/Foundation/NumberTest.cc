@@ -83,9 +83,9 @@ TEST(Number, IsDescribedByItsKind) {
   for (const auto& [value, text] : rows) EXPECT_EQ(describe(value), text);
 }
 
-// ---- Readings of text -----------------------------------------------------
+// ---- Strings as scalars ----
 
-TEST(ScalarReading, TakesIntegersOutOfText) {
+TEST(ScalarReading, ParsesIntegersFromStrings) {
   const struct {
     std::string_view text;
     std::int32_t narrow;
@@ -95,7 +95,7 @@ TEST(ScalarReading, TakesIntegersOutOfText) {
       {"", 0, 0, 0},
       {"+-5", 0, 0, 0},
       {" \t\n\v\f\r-7x", -7, -7, kUint64Max - 6},
-      {"\u00a07", 0, 0, 0},  // a no-break space is no white space
+      {"\u00a07", 0, 0, 0},  // a no-break space does not count as white space
       {"0x1F", 0, 0, 0},
       {"1e3", 1, 1, 1},
       {"2147483647", kInt32Max, 2147483647, 2147483647},
@@ -114,10 +114,10 @@ TEST(ScalarReading, TakesIntegersOutOfText) {
   }
 }
 
-TEST(ScalarReading, TakesRealsOutOfText) {
+TEST(ScalarReading, ParsesRealsFromStrings) {
   const std::pair<std::string, double> rows[] = {
       {"", 0.0},
-      {"-abc", 0.0},  // no number, so no sign either
+      {"-abc", 0.0},  // without digits the sign is ignored
       {".", 0.0},
       {"--1", 0.0},
       {" \n+30.25kg", 30.25},
@@ -147,7 +147,7 @@ TEST(ScalarReading, TakesRealsOutOfText) {
   EXPECT_EQ(scalarReading<float>("-1e39"), -std::numeric_limits<float>::infinity());
 }
 
-TEST(ScalarReading, TakesBooleansOutOfText) {
+TEST(ScalarReading, ParsesBooleansFromStrings) {
   for (const std::string_view text :
        {"yes", "Y", "true", "Tx", "1", "9", " \t+007", "-2", "0001x", "00y", "-Y"}) {
     EXPECT_TRUE(scalarReading<bool>(text)) << text;

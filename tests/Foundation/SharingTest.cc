@@ -6,7 +6,7 @@
 namespace orvanta::testing {
 namespace {
 
-/// The same value with every container and text made anew.
+/// A copy with new containers and strings.
 Value rebuilt(const Value& value) {
   if (const auto text = value.string()) return *text;
   if (const Array* array = value.array()) {
@@ -32,7 +32,7 @@ TEST(Sharing, ThreadsReadCopyAndDropOneTree) {
   text += R"("last": null}})";
   for (const bool built : {false, true}) {
     Value tree = parseJSON(text);
-    if (built) tree = rebuilt(tree);  // on the heap every node has a count of its own
+    if (built) tree = rebuilt(tree);  // on the heap each node has its own count
     const std::string before = describe(tree);
     // One copy for each thread; the last one to drop it frees the tree.
     std::vector<Value> copies(4, tree);
@@ -66,7 +66,7 @@ TEST(Sharing, PartsDroppedInDifferentThreadsFreeTheTreeOnce) {
   }
 }
 
-TEST(Sharing, ThreadsHoldOneObject) {
+TEST(Sharing, ThreadsShareOneObject) {
   ASSERT_EQ(Labelled::alive, 0);
   std::vector<Value> copies(4, Value(Labelled::make("x")));
   runTogether([&](int thread) {

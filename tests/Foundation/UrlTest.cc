@@ -7,7 +7,7 @@
 namespace orvanta::testing {
 namespace {
 
-TEST(Url, KeepsTheTextOfEveryLegalOne) {
+TEST(Url, KeepsEveryValidString) {
   for (const std::string_view text :
        {"", "abc", "/a/b", "https://user:pw@host:80/p;a=1/~x?q=a&b=(c)*!'$,+-_#frag/?",
         "http://[::1]/", "a[b]", "scheme%3A%2F%2Fhost", "%aF", "#", "//", "?", "a%00b"}) {
@@ -18,7 +18,7 @@ TEST(Url, KeepsTheTextOfEveryLegalOne) {
   }
 }
 
-TEST(Url, RefusesWhatNoUrlHolds) {
+TEST(Url, RejectsInvalidCharactersAndEscapes) {
   for (const std::string_view text : {" ",    "a b",   "\"",   "<",    ">",
                                       "\\",   "^",     "`",    "{",    "|",
                                       "}",    "\n",    "\x7F", "a\tb", "http://x/\xC3\xA4",
@@ -30,7 +30,7 @@ TEST(Url, RefusesWhatNoUrlHolds) {
   EXPECT_FALSE(Url::parse(std::string_view("%41").substr(0, 2)).has_value());
 }
 
-TEST(PercentEncoding, WritesWhatIsOutsideTheSet) {
+TEST(PercentEncoding, EncodesCharactersOutsideTheSet) {
   const std::pair<std::string_view, std::string_view> rows[] = {
       {"app://host/path?x=1", "app:%2F%2Fhost%2Fpath%3Fx=1"},
       {"%20", "%2520"},

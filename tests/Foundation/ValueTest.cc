@@ -9,7 +9,7 @@ namespace {
 
 const std::string kLong = "a text that does not fit into the value";
 
-TEST(Value, OneEqualsAnotherOnlyOfItsOwnContent) {
+TEST(Value, EqualsOnlyTheSameContent) {
   const Value values[] = {Value(),
                           Value::null(),
                           0,
@@ -34,7 +34,7 @@ TEST(Value, OneEqualsAnotherOnlyOfItsOwnContent) {
   }
 }
 
-TEST(Value, EqualContentMadeApartIsEqualAndHashesAlike) {
+TEST(Value, EqualContentCreatedSeparatelyHashesAlike) {
   const auto expectEqual = [](const Value& a, const Value& b) {
     EXPECT_EQ(a, b);
     EXPECT_EQ(a.hash(), b.hash());
@@ -49,7 +49,7 @@ TEST(Value, EqualContentMadeApartIsEqualAndHashesAlike) {
   expectEqual(Labelled::make("x"), Labelled::make("x"));
 }
 
-TEST(Value, TextsOfEveryLengthAroundTheInlineOnesKeepTheirBytes) {
+TEST(Value, StringsAroundTheInlineLengthKeepTheirBytes) {
   std::unordered_set<std::string> seen;
   for (const std::size_t length : {0U, 1U, 7U, 8U, 13U, 14U, 15U, 16U, 17U, 255U, 256U, 1000U}) {
     for (const char last : {'z', '\0', '\xFF'}) {
@@ -112,7 +112,7 @@ TEST(Value, AssigningItselfOrAPartOfItselfKeepsTheContent) {
   EXPECT_EQ(dictionary, Dictionary({{"a", kLong}}));
 }
 
-TEST(Value, ObjectsAreReferencesThatLiveWithTheLastOfThem) {
+TEST(Value, ObjectsLiveAsLongAsTheLastReference) {
   ASSERT_EQ(Labelled::alive, 0);
   {
     Ref<Labelled> object = Labelled::make("x");

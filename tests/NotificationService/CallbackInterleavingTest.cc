@@ -1,19 +1,19 @@
 #include "NotificationService/ExtensionRun.h"
 #include "support/LogLevel.h"
 
-// Every order in which the callbacks of a notification, expiries and a second request can come. The
-// order of what is registered and delivered, and what that holds, follows from a few rules.
+// Explores every order of the callbacks of a notification, expiries and a second request. A few
+// rules predict what is registered and delivered, in which order and with which content.
 
 namespace orvanta::testing {
 namespace {
 
-/// What a request asks for.
+/// The enrichments that a request asks for.
 struct Kind {
   bool buttons, media, icon;
   friend bool operator==(const Kind&, const Kind&) = default;
 };
 
-/// What the two requests ask for, and what becomes of it.
+/// The two requests, the number of expiries and the faults.
 struct World {
   Kind first, second;
   int expiries;
@@ -32,8 +32,8 @@ struct Waiting {
   Step step;
 };
 
-/// One delivery: whose handler got what, after how many registrations. The contents are named after
-/// their requests.
+/// One delivery: the handler, the content and the number of registrations before it. Contents are
+/// named after their requests.
 struct Delivered {
   int handler;
   std::string content;
@@ -45,9 +45,9 @@ struct Delivered {
   }
 };
 
-/// The rules. A step takes the content of the request that arrived last when the step begins, and
-/// that content's media and sender; whether there is such a step, its own request says. What the
-/// pipeline delivers, it took when the registration was done. A registration keeps all before it.
+/// The rules. A request decides which of its steps run. A step reads the content of the request
+/// that is the last when the step begins. The pipeline delivers the content that was the best
+/// attempt when the registration ended. A registration keeps the earlier categories.
 class Rules {
  public:
   explicit Rules(const World& explored) : world(explored) {}
@@ -85,7 +85,7 @@ class Rules {
   World world;
   std::vector<Waiting> waiting;
   std::string registered = "older";
-  std::vector<std::string> registrations;  // what was registered then
+  std::vector<std::string> registrations;  // the registered categories after each registration
   std::vector<Delivered> deliveries;
   int current = 0;
 
@@ -124,7 +124,7 @@ class Order {
     if (world.updateFails) run_.platform.updateError = error("UNErrorDomain", 1);
   }
 
-  /// Follows the choices, adding to them, and leaves behind how many each step had.
+  /// Follows the choices and extends them; `widths` receives the number of choices at each step.
   void follow(std::vector<std::size_t>& choices, std::vector<std::size_t>& widths) {
     arrive(1);
     bool secondIsOut = true;
@@ -153,8 +153,8 @@ class Order {
         rules_.expire();
       }
     }
-    // The plain sentence: a handler is called by the pipeline, once more when the content update
-    // fails, and once more for each expiry that comes while its request is the last that arrived.
+    // A handler is called by the pipeline, again when the content update fails, and again for each
+    // expiry while its request is the last that arrived.
     const World& world = rules_.world;
     for (const int handler : {1, 2}) {
       const bool isStuck = world.of(handler).buttons && world.centerGone;
@@ -183,7 +183,7 @@ class Order {
     std::string payload = payloadWith(parts);
     payload.replace(payload.find("offer"), 5, categoryOf(request));
     run_.platform.download.name = "file" + std::to_string(request);
-    rules_.arrive(request);  // first: it may deliver at once
+    rules_.arrive(request);  // first, since it may deliver immediately
     run_.receive(payload, [this, request](const ExtensionRun::Content& content) {
       std::string name = content == nullptr ? "nothing" : *content->title;
       if (content != nullptr && !content->attachments.empty()) name += " with media";
@@ -192,7 +192,7 @@ class Order {
     });
   }
 
-  /// The identifiers of each set that was written.
+  /// The identifiers in each written set.
   std::vector<std::string> registrations() const {
     std::vector<std::string> sets;
     for (const UNNotificationCategorySet& set : center_->written) {
@@ -205,7 +205,7 @@ class Order {
 
   ExtensionRun run_;
   const std::shared_ptr<FakePlatform::Center> center_ = run_.platform.center;
-  std::size_t expired_[3] = {};  // by the last request when an expiry came
+  std::size_t expired_[3] = {};  // expiries by the request that was the last
   Rules rules_;
   std::vector<Delivered> deliveries_;
 };
@@ -229,7 +229,7 @@ std::size_t explore(const World& world, std::size_t& twice) {
   }
 }
 
-TEST(CallbackInterleaving, EveryOrderDoesWhatTheRulesSay) {
+TEST(CallbackInterleaving, EveryOrderFollowsTheRules) {
   const LogLevel silent(0);
   std::size_t orders = 0;
   std::size_t twice = 0;
@@ -237,7 +237,7 @@ TEST(CallbackInterleaving, EveryOrderDoesWhatTheRulesSay) {
     const auto bit = [&](unsigned number) { return (bits >> number & 1U) != 0; };
     const Kind first{bit(0), bit(1), bit(2)};
     const Kind second{bit(3), bit(4), bit(5)};
-    // To keep them few: faults, or two expiries, come to requests of one kind.
+    // Faults and second expiries are combined only with requests of one kind, to limit the number.
     const bool isFaulty = bits >> 6U != 0;
     const int expiries = first == second && !isFaulty ? 2 : 1;
     const World world{first, second, expiries, bit(6), bit(7), bit(8), bit(9)};
@@ -252,7 +252,7 @@ TEST(CallbackInterleaving, EveryOrderDoesWhatTheRulesSay) {
   RecordProperty("twice", static_cast<int>(twice));
 }
 
-TEST(CallbackInterleaving, NoneIsLeftOut) {
+TEST(CallbackInterleaving, ExploresEveryOrder) {
   const LogLevel silent(0);
   const Kind full{true, true, true};
   const Kind plain{};
@@ -267,7 +267,7 @@ TEST(CallbackInterleaving, NoneIsLeftOut) {
       {{full, full, 1}, 280, 56},
       {{full, full, 2}, 1260, 420},
       {{.first = full, .second = full, .expiries = 0, .updateFails = true}, 35, 35},
-      // Behind the plain one, the first has no donation to wait for: 4 + 4 + 5 + 5.
+      // After the plain one, the first request waits for no donation: 4 + 4 + 5 + 5.
       {{full, plain, 1}, 18, 10},
       {{plain, full, 1}, 5, 1},
   };

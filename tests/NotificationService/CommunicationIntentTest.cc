@@ -7,7 +7,7 @@ namespace {
 
 const std::string kJPEG = "\xFF\xD8\xFFstar.png";
 
-/// An extension whose best attempt names an icon, and a content to be changed.
+/// An extension whose best attempt names an icon, and a content to change.
 class CommunicationIntent : public ::testing::Test, protected ExtensionRun {
  protected:
   CommunicationIntent() {
@@ -62,7 +62,7 @@ TEST_F(CommunicationIntent, CallsBackAsTheStepsEnd) {
 
 TEST_F(CommunicationIntent, WithoutIconTheContentIsDeliveredAtOnce) {
   extension->bestAttemptContent()->userInfo = {};
-  content_->userInfo = dictionaryFromJSON(payloadWith({kIcon}));  // which is not read
+  content_->userInfo = dictionaryFromJSON(payloadWith({kIcon}));  // is not read
   setIntent();
   EXPECT_EQ(journal(), "deliver");
   EXPECT_EQ(delivered[0], content_);

@@ -13,7 +13,7 @@ constexpr std::string_view kButtons = R"("ia": [{"id": "buy", "text": "Buy"}])";
 constexpr std::string_view kMedia = R"("mu": "https://m.example/a")";
 constexpr std::string_view kIcon = R"("ps": {"iospi": "star"})";
 
-/// A payload of such parts, with a category identifier.
+/// A payload with these parts and a category identifier.
 inline std::string payloadWith(const std::vector<std::string_view>& parts) {
   std::string own;
   for (const std::string_view part : parts) own.append(own.empty() ? "" : ", ").append(part);
@@ -24,7 +24,7 @@ inline Ref<NSError> error(std::string_view domain, std::int64_t code) {
   return NSError::errorWithDomain(domain, code, "Not now.");
 }
 
-/// An extension on the double, and what its handler was given.
+/// An extension on a `FakePlatform`, with the contents that its handler received.
 class ExtensionRun {
  public:
   using Content = std::shared_ptr<const UNNotificationContent>;
@@ -32,12 +32,12 @@ class ExtensionRun {
   FakePlatform platform;
   std::shared_ptr<OrvantaNotificationServiceExtension> extension =
       std::make_shared<OrvantaNotificationServiceExtension>();
-  UNNotificationContent original;  // of requests, but for the payload
+  UNNotificationContent original;  // the content of requests, except the payload
   std::vector<Content> delivered;
 
   ExtensionRun() { original.title = "Ana"; }
 
-  /// Hands a request over and returns its content.
+  /// Passes a request to the extension and returns its content.
   Content receive(std::string_view payload) { return receive(payload, handler()); }
   Content receive(std::string_view payload, UNContentHandler contentHandler) {
     auto content = std::make_shared<UNNotificationContent>(original);
@@ -46,7 +46,7 @@ class ExtensionRun {
     return content;
   }
 
-  /// Keeps the content and enters "NAME", "NAME nothing", "NAME media" … among the calls.
+  /// Stores the content and records the call as "NAME", "NAME nothing", "NAME media" and so on.
   UNContentHandler handler(const std::string& name = "deliver") {
     return [this, name](const Content& content) {
       std::string call = name;
@@ -57,7 +57,7 @@ class ExtensionRun {
       delivered.push_back(content);
     };
   }
-  /// Enters "complete" or "complete CODE".
+  /// Records the call as "complete" or "complete CODE".
   ErrorCompletion completion() {
     return [this](const Ref<NSError>& result) {
       platform.calls.push_back("complete" + (result ? " " + std::to_string(result->code()) : ""));

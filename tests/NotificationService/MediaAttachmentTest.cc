@@ -27,7 +27,7 @@ class MediaAttachment : public ::testing::Test, protected ExtensionRun {
       std::make_shared<UNMutableNotificationContent>();
 };
 
-TEST_F(MediaAttachment, BecomesTheOnlyAttachmentOfThatContent) {
+TEST_F(MediaAttachment, ReplacesTheAttachmentsOfTheContent) {
   downloadAndSet();
   EXPECT_EQ(journal(), "download https://m.example/a");
   platform.runAll();
@@ -36,7 +36,7 @@ TEST_F(MediaAttachment, BecomesTheOnlyAttachmentOfThatContent) {
   EXPECT_TRUE(extension->bestAttemptContent()->attachments.empty());
 }
 
-TEST_F(MediaAttachment, AFailureCompletesWithItsErrorAndLeavesTheContent) {
+TEST_F(MediaAttachment, AFailureCompletesWithItsErrorAndKeepsTheContent) {
   const LogLevel silent(0);
   platform.attachmentError = error("D", 102);
   downloadAndSet();
@@ -51,7 +51,7 @@ TEST_F(MediaAttachment, AFailureCompletesWithItsErrorAndLeavesTheContent) {
   EXPECT_EQ(content_->attachments.size(), 2U);
 }
 
-TEST_F(MediaAttachment, ATypeThatCannotBeToldIsNoHint) {
+TEST_F(MediaAttachment, AnUnknownTypeGivesNoHint) {
   const LogLevel silent(0);
   platform.download.response.mimeType = std::nullopt;
   for (const bool hasResponse : {true, false}) {
@@ -74,7 +74,7 @@ TEST_F(MediaAttachment, KeepsTheNameOfTheTemporaryFile) {
   }
 }
 
-TEST_F(MediaAttachment, TheLastCachesFolderIsMeant) {
+TEST_F(MediaAttachment, UsesTheLastCachesFolder) {
   EXPECT_EQ(OrvantaNotificationServiceExtension::cacheURL()->absoluteString(), "file:///caches/");
   platform.cachesFolders.pop_back();
   EXPECT_EQ(OrvantaNotificationServiceExtension::cacheURL()->absoluteString(), "file:///library/");

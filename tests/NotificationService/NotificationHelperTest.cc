@@ -21,7 +21,7 @@ UNNotificationCategory category(std::string identifier, const char* action) {
   return {std::move(identifier), {UNNotificationAction::actionWithIdentifier(action, "", 0)}};
 }
 
-TEST(NotificationHelper, FixedTitlesAreTheBundlesOrElseTheirKeys) {
+TEST(NotificationHelper, LocalizesFixedTitles) {
   const auto titles = [] {
     std::string text;
     const UNNotificationCategorySet set = NotificationHelper::setForCategories({});
@@ -40,7 +40,7 @@ TEST(NotificationHelper, FixedTitlesAreTheBundlesOrElseTheirKeys) {
   EXPECT_EQ(titles(), "[►►][Go To App 🚀]");
 }
 
-TEST(NotificationHelper, ANewCategoryReplacesOneOfItsIdentifierAndTheOthersStay) {
+TEST(NotificationHelper, ANewCategoryReplacesOneWithItsIdentifier) {
   const struct {
     std::vector<UNNotificationCategory> registered;
     std::vector<UNNotificationCategory> added;
@@ -82,7 +82,7 @@ TEST(NotificationHelper, CompletesWithTrueAfterTheRegistration) {
   }
 }
 
-TEST(NotificationHelper, ACenterThatIsAskedLivesUntilItAnswers) {
+TEST(NotificationHelper, ACenterLivesUntilItsCallback) {
   FakePlatform platform;
   const std::weak_ptr<FakePlatform::Center> center = platform.center;
   NotificationHelper::setNotificationCategories({}, std::exchange(platform.center, nullptr), {});

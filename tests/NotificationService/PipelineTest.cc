@@ -5,7 +5,7 @@
 namespace orvanta::testing {
 namespace {
 
-TEST(Pipeline, DoesWithoutAbsentServicesAndTellsOfAFailedUpdateTwice) {
+TEST(Pipeline, SkipsMissingServicesAndDeliversTwiceAfterAFailedUpdate) {
   using Arrange = void (*)(FakePlatform&);
   const Arrange noUpdate = [](FakePlatform& p) { p.updateError = error("D", 1501); };
   const Arrange noCenter = [](FakePlatform& p) { p.absent = {"center"}; };
@@ -26,7 +26,7 @@ TEST(Pipeline, DoesWithoutAbsentServicesAndTellsOfAFailedUpdateTwice) {
     std::string journal;
   } rows[] = {
       {{kMedia, kIcon}, noUpdate, attached + updated + "deliver media, deliver nothing"},
-      // A registration that never ends; other payloads do without a center.
+      // The registration never ends; payloads without buttons need no center.
       {{kButtons, kMedia, kIcon}, noCenter, ""},
       {{kMedia}, noCenter, attached + "deliver media"},
       {{kButtons, kMedia, kIcon}, noFiles, "read, write, " + updated + "deliver sender"},
@@ -45,7 +45,7 @@ TEST(Pipeline, DoesWithoutAbsentServicesAndTellsOfAFailedUpdateTwice) {
   }
 }
 
-TEST(Pipeline, ChangesItsOwnCopyAndHandsThatOver) {
+TEST(Pipeline, ChangesAndDeliversItsOwnCopy) {
   for (const auto& parts : std::vector<std::vector<std::string_view>>{{}, {kButtons}, {kMedia}}) {
     ExtensionRun run;
     const auto original = run.receive(payloadWith(parts));
@@ -72,15 +72,15 @@ TEST(Pipeline, ValuesOfAnotherKindCountAsAbsent) {
       {R"({"aps": {"category": "offer"}, "_ov": {"ia": ["buy", 5, null, [{"id": "buy"}]]}})",
        kUnchanged},
       {R"({"aps": {"category": "offer"}, "_ov": {"ia": ["buy", {}]}})", kRegistered},
-      // the media; a value that is no text makes the whole payload unreadable
+      // Media: a value that is not a string makes the whole payload unreadable.
       {R"({"_ov": {"mu": "no URL", "ps": {"iospi": "moon"}}})", "image moon, deliver"},
       {R"({"_ov": {"mu": 5, "ps": {"iospi": "moon"}}})", kUnchanged},
-      // the icon
+      // Icon.
       {R"({"_ov": {"ps": {"iospi": ""}}})", "image , deliver"},
       {R"({"_ov": {"mu": "https://m.example/a", "ps": {"iospi": 5}}})", kDownloaded},
       {R"({"_ov": {"mu": "https://m.example/a", "ps": "star"}})", kDownloaded},
       {R"({"_ov": {"mu": "https://m.example/a", "ps": [{"iospi": "star"}]}})", kDownloaded},
-      // nothing is read from what should be a dictionary and is none
+      // A part that is not a dictionary makes the payload unreadable.
       {R"({"aps": "text", "_ov": {"mu": "https://m.example/a"}})", kUnchanged},
       {R"({"aps": {"category": "offer"}, "_ov": "text"})", kUnchanged},
       {R"({"_ov": null})", kUnchanged},
@@ -113,7 +113,7 @@ TEST(Pipeline, StepsReadThePayloadOfTheBestAttempt) {
             "attach public.jpeg, image sun, deliver media");
 }
 
-TEST(Pipeline, WhatIsDoneAtAllIsDecidedByThePayloadAsItCame) {
+TEST(Pipeline, TheOriginalPayloadDecidesWhichStepsRun) {
   ExtensionRun run;
   const LogLevel silent(0);
   run.receive(payloadWith({kButtons, kMedia, kIcon}));
@@ -124,7 +124,7 @@ TEST(Pipeline, WhatIsDoneAtAllIsDecidedByThePayloadAsItCame) {
 
 // ---- Expiry ----------------------------------------------------------------
 
-TEST(Pipeline, ExpiryDeliversWhatThereIsAndPendingStepsDeliverOnceMore) {
+TEST(Pipeline, ExpiryDeliversTheBestAttemptAndPendingStepsDeliverAgain) {
   const std::string steps[] = {"read", "write, download https://m.example/a",
                                "move CFNetworkDownload_abc123.tmp, attach public.jpeg, image star, "
                                "encode 1, donate",
@@ -148,7 +148,7 @@ TEST(Pipeline, ExpiryDeliversWhatThereIsAndPendingStepsDeliverOnceMore) {
   }
 }
 
-TEST(Pipeline, MediaThatComesAfterExpiryLandsOnTheDeliveredContent) {
+TEST(Pipeline, MediaAfterExpiryIsAttachedToTheDeliveredContent) {
   ExtensionRun run;
   run.receive(payloadWith({kMedia}));
   run.extension->serviceExtensionTimeWillExpire();
@@ -173,7 +173,7 @@ TEST(Pipeline, ExpiryBeforeAnyRequestIsOnlyLogged) {
   EXPECT_EQ(run.platform.log.size(), 1U);
 }
 
-TEST(Pipeline, WithoutARequestThereIsNothingToReadOrDeliver) {
+TEST(Pipeline, WithoutARequestDeliversNothing) {
   ExtensionRun run;
   const LogLevel silent(0);
   const auto object = modelFromJSON<OrvantaPushObject>(payloadWith({kMedia, kIcon}));
@@ -187,7 +187,7 @@ TEST(Pipeline, WithoutARequestThereIsNothingToReadOrDeliver) {
 TEST(Pipeline, AStepOfAnEarlierRequestReadsTheBestAttemptOfALaterOne) {
   const struct {
     std::vector<std::string_view> parts;
-    bool firstGetsLater;  // instead of the content of its own
+    bool firstGetsLater;  // instead of its own content
   } rows[] = {
       {{kButtons}, true},
       {{kMedia}, false},
@@ -217,7 +217,7 @@ TEST(Pipeline, AStepOfAnEarlierRequestReadsTheBestAttemptOfALaterOne) {
   }
 }
 
-TEST(Pipeline, PendingStepsKeepTheExtensionAliveAndTheLastOneFreesIt) {
+TEST(Pipeline, PendingStepsKeepTheExtensionAlive) {
   const std::weak_ptr<OrvantaNotificationServiceExtension> weak = [] {
     ExtensionRun run;
     run.receive(payloadWith({kButtons, kMedia, kIcon}));
@@ -234,7 +234,7 @@ TEST(Pipeline, PendingStepsKeepTheExtensionAliveAndTheLastOneFreesIt) {
   EXPECT_TRUE(weak.expired());
 }
 
-TEST(Pipeline, TheCenterIsNotKept) {
+TEST(Pipeline, ReferencesTheCenterWeakly) {
   ExtensionRun run;
   run.receive(payloadWith({}));
   EXPECT_EQ(run.extension->notificationCenter(), run.platform.center);

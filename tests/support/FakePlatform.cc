@@ -19,7 +19,7 @@ struct MediaType {
   std::string_view identifier;
   std::string_view mimeType;
   std::string_view extension;
-  std::string_view family;  // empty: not shown
+  std::string_view family;  // empty: cannot be attached
   std::uint64_t maxBytes;
 };
 constexpr MediaType kTypes[] = {
@@ -107,17 +107,17 @@ std::optional<std::string> FakePlatform::preferredIdentifierForMIMEType(
 UNNotificationAttachmentFactory::Result FakePlatform::attachmentWithIdentifier(
     const std::string& identifier, const Url& url, const std::optional<std::string>& typeHint) {
   calls.push_back("attach " + typeHint.value_or("no type"));
-  const auto refused = [](std::int64_t code) {
+  const auto failure = [](std::int64_t code) {
     return Result{nullptr, NSError::errorWithDomain("UNErrorDomain", code, "not this file")};
   };
   if (attachmentError) return {nullptr, attachmentError};
   const auto file = files.find(url.path());
-  if (!url.isFileURL() || file == files.end()) return refused(100);
+  if (!url.isFileURL() || file == files.end()) return failure(100);
   const auto* const type = std::find_if(std::begin(kTypes), std::end(kTypes), [&](const auto& t) {
     return typeHint ? t.identifier == *typeHint : url.path().ends_with(t.extension);
   });
-  if (type == std::end(kTypes) || type->family.empty()) return refused(101);
-  if (file->second > type->maxBytes) return refused(102);
+  if (type == std::end(kTypes) || type->family.empty()) return failure(101);
+  if (file->second > type->maxBytes) return failure(102);
   return {UNNotificationAttachment::attachmentWithParts({.identifier = identifier,
                                                          .url = url,
                                                          .typeHint = typeHint,

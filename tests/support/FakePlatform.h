@@ -20,9 +20,8 @@
 
 namespace orvanta::testing {
 
-/// A platform in memory. Its services keep their callbacks waiting until the test runs them; the
-/// members say what there is, what goes wrong, and what was done. While it
-/// lives it is the platform of the thread that made it.
+/// A platform in memory, which replaces the platform of its thread during its lifetime. Its
+/// services keep their callbacks pending until the test runs them.
 class FakePlatform final : public Platform,
                            private Clock,
                            private SystemLog,
@@ -47,8 +46,8 @@ class FakePlatform final : public Platform,
     FakePlatform& platform_;
   };
 
-  /// What every download ends with: the error if there is one, else the file. The response has the
-  /// URL that was asked for.
+  /// The result of every download: the error if there is one, otherwise the file. The response has
+  /// the requested URL.
   struct Download {
     std::string name = "CFNetworkDownload_abc123.tmp";
     std::uint64_t bytes = 1000;
@@ -57,27 +56,27 @@ class FakePlatform final : public Platform,
     Ref<NSError> error;
   };
 
-  // ---- What waits ----
+  // ---- Pending callbacks ----
 
   std::size_t waiting() const { return pending_.size(); }
-  /// Runs one that waits; they stand in the order in which they came.
+  /// Runs one of the pending callbacks, which are in the order of their calls.
   void run(std::size_t index);
   void runNext() { run(0); }
-  /// Runs until nothing waits.
+  /// Runs until none is pending.
   void runAll() {
     while (!pending_.empty()) runNext();
   }
 
-  // ---- What there is, and what goes wrong ----
+  // ---- Resources and faults ----
 
-  /// Services that the platform does without: "log", "clock", "center", "session", "files",
+  /// The missing services: "log", "clock", "center", "session", "files",
   /// "types", "attachments", "images", "intents", "bundle".
   std::set<std::string, std::less<>> absent;
   OperatingSystemVersion version{17, 0, 0};
   std::shared_ptr<Center> center = std::make_shared<Center>(*this);
-  std::map<std::string, std::uint64_t> files;  // sizes of the files by their paths
+  std::map<std::string, std::uint64_t> files;  // sizes by path
   std::vector<std::string> cachesFolders{"/library/", "/caches/"};
-  std::string lockedFolder;  // of a path that begins with it nothing may be written
+  std::string lockedFolder;  // prefix of paths that cannot be written
   Download download;
   std::set<std::string> pictures{"star.png"};
   bool encodes = true;
@@ -86,10 +85,10 @@ class FakePlatform final : public Platform,
   Ref<NSError> donationError;
   Ref<NSError> updateError;
 
-  // ---- What was done ----
+  // ---- Recorded calls ----
 
   /// "read", "write", "download URL", "move NAME", "attach TYPE", "image NAME", "encode QUALITY",
-  /// "donate", "update", and what a test adds.
+  /// "donate", "update", and entries of the test.
   std::vector<std::string> calls;
   std::vector<INInteraction> donated;
   std::vector<std::string> log;

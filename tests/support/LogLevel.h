@@ -4,7 +4,7 @@
 
 namespace orvanta::testing {
 
-/// Another log level while it lives.
+/// Changes the log level during its lifetime.
 class LogLevel {
  public:
   explicit LogLevel(std::int64_t level) { OrvantaLogger::setLogLevel(level); }

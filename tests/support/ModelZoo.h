@@ -7,7 +7,7 @@
 
 namespace orvanta::testing {
 
-/// Every width of scalar, under its type code.
+/// A scalar of every width; each key is the type code.
 class ScalarModel : public OrvantaBaseModel {
   ORVANTA_MODEL(ScalarModel, OrvantaBaseModel)
 
@@ -19,7 +19,7 @@ class ScalarModel : public OrvantaBaseModel {
   ORVANTA_PROPERTY("d", assign, double, real, setReal)
 };
 
-/// What the others nest: can refuse (a size that is null) and declares nothing special.
+/// The model that others nest; an update fails when the size is null.
 class LeafModel : public OrvantaBaseModel {
   ORVANTA_MODEL(LeafModel, OrvantaBaseModel)
 
@@ -27,7 +27,7 @@ class LeafModel : public OrvantaBaseModel {
   ORVANTA_PROPERTY("size", assign, std::int64_t, size, setSize)
 };
 
-/// Every declared kind of object; no nested class is declared.
+/// A property of every object type; no nested class is declared.
 class ObjectModel : public OrvantaBaseModel {
   ORVANTA_MODEL(ObjectModel, OrvantaBaseModel)
 
@@ -46,7 +46,7 @@ class ObjectModel : public OrvantaBaseModel {
   ORVANTA_PROPERTY("leaf", strong, LeafModel, leaf, setLeaf)
 };
 
-/// Dotted keys: a run below one parent, a longer path, the first parent once more.
+/// Dotted keys: two below one parent, a longer path, the first parent again.
 class DottedModel : public OrvantaBaseModel {
   ORVANTA_MODEL(DottedModel, OrvantaBaseModel)
 
@@ -69,7 +69,7 @@ class NestingModel : public OrvantaBaseModel {
   ORVANTA_PROPERTY("deeper", strong, NestingModel, deeper, setDeeper, NestingModel)
 };
 
-/// A key and a property that its descendant declares again, and a getter that it overrides.
+/// A key and a property that its subclass redeclares, and a getter that it overrides.
 class AncestorModel : public OrvantaBaseModel {
   ORVANTA_MODEL(AncestorModel, OrvantaBaseModel)
 
@@ -86,8 +86,9 @@ class DescendantModel : public AncestorModel {
   Held<String> code() const override { return "overridden"; }
 };
 
-/// A setter of its own that throws what the text names: "known", "unknown key", "standard" or
-/// "memory"; "tables" replaces the object's key table. A value that is no text is told in `before`.
+/// A custom setter. It throws the exception that the string names: "known", "unknown key",
+/// "standard" or "memory"; "tables" replaces the key table. For a value that is not a string it
+/// sets `before`.
 class SetterModel : public OrvantaBaseModel {
   ORVANTA_MODEL(SetterModel, OrvantaBaseModel)
 
@@ -122,7 +123,7 @@ class FaultyGetterModel : public OrvantaBaseModel {
   static Value throwStandard(const OrvantaBaseModel& model);
 };
 
-/// Writes itself out while it is written out, and counts without a lock of its own.
+/// Writes itself while it is written, and counts without a lock.
 class SelfWritingModel : public OrvantaBaseModel {
   ORVANTA_MODEL(SelfWritingModel, OrvantaBaseModel)
 
@@ -145,7 +146,7 @@ class DefaultsModel : public OrvantaBaseModel {
   bool updateWithDictionary(const Dictionary* dictionary) override;
 };
 
-/// Nests a model whose update lets an exception pass.
+/// Nests a model whose update throws.
 class PushHolderModel : public OrvantaBaseModel {
   ORVANTA_MODEL(PushHolderModel, OrvantaBaseModel)
 
@@ -153,7 +154,7 @@ class PushHolderModel : public OrvantaBaseModel {
   ORVANTA_PROPERTY("after", copy, String, after, setAfter)
 };
 
-/// Never touched but by the test of concurrent first use.
+/// Used only by the test of concurrent first use.
 class UntouchedModel : public LeafModel {
   ORVANTA_MODEL(UntouchedModel, LeafModel)
 

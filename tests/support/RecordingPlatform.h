@@ -7,7 +7,8 @@
 
 namespace orvanta::testing {
 
-/// The calling thread's platform while it lives: keeps what is logged; its clock stands still.
+/// Replaces the calling thread's platform during its lifetime: records log lines, and its clock
+/// does not advance.
 class RecordingPlatform final : public Platform, private SystemLog, private Clock {
  public:
   std::vector<std::string> log;

@@ -12,7 +12,7 @@
 
 namespace orvanta::testing {
 
-/// A folder of its own, removed at the end.
+/// A new folder, removed with its contents by the destructor.
 class TemporaryFolder {
  public:
   explicit TemporaryFolder(

@@ -7,7 +7,7 @@
 
 namespace orvanta::testing {
 
-/// Runs the work in four threads that start together; it may take its thread's number.
+/// Runs a callable in four threads that start together; it may take the thread's number.
 template <class Work>
 void runTogether(const Work& work) {
   std::atomic<int> waiting{4};
@@ -15,7 +15,7 @@ void runTogether(const Work& work) {
   threads.reserve(4);
   for (int i = 0; i < 4; ++i) {
     threads.emplace_back([&work, &waiting, number = i] {
-      static_cast<void>(number);  // not every work takes it
+      static_cast<void>(number);  // not every callable takes it
       --waiting;
       while (waiting != 0) std::this_thread::yield();
       if constexpr (std::is_invocable_v<Work, int>) {

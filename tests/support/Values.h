@@ -16,7 +16,7 @@
 
 namespace orvanta {
 
-// What a failed expectation prints.
+// Printed by failed expectations.
 inline void PrintTo(const Value& value, std::ostream* out) {
   *out << describe(value) << " (" << value.kindName() << ")";
 }

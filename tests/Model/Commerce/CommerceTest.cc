@@ -18,7 +18,7 @@
 
 namespace orvanta::testing {
 
-/// A class of an application, derived from one of the library's.
+/// A class of an application, derived from one of the library.
 class PromotedCartAdd : public OrvantaCartAddProductEvent {
   ORVANTA_EVENT(PromotedCartAdd, OrvantaCartAddProductEvent, "o:acp")
 };
@@ -26,7 +26,7 @@ ORVANTA_IMPLEMENTATION(PromotedCartAdd)
 
 namespace {
 
-TEST(CommerceEvents, StandFlatBesideWhatTheyAreAbout) {
+TEST(CommerceEvents, AreWrittenFlatWithTheirSubject) {
   const auto product = OrvantaProduct::productWithId("p1", "Jacket", 9.5);
   product->setKeywords(Array{"wool"});
   const auto item = OrvantaLineItem::itemWithId("p1", "Jacket", 9.5, 2);
@@ -48,7 +48,7 @@ TEST(CommerceEvents, StandFlatBesideWhatTheyAreAbout) {
        std::string(kProduct) + R"("code":"o:vp"})"},
       {OrvantaWishListEvent::eventWithProduct(product, "autumn"),
        std::string(kProduct) + R"("code":"o:wl","ge":"autumn"})"},
-      // A line item has "ec" and "ge" of its own: the event's win.
+      // A line item has its own "ec" and "ge"; those of the event win.
       {OrvantaWishListEvent::eventWithProduct(item, "autumn"),
        R"({"ea":"p1","eb":"Jacket","eq":9.5,"ec":2,"code":"o:wl","ge":"autumn"})"},
       {OrvantaCartRemoveProductEvent::eventWithProduct(item, 7),
@@ -71,7 +71,7 @@ TEST(CommerceEvents, StandFlatBesideWhatTheyAreAbout) {
   }
 }
 
-TEST(CommerceEvents, AnswerANewObjectOfTheReceiversClass) {
+TEST(CommerceEvents, InitializersReturnANewObjectOfTheReceiversClass) {
   const auto receiver = make<PromotedCartAdd>();
   const auto product = OrvantaProduct::productWithId("p1", "Jacket", 9.5);
   const auto event = receiver->initWithProduct(product, 2, 19.0);
@@ -90,10 +90,10 @@ TEST(CommerceEvents, AreReadFromTheFlatDictionary) {
   EXPECT_EQ(event->product().get()->price(), 9.5);
   EXPECT_EQ(event->count(), 3U);
 
-  // The product refuses: the event's own fields stay.
-  const Dictionary refused{{"ec", 9}, {"eq", Value::null()}};
+  // The product fails to update; the event keeps its own fields.
+  const Dictionary invalid{{"ec", 9}, {"eq", Value::null()}};
   const LogLevel quiet(0);
-  EXPECT_FALSE(event->updateWithDictionary(&refused));
+  EXPECT_FALSE(event->updateWithDictionary(&invalid));
   EXPECT_EQ(event->count(), 3U);
   EXPECT_FALSE(event->product());
 }
@@ -132,7 +132,7 @@ TEST(OrvantaPurchaseEvent, CountsItsLineItems) {
             parseJSON(R"({"code":"o:ph","er":1.0,"es":2.0,"ec":1,"fz":2,"em":"card",)"
                       R"("ep":3.0,"el":4.0,"ek":"AUTUMN"})"));
   EXPECT_EQ(written["items"], parseJSON(R"([{"ec":2,"ea":"p","eb":"n","eq":1.0}])"));
-  // Read back, the items stay dictionaries.
+  // Items that are read stay dictionaries.
   EXPECT_EQ(make<OrvantaPurchaseEvent>(written)->lineItems().value(), written["items"]);
 }
 

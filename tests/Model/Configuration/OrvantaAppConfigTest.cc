@@ -6,7 +6,7 @@
 namespace orvanta::testing {
 namespace {
 
-TEST(OrvantaAppConfig, ForgetsTenPropertiesAndKeepsTheRest) {
+TEST(OrvantaAppConfig, AnUpdateResetsTenPropertiesAndKeepsTheRest) {
   const std::string_view kDefaults =
       R"({"v":0,"badge":false,"locHist":false,"sei":180.0,"cei":9223372036854775808.0,)"
       R"("sai":false,"bte":false,"btl":0,"scv":false,"ife":false,"ipe":false,"exe":false,)"

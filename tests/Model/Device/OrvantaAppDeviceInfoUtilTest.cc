@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "orvanta/Simulator/SimulatedDevice.h"
 #include "orvanta/Model/Device/OrvantaAppDeviceInfoUtil.h"
+#include "orvanta/Simulator/SimulatedDevice.h"
 #include "support/LogLevel.h"
 #include "support/ModelHelpers.h"
 #include "support/RecordingPlatform.h"
@@ -11,7 +11,7 @@ namespace {
 
 using Util = OrvantaAppDeviceInfoUtil;
 
-/// A fact of the device of a profile, as JSON.
+/// A property of the device of a profile, as JSON.
 template <class Fact>
 std::string fact(const std::string& profile, Fact (*read)()) {
   SimulatedDevice device(DeviceProfile::fromDictionary(dictionaryFromJSON(profile)));
@@ -23,9 +23,9 @@ std::string fact(const std::string& profile, Fact (*read)()) {
   }
 }
 
-TEST(DeviceInfo, ReadsEachFactInItsOwnWay) {
+TEST(DeviceInfo, ReadsEachProperty) {
   const std::pair<std::string, std::string> facts[] = {
-      // of a 32-bit device's minor number only the last digit counts
+      // only the last digit of a 32-bit device's minor number counts
       {fact(R"({"cpuType":12,"hwMachine":"iPad3,10"})", Util::architecture), R"(["armv7"])"},
       {fact(R"({"cpuType":12,"hwMachine":"iPad3,7"})", Util::architecture), R"(["armv7"])"},
       {fact(R"({"cpuType":12,"hwMachine":"iPad3,14"})", Util::architecture), R"(["armv7s"])"},
@@ -52,7 +52,7 @@ TEST(DeviceInfo, ReadsEachFactInItsOwnWay) {
   for (const auto& [read, expected] : facts) EXPECT_EQ(read, expected);
 }
 
-TEST(DeviceInfo, TellsTheConnectionByTheInterfacesAndTheRadio) {
+TEST(DeviceInfo, DeterminesTheConnectionByInterfacesAndRadio) {
   const auto type = [](const std::string& interfaces, const std::string& radio) {
     return fact(R"({"interfaces":[)" + interfaces + R"(],"radio":)" + radio + "}",
                 Util::connectionType);
@@ -68,7 +68,7 @@ TEST(DeviceInfo, TellsTheConnectionByTheInterfacesAndTheRadio) {
   EXPECT_EQ(type(R"({"name":"pdp_ip0"})", "null"), "[2]");
 }
 
-/// A platform whose SIMs differ by the way that is asked, and whose radio throws.
+/// A platform whose carriers depend on the call and whose radio throws.
 struct Faulty final : Platform, CTTelephonyNetworkInfo {
   SimulatedDevice phone{DeviceProfile::phone()};  // with "pdp_ip0" before "en0"
   RecordingPlatform recorder;
@@ -88,7 +88,7 @@ struct Faulty final : Platform, CTTelephonyNetworkInfo {
   }
 };
 
-TEST(DeviceInfo, TakesTheFirstOfSeveralCarriersFromVersionTwelveOn) {
+TEST(DeviceInfo, ReturnsTheFirstOfSeveralCarriersFromVersion12) {
   Faulty platform;
   platform.version = {11, 4, 1};
   EXPECT_FALSE(Util::carrierName());
@@ -96,7 +96,7 @@ TEST(DeviceInfo, TakesTheFirstOfSeveralCarriersFromVersionTwelveOn) {
   EXPECT_EQ(Util::carrierName().get(), "first");
 }
 
-TEST(DeviceInfo, AnExceptionEndsTheWalkWithALogLine) {
+TEST(DeviceInfo, LogsAnExceptionAndReturnsTheDefault) {
   const std::string line =
       "\n\n❗ +[OrvantaAppDeviceInfoUtil connectionType] (OrvantaAppDeviceInfoUtil:0) ❗\n"
       "Connection type can not be retrieved: \nno radio\n\n";
@@ -108,7 +108,7 @@ TEST(DeviceInfo, AnExceptionEndsTheWalkWithALogLine) {
   }
 }
 
-TEST(DeviceInfo, FillsTheModelAlsoOnAPlatformThatKnowsNothing) {
+TEST(DeviceInfo, FillsTheModelOnAPlatformWithoutServices) {
   Platform none;
   const PlatformOverride override(none);
   EXPECT_EQ(toJSON(Util::allDeviceInfo()->dictionaryValue()),

@@ -35,7 +35,7 @@
 namespace orvanta::testing {
 namespace {
 
-TEST(Events, AreMadeFromTheirArguments) {
+TEST(Events, FactoriesSetTheirFields) {
   const auto push = modelFromJSON<OrvantaPushObject>(
       R"({"_ov":{"pid":"p","piid":"pi","ia":[{"id":"reply","act":{}}]}})");
   push->setInteractiveActionIdentifier("reply");
@@ -87,7 +87,7 @@ TEST(Events, AreMadeFromTheirArguments) {
   }
 }
 
-TEST(OrvantaEvent, HasACodeOfItsClassWhateverIsRead) {
+TEST(OrvantaEvent, KeepsTheCodeOfItsClassWhenRead) {
   EXPECT_FALSE(OrvantaEvent::event());
   std::set<std::string> codes;
   std::size_t classes = 0;
@@ -100,13 +100,13 @@ TEST(OrvantaEvent, HasACodeOfItsClassWhateverIsRead) {
     codes.emplace(*event->eventKey().get());
     ++classes;
   }
-  EXPECT_EQ(codes.erase("read"), 1U);  // the base and the two intermediate classes
+  EXPECT_EQ(codes.erase("read"), 1U);  // of the base and the two intermediate classes
   EXPECT_EQ(codes.size(), 40U);
   EXPECT_EQ(classes, 43U);
   EXPECT_EQ(modelFromJSON<OrvantaOpenAppEvent>("{}")->revenue(), 0.0);
 }
 
-TEST(OrvantaEvent, CarriesIdentifiersDateAndPlace) {
+TEST(OrvantaEvent, HasIdentifiersDateAndLocation) {
   const auto event = modelFromJSON<OrvantaLoginEvent>(
       R"({"ids":{"iid":"i","slt":4},"ts":1500,"fv":"41.0,29.0","uid":"u","revenue":"2.5"})");
   ASSERT_NE(event->identifiers().get(), nullptr);
@@ -118,7 +118,7 @@ TEST(OrvantaEvent, CarriesIdentifiersDateAndPlace) {
             R"("revenue":2.5})");
 }
 
-TEST(OrvantaErrorEvent, DoesNotKeepWhatItReports) {
+TEST(OrvantaErrorEvent, ReferencesWeaklyWhatItReports) {
   auto message = std::make_shared<const std::string>("no network");
   auto events = std::make_shared<const Array>(Array{OrvantaOpenAppEvent::event()});
   const auto event = OrvantaErrorEvent::eventWithErrorMessage(message, events);
@@ -144,7 +144,7 @@ TEST(OrvantaErrorEvent, DoesNotKeepWhatItReports) {
   EXPECT_FALSE(event->errorMessage());
 }
 
-TEST(OrvantaWebViewActionEvent, LetsItsDataWin) {
+TEST(OrvantaWebViewActionEvent, ItsDataOverridesItsFields) {
   const auto event = modelFromJSON<OrvantaWebViewActionEvent>(
       R"({"code":"own","fv":"here","klazz":"K","x":null})");
   EXPECT_EQ(event->locationString().get(), "here");
@@ -153,7 +153,7 @@ TEST(OrvantaWebViewActionEvent, LetsItsDataWin) {
             parseJSON(R"({"code":"own","fv":"here","revenue":0.0,"klazz":"K","x":null})"));
 }
 
-TEST(OrvantaCrashEvent, KeepsItsInfoToItself) {
+TEST(OrvantaCrashEvent, OmitsItsInfo) {
   const auto event = OrvantaCrashEvent::event();
   event->setCrashInfo("never sent");
   event->setStackTrace("main");

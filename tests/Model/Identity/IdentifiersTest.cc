@@ -9,7 +9,7 @@
 
 namespace orvanta::testing {
 
-/// A class of an application with an identity more.
+/// A class of an application with one more identifier.
 class ShopIdentifiers : public OrvantaIdentifiers {
   ORVANTA_MODEL(ShopIdentifiers, OrvantaIdentifiers)
 
@@ -19,7 +19,7 @@ ORVANTA_IMPLEMENTATION(ShopIdentifiers)
 
 namespace {
 
-TEST(OrvantaIdentifiers, DropsWhatTheOtherHasTheSameOf) {
+TEST(OrvantaIdentifiers, RemovesPropertiesThatAreEqual) {
   constexpr std::string_view kAll =
       R"({"iid":"i","did":"d","sid":"s","uid":"u","xid":"x","pid":"p","piid":"pp","fid":"f",)"
       R"("aid":1,"oid":2,"slt":3})";
@@ -48,14 +48,14 @@ TEST(OrvantaIdentifiers, DropsWhatTheOtherHasTheSameOf) {
   }
 }
 
-TEST(OrvantaIdentifiers, ComparesTheElevenInASubclassToo) {
+TEST(OrvantaIdentifiers, ComparesOnlyTheElevenInASubclass) {
   const auto own = modelFromJSON<ShopIdentifiers>(R"({"shop":"s","iid":"i"})");
   own->removePropertiesSameWithIdentifiers(
       modelFromJSON<OrvantaIdentifiers>(R"({"iid":"i"})").get());
   EXPECT_EQ(toJSON(own->dictionaryValue()), R"({"shop":"s"})");
 }
 
-TEST(OrvantaIdentifiers, DropsTheNamedPropertiesOnly) {
+TEST(OrvantaIdentifiers, RemovesOnlyTheNamedProperties) {
   const auto own = modelFromJSON<OrvantaIdentifiers>(R"({"iid":"i","did":"d"})");
   const std::string_view names[] = {"deviceId"};
   own->removePropertiesWithKeys(names, own.get());
@@ -97,7 +97,7 @@ struct IdentityPlatform final : Platform {
   }
 };
 
-TEST(OrvantaIdentifierUtil, MakesNumbersOfAChanceAndATime) {
+TEST(OrvantaIdentifierUtil, CombinesARandomNumberWithATime) {
   IdentityPlatform platform;
   const PlatformOverride override(platform);
   platform.still.wall = 1'700'000'000'123'456'789;
@@ -109,14 +109,14 @@ TEST(OrvantaIdentifierUtil, MakesNumbersOfAChanceAndATime) {
   EXPECT_EQ(next(), "47111700000000123456789");
   EXPECT_EQ(platform.dice.bound, 65534U);
   EXPECT_EQ(OrvantaIdentifierUtil::generateShortIdentifier(), "FiNPDvMOVkwBo");
-  // From then on the monotonic clock counts, whatever becomes of the wall's.
+  // Afterwards the monotonic clock counts, even if the wall clock changes.
   platform.still.wall = 0;
   platform.still.monotonic += 1'000'000'001;
   platform.dice.next = 65533;
   EXPECT_EQ(next(), "655341700000001123456790");
 }
 
-TEST(OrvantaIdentifierUtil, WritesBase62Backwards) {
+TEST(OrvantaIdentifierUtil, WritesBase62InReverse) {
   const std::pair<std::string_view, std::string_view> rows[] = {
       {"0", ""},
       {"1", "b"},
@@ -139,7 +139,7 @@ TEST(OrvantaIdentifierUtil, WritesBase62Backwards) {
   }
 }
 
-TEST(OrvantaIdentifierUtil, AsksForTheAdvertisingIdentifierAtRunTime) {
+TEST(OrvantaIdentifierUtil, LooksUpTheAdvertisingIdentifierAtRunTime) {
   EXPECT_EQ(OrvantaIdentifierUtil::advertisingId(), std::nullopt);
   IdentityPlatform platform;
   const PlatformOverride override(platform);

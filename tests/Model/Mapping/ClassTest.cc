@@ -9,7 +9,7 @@ namespace {
 
 Value leafClass() { return Value(&LeafModel::classObject()); }
 
-TEST(ClassTables, AnObjectsOwnKeyTableServesBothDirections) {
+TEST(ClassTables, AModelsOwnKeyTableServesReadingAndWriting) {
   const auto model = make<LeafModel>();
   const auto other = make<LeafModel>();
   model->setValueForKey(Dictionary({{"other.name", "name"}}), "keyPathPropertyDictionary");
@@ -20,13 +20,13 @@ TEST(ClassTables, AnObjectsOwnKeyTableServesBothDirections) {
   EXPECT_TRUE(updateFromJSON(*other, R"({"name": "b"})"));  // the class keeps its table
   EXPECT_EQ(other->name().get(), "b");
 
-  model->setValueForKey("no table", "keyPathPropertyDictionary");  // counts as not set
+  model->setValueForKey("no table", "keyPathPropertyDictionary");  // counts as unset
   EXPECT_EQ(model->keyPathPropertyDictionary(), LeafModel::classObject().mergedKeyTable());
   EXPECT_TRUE(updateFromJSON(*model, R"({"name": "c"})"));
   EXPECT_EQ(model->name().get(), "c");
 }
 
-TEST(ClassTables, AnObjectsOwnClassTableDecidesWhatIsMade) {
+TEST(ClassTables, AModelsOwnClassTableDecidesTheNestedClasses) {
   const auto model = make<NestingModel>();
   const Value noModel(&Plain::classObject());
   const Dictionary table{{"free", leafClass()}, {"list", "not a class"}, {"leaf", noModel}};
@@ -43,7 +43,7 @@ TEST(ClassTables, AnObjectsOwnClassTableDecidesWhatIsMade) {
   EXPECT_NE(model->leaf().get(), nullptr);
 }
 
-TEST(ClassProperties, ThreadsCanUseAClassFirstAtTheSameTime) {
+TEST(ClassTables, ThreadsCanUseAClassFirstAtTheSameTime) {
   std::atomic<const Dictionary*> first{nullptr};
   runTogether([&] {
     const auto model = modelFromJSON<UntouchedModel>(R"({"link": "a/b", "name": "n"})");

@@ -10,7 +10,7 @@
 namespace orvanta::testing {
 namespace {
 
-TEST(RefusedUpdate, IsLoggedWithDictionaryClassAndReason) {
+TEST(FailedUpdate, IsLoggedWithDictionaryClassAndReason) {
   RecordingPlatform platform;
   EXPECT_FALSE(modelFromJSON<LeafModel>(R"({"size": null, "name": "a b"})"));
   ASSERT_EQ(platform.log.size(), 1U);
@@ -23,18 +23,18 @@ TEST(RefusedUpdate, IsLoggedWithDictionaryClassAndReason) {
             "-[NSNull longLongValue]: unrecognized selector sent to instance\n\n");
 }
 
-TEST(RefusedUpdate, KeepsWhatWasAssignedBeforeAndReadsNoFurther) {
-  for (const char* refused : {"known", "unknown key", "standard"}) {
+TEST(FailedUpdate, KeepsEarlierAssignmentsAndStopsReading) {
+  for (const char* exception : {"known", "unknown key", "standard"}) {
     RecordingPlatform platform;
     const auto model = make<SetterModel>();
-    const Dictionary payload{{"after", "c"}, {"text", refused}, {"before", "a"}};
-    EXPECT_FALSE(model->updateWithDictionary(&payload)) << refused;
-    EXPECT_EQ(model->before().get(), "a") << refused;
-    EXPECT_FALSE(model->after()) << refused;
+    const Dictionary payload{{"after", "c"}, {"text", exception}, {"before", "a"}};
+    EXPECT_FALSE(model->updateWithDictionary(&payload)) << exception;
+    EXPECT_EQ(model->before().get(), "a") << exception;
+    EXPECT_FALSE(model->after()) << exception;
   }
 }
 
-TEST(RefusedUpdate, LogsEveryErrorButThatOfAnUndefinedKey) {
+TEST(FailedUpdate, LogsEveryErrorExceptAnUndefinedKey) {
   // The reason in the log, empty where nothing is logged.
   const std::pair<std::string_view, std::string_view> rows[] = {
       {"known", "known trouble"}, {"standard", "standard trouble"}, {"unknown key", ""}};
@@ -49,27 +49,27 @@ TEST(RefusedUpdate, LogsEveryErrorButThatOfAnUndefinedKey) {
   }
 }
 
-TEST(RefusedUpdate, LetsOnlyTheLackOfMemoryPass) {
+TEST(FailedUpdate, RethrowsOnlyBadAlloc) {
   RecordingPlatform platform;
   const Dictionary payload{{"text", "memory"}};
   EXPECT_THROW(make<SetterModel>(payload), std::bad_alloc);
   EXPECT_TRUE(platform.log.empty());
 }
 
-/// A model whose first initialiser refuses, so that the others do.
+/// A model whose first initializer fails, and with it the others.
 template <class M>
 class Refusing : public M {
   bool init() override { return false; }
 };
 
-TEST(RefusedUpdate, OneInitialiserPassesOnThatOfAnother) {
+TEST(FailedUpdate, AFailedInitializerFailsThoseThatCallIt) {
   using Alert = OrvantaPushObjectAlert;
   EXPECT_FALSE(make<Refusing<Alert>>(&Alert::initWithString, "a"));
   using Request = OrvantaEventRequest;
   EXPECT_FALSE(make<Refusing<Request>>(&Request::initWithEventArray, Array()));
 }
 
-TEST(RefusedUpdate, AHugeDictionaryIsLoggedInPart) {
+TEST(FailedUpdate, TruncatesAHugeDictionaryInTheLog) {
   RecordingPlatform platform;
   EXPECT_FALSE(make<LeafModel>(Dictionary{{"name", std::string(200000, 'x')}, {"size", Array()}}));
   ASSERT_EQ(platform.log.size(), 1U);
@@ -79,7 +79,7 @@ TEST(RefusedUpdate, AHugeDictionaryIsLoggedInPart) {
             std::string::npos);
 }
 
-TEST(RefusedUpdate, NeedsNoSystemLog) {
+TEST(FailedUpdate, NeedsNoSystemLog) {
   Platform none;
   const PlatformOverride scope(none);
   EXPECT_FALSE(modelFromJSON<LeafModel>(R"({"size": null})"));

@@ -6,9 +6,9 @@
 namespace orvanta::testing {
 namespace {
 
-TEST(KeyValueCoding, ReadsAndWritesByNameWhateverTheAccess) {
+TEST(KeyValueCoding, IgnoresTheAccessOfProperties) {
   const auto model = make<ObjectModel>();
-  model->setValueForKey("not a date", "date");  // read-only in public
+  model->setValueForKey("not a date", "date");  // publicly read-only
   EXPECT_EQ(model->date().value(), Value("not a date"));
   const auto ran = std::make_shared<int>(0);
   model->setBlock([ran] { ++*ran; });
@@ -20,7 +20,7 @@ TEST(KeyValueCoding, ReadsAndWritesByNameWhateverTheAccess) {
   EXPECT_EQ(*ran, 1);
 }
 
-TEST(KeyValueCoding, ThrowsForUnknownKeysAndScalarsWithoutReading) {
+TEST(KeyValueCoding, ThrowsForUnknownKeysAndValuesThatAreNotScalars) {
   const auto model = make<ScalarModel>();
   const std::string complaint = "this class is not key value coding-compliant for the key x.";
   EXPECT_EQ(exceptionFrom([&] { model->valueForKey("x"); }),
@@ -40,14 +40,14 @@ TEST(KeyValueCoding, ThrowsForUnknownKeysAndScalarsWithoutReading) {
             "key value coding-compliant for the key twice.");
 }
 
-TEST(Validation, ConvertsByTheTypeCodeAndNeverExplains) {
+TEST(Validation, ConvertsByTheTypeCodeAndLeavesTheErrorNil) {
   const auto model = make<ObjectModel>();
   const auto scalars = make<ScalarModel>();
   const struct {
     const OrvantaBaseModel* model;
     std::string_view property;
     Value value;
-    Value converted;  // nil: refused
+    Value converted;  // nil: invalid
   } rows[] = {
       {model.get(), "url", "a", *Url::parse("a")},
       {model.get(), "url", *Url::parse("a"), "a"},

@@ -9,12 +9,12 @@
 #include "orvanta/Model/Mapping/OrvantaBaseModel.h"
 #include "support/Values.h"
 
-// One walk over every model class that the library declares.
+// Checks of every model class that the library declares.
 
 namespace orvanta::testing {
 namespace {
 
-TEST(ModelRegistry, EveryClassMakesObjectsOfItself) {
+TEST(ModelRegistry, EveryClassCreatesItsOwnInstances) {
   for (const Class* cls : modelClasses()) {
     const auto model = makeModel(*cls, nullptr);
     ASSERT_TRUE(model) << cls->name;
@@ -24,7 +24,7 @@ TEST(ModelRegistry, EveryClassMakesObjectsOfItself) {
   }
 }
 
-/// A dictionary's value for a property; one that a declared model takes where there is one.
+/// A dictionary's value for a property, valid for its declared model where it has one.
 Value sampleFor(const Class& cls, const Property& property) {
   const bool hasModel = cls.mergedClassTable()[property.name].classObject() != nullptr;
   if (property.encoding == "@\"NSURL\"") return "https://shop.example.com/a";
@@ -37,7 +37,7 @@ Value sampleFor(const Class& cls, const Property& property) {
 
 TEST(ModelRegistry, EveryKeyIsReadAndWritten) {
   for (const Class* cls : modelClasses()) {
-    if (cls->name == "OrvantaErrorEvent") continue;  // it owns nothing that is read
+    if (cls->name == "OrvantaErrorEvent") continue;  // its properties are weak references
     Dictionary keys = cls->mergedKeyTable();
     Dictionary dictionary;
     for (const Dictionary::Entry& row : keys) {
@@ -101,7 +101,7 @@ TEST(ModelRegistry, ListsExactlyTheClassesThatHeadersDeclare) {
       std::filesystem::path(ORVANTA_SOURCE_DIR) / "OrvantaCore/OrvantaCore/Core/Model/Model";
   const std::regex declaration(
       "(?:^|\n)  ORVANTA_(?:MODEL|(?:ABSTRACT_)?EVENT|(?:UNRANKED_)?REQUEST)\\((Orvanta\\w+)");
-  std::set<std::string> declared = {"OrvantaBaseModel"};  // the root opens its body by hand
+  std::set<std::string> declared = {"OrvantaBaseModel"};  // the root uses no macro
   for (const auto& file : std::filesystem::recursive_directory_iterator(models)) {
     if (file.path().extension() == ".h")
       declared.merge(matches(contentsOf(file.path()), declaration));

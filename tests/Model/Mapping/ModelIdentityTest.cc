@@ -5,7 +5,7 @@
 #include "support/ModelZoo.h"
 #include "support/RecordingPlatform.h"
 
-// Equality, hash, copies and descriptions, all of which go through a model's dictionary.
+// Equality, hashes, copies and descriptions, all of which use the model's dictionary.
 
 namespace orvanta::testing {
 namespace {
@@ -42,7 +42,7 @@ TEST(ModelIdentity, ACopyIsReadFromTheDictionary) {
   EXPECT_EQ(original->leaf().get()->name().get(), "a");
 }
 
-TEST(ModelIdentity, ACopyLosesDottedKeysAndUnmappedProperties) {
+TEST(ModelIdentity, ACopyOmitsDottedKeysAndUnmappedProperties) {
   const auto original =
       modelFromJSON<DottedModel>(R"({"aps": {"sound": "s", "badge": 3}, "title": "t"})");
   const Value copy = original->copyWithZone();
@@ -69,9 +69,9 @@ TEST(ModelIdentity, DescribesItselfForDebuggingEntryByEntry) {
   EXPECT_EQ(model->debugDescription(), "\nLeafModel\nname : a b\nsize : 1\n\n");
 }
 
-// ---- The holder of a stored value ----
+// ---- OrvantaKeyValueStoreObject ----
 
-TEST(KeyValueStoreObject, HoldsAValueAndTheTimeOfItsMaking) {
+TEST(KeyValueStoreObject, StoresAValueAndItsCreationTime) {
   RecordingPlatform platform;
   platform.now = 1'500'000'000'123'456'789;
   const auto holder = OrvantaKeyValueStoreObject::objectWithValue(Array({1}));
@@ -81,7 +81,7 @@ TEST(KeyValueStoreObject, HoldsAValueAndTheTimeOfItsMaking) {
   EXPECT_EQ(Value(holder->copyWithZone()), Value(holder));
 }
 
-TEST(KeyValueStoreObject, WithoutADateIsOf1970) {
+TEST(KeyValueStoreObject, DefaultsToADateIn1970) {
   RecordingPlatform platform;
   platform.now = 5'000'000'000;
   EXPECT_EQ(make<OrvantaKeyValueStoreObject>()->creationDate().get(), Date{0});

@@ -22,11 +22,11 @@ TEST(NestedModel, DeclaredClassBeatsKlazzAndKlazzBeatsNothing) {
       {R"({"leaf": {"klazz": "OrvantaPushStyle"}})", "leaf", "LeafModel"},
       {R"({"free": {"klazz": "OrvantaPushStyle"}})", "free", "OrvantaPushStyle"},
       {R"({"free": {}})", "free", "a dictionary"},
-      // Only text that names a model class of the library counts.
+      // Only a string that names a model class of the library counts.
       {R"({"free": {"klazz": "NSString"}})", "free", "a dictionary"},
       {R"({"free": {"klazz": "orvantapushstyle"}})", "free", "a dictionary"},
       {R"({"free": {"klazz": {"klazz": "OrvantaPushStyle"}}})", "free", "a dictionary"},
-      // A class is declared for the property, whatever it holds.
+      // A declared class applies to every value of the property.
       {R"({"leaf": [{}]})", "leaf", "an array"},
       {R"({"leaves": {}})", "leaves", "LeafModel"},
   };
@@ -65,19 +65,19 @@ TEST(NestedModel, ArraysKeepOrderAndCountAndAreConvertedAtEveryDepth) {
   EXPECT_EQ(make<NestingModel>(plain)->list().get()->begin(), plain["list"].array()->begin());
 }
 
-TEST(NestedModel, OneThatRefusesItsDictionaryBecomesNil) {
+TEST(NestedModel, AModelThatFailsToUpdateBecomesNil) {
   const auto model = modelFromJSON<NestingModel>(R"({"leaf": {"name": "old"}, "deeper": {}})");
   RecordingPlatform platform;
   EXPECT_TRUE(updateFromJSON(*model, R"({"leaf": {"size": null}, "list": [1]})"));
   EXPECT_FALSE(model->leaf());
-  EXPECT_EQ(platform.log.size(), 1U);  // the leaf's own
+  EXPECT_EQ(platform.log.size(), 1U);  // of the leaf
   EXPECT_TRUE(model->list());
 
   EXPECT_TRUE(updateFromJSON(*model, R"({"deeper": {"leaves": [{"size": null}]}})"));
   EXPECT_FALSE(model->deeper());
 }
 
-TEST(NestedModel, AnElementThatRefusesEndsTheUpdate) {
+TEST(NestedModel, AnElementThatFailsEndsTheUpdate) {
   RecordingPlatform platform;
   const auto model = make<NestingModel>();
   ASSERT_TRUE(model);
@@ -86,14 +86,14 @@ TEST(NestedModel, AnElementThatRefusesEndsTheUpdate) {
   EXPECT_TRUE(model->leaf());
   EXPECT_FALSE(model->leaves());
   EXPECT_FALSE(model->free());
-  ASSERT_EQ(platform.log.size(), 2U);  // the element's, then the owner's
+  ASSERT_EQ(platform.log.size(), 2U);  // of the element, then of its owner
   EXPECT_NE(platform.log[0].find("to class 'LeafModel'"), std::string::npos);
   EXPECT_NE(platform.log[1].find("to class 'NestingModel' : "
                                  "*** -[__NSArrayM insertObject:atIndex:]: object cannot be nil"),
             std::string::npos);
 }
 
-TEST(NestedModel, NestingHasALimitAndThenOnlyTheInnermostModelsAreMissing) {
+TEST(NestedModel, NestingIsLimitedAndOmitsOnlyTheInnermostModels) {
   constexpr auto kMost = OrvantaBaseModel::kMostNestedModels;
   for (const std::size_t models : {kMost, kMost + 1}) {
     RecordingPlatform platform;
@@ -109,7 +109,7 @@ TEST(NestedModel, NestingHasALimitAndThenOnlyTheInnermostModelsAreMissing) {
   }
 }
 
-TEST(NestedModel, TheNumberOfModelsInOneDictionaryHasALimit) {
+TEST(NestedModel, TheNumberOfModelsInOneDictionaryIsLimited) {
   constexpr auto kMost = OrvantaBaseModel::kMostModels;
   for (const std::size_t models : {kMost, kMost + 1}) {
     RecordingPlatform platform;
@@ -118,18 +118,18 @@ TEST(NestedModel, TheNumberOfModelsInOneDictionaryHasALimit) {
     const RefusalRecorder recorder;
     const auto owner = make<NestingModel>(Dictionary{{"leaves", leaves}});
     EXPECT_EQ(!owner, models > kMost);
-    EXPECT_EQ(recorder.refusal() ? recorder.refusal()->description() : "taken",
+    EXPECT_EQ(recorder.refusal() ? recorder.refusal()->description() : "accepted",
               models > kMost ? R"(NestingModel "leaves" (leaves) > LeafModel: a dictionary, )"
                                "too many models in one dictionary"
-                             : "taken");
+                             : "accepted");
     EXPECT_EQ(platform.log.size(), models > kMost ? 2U : 0U);
     EXPECT_TRUE(modelFromJSON<NestingModel>(R"({"leaves": [{}]})"));  // each update counts anew
   }
 }
 
-// Each push object reads its action twice, so every level doubles the work: a payload of 4 KB took
-// ten seconds, one of 240 KB minutes.
-TEST(NestedModel, PushesInsideActionsMultiplied) {
+// Each push object reads its action twice, so every level doubles the work: without a limit a
+// payload of 4 KB takes ten seconds, one of 240 KB minutes.
+TEST(NestedModel, PushesInsideActionsTakeBoundedTime) {
   for (const std::size_t elements : {std::size_t{1}, OrvantaBaseModel::kMostElements / 1000}) {
     RecordingPlatform platform;
     std::string text = R"({"klazz":"OrvantaPushObject","_ov":[[)";
@@ -145,7 +145,7 @@ TEST(NestedModel, PushesInsideActionsMultiplied) {
   }
 }
 
-TEST(NestedModel, AnUndefinedKeyFromAnInitialiserRefusesTheOwnerSilently) {
+TEST(NestedModel, AnUndefinedKeyInAnInitializerFailsTheOwnerSilently) {
   RecordingPlatform platform;
   const auto holder = make<PushHolderModel>();
   ASSERT_TRUE(holder);

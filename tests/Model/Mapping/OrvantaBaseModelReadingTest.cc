@@ -45,7 +45,7 @@ Outcome outcomeOf(Kind kind, std::string_view encoding) {
 }
 
 // The whole matrix of kinds of values and types of properties.
-TEST(Reading, TypeCodeDecidesWhatBecomesOfEachKind) {
+TEST(Reading, TypeCodeDecidesHowEachKindIsRead) {
   RecordingPlatform platform;
   for (const Class* cls : {&ScalarModel::classObject(), &ObjectModel::classObject()}) {
     for (const KeyEntry& row : cls->keyPathPropertySelectorMapping) {
@@ -78,7 +78,7 @@ TEST(Reading, TypeCodeDecidesWhatBecomesOfEachKind) {
   }
 }
 
-TEST(Reading, EachScalarTakesTheReadingOfItsWidth) {
+TEST(Reading, ScalarsAreConvertedToTheirWidth) {
   Dictionary payload;
   for (const char* key : {"B", "i", "q", "Q", "f", "d"}) payload.set(key, -4294967298.75);
   const auto model = make<ScalarModel>(payload);
@@ -88,7 +88,7 @@ TEST(Reading, EachScalarTakesTheReadingOfItsWidth) {
             R"("f":-4294967296,"d":-4294967298.75})");
 }
 
-TEST(Reading, NothingToReadIsSuccessAndChangesNothing) {
+TEST(Reading, NothingToReadSucceedsAndChangesNothing) {
   const auto model = make<LeafModel>();
   model->setName("kept");
   EXPECT_TRUE(model->updateWithDictionary(nullptr));
@@ -101,7 +101,7 @@ TEST(Reading, NothingToReadIsSuccessAndChangesNothing) {
   EXPECT_TRUE(updateFromJSON(*bare, R"({"name": null})"));  // no table at all
 }
 
-TEST(Reading, ADottedKeyIsReadFromWhateverStandsOnItsWay) {
+TEST(Reading, ReadsDottedKeysThroughDictionariesAndArrays) {
   // The written model, empty where the update fails.
   const std::pair<std::string_view, std::string_view> rows[] = {
       {R"({"a": {"b": {"c": 2}}, "aps": {"sound": "s", "tags": [], "badge": 1}, "title": "t"})",
@@ -119,7 +119,7 @@ TEST(Reading, ADottedKeyIsReadFromWhateverStandsOnItsWay) {
   }
 }
 
-TEST(Reading, DefaultsSetBeforeTheBaseHoldForMissingKeys) {
+TEST(Reading, DefaultsSetBeforeTheUpdateHoldForMissingKeys) {
   EXPECT_EQ(make<DefaultsModel>()->count(), kUnsetInteger);
   const auto model = modelFromJSON<DefaultsModel>(R"({"count": 3})");
   EXPECT_EQ(model->count(), 3);
@@ -129,20 +129,20 @@ TEST(Reading, DefaultsSetBeforeTheBaseHoldForMissingKeys) {
 
 // ---- Properties ----
 
-TEST(Reading, AnAncestorsKeyWinsOverItsDescendants) {
+TEST(Reading, ASuperclassKeyWinsOverASubclassKey) {
   const auto model = modelFromJSON<DescendantModel>(R"({"k": "a", "own": "b"})");
   EXPECT_EQ(model->inherited().get(), "a");
   EXPECT_FALSE(model->overruled());
   EXPECT_EQ(model->own().get(), "b");
 }
 
-TEST(Reading, AnAncestorsTypeCodeDecidesAboutARedeclaredProperty) {
+TEST(Reading, ASuperclassTypeCodeAppliesToARedeclaredProperty) {
   const auto model = modelFromJSON<DescendantModel>(R"({"s": 1000})");
   EXPECT_EQ(model->stamp().value(), Value(1000));  // in the descendant's storage, not made a date
   EXPECT_FALSE(model->AncestorModel::stamp());
 }
 
-TEST(Reading, AComputedPropertyIsWrittenThroughItsSetterOrNotAtAll) {
+TEST(Reading, AssignsComputedPropertiesOnlyThroughTheirSetter) {
   const auto model = make<ComputedModel>();
   model->setKeyPathPropertyDictionary({{"p", "percent"}, {"t", "twice"}});
   EXPECT_TRUE(updateFromJSON(*model, R"({"p": 50})"));
@@ -164,7 +164,7 @@ TEST(Reading, ADottedPropertyPathAssignsInsideANestedObject) {
   model->setKeyPathPropertyDictionary({{"n", "leaf.missing"}});
   EXPECT_FALSE(updateFromJSON(*model, R"({"n": 1})"));
   model->setKeyPathPropertyDictionary({{"n", "leaf.name.first"}});
-  EXPECT_FALSE(updateFromJSON(*model, R"({"n": 1})"));  // a text has no keys to write to
+  EXPECT_FALSE(updateFromJSON(*model, R"({"n": 1})"));  // a string has no keys to write
   EXPECT_EQ(exceptionFrom([&] { model->setValueForKeyPath(1, "leaf.name.first"); }),
             "NSUnknownKeyException: [<NSString> setValue:forUndefinedKey:]: this class is not key "
             "value coding-compliant for the key first.");
@@ -179,14 +179,14 @@ TEST(Reading, ADottedPropertyPathConvertsLikeTheNestedObject) {
   EXPECT_FALSE(updateFromJSON(*model, R"({"u": 5})"));
 }
 
-TEST(Reading, ASetterOfTheClassGetsContainersToo) {
+TEST(Reading, PassesContainersToCustomSetters) {
   EXPECT_EQ(modelFromJSON<SetterModel>(R"({"text": {"a": 1}})")->before().get(), "another kind");
   EXPECT_EQ(modelFromJSON<SetterModel>(R"({"text": [1]})")->before().get(), "another kind");
   const auto model = modelFromJSON<SetterModel>(R"({"text": {"klazz": "OrvantaPushStyle"}})");
   EXPECT_EQ(model->before().get(), "another kind");
 }
 
-TEST(Reading, AnUpdateMayComeFromTheObjectItself) {
+TEST(Reading, UpdatesFromADictionaryThatTheModelOwns) {
   const auto model = make<ObjectModel>();
   ASSERT_TRUE(model);
   updateFromJSON(*model,
@@ -196,7 +196,7 @@ TEST(Reading, AnUpdateMayComeFromTheObjectItself) {
   EXPECT_EQ(model->leaf().value(), Value(1));
 }
 
-TEST(Reading, ATableThatIsReplacedMeanwhileHoldsFromTheNextUpdateOn) {
+TEST(Reading, AReplacedKeyTableAppliesFromTheNextUpdate) {
   const auto model = modelFromJSON<SetterModel>(R"({"text": "tables", "after": "first"})");
   ASSERT_TRUE(model);
   EXPECT_EQ(model->after().get(), "first");

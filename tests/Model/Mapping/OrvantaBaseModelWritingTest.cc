@@ -37,18 +37,18 @@ TEST(Writing, ConvertsBackWhatReadingConverted) {
   EXPECT_EQ(toJSON(model->dictionaryValue()), text);
 }
 
-TEST(Writing, LeavesOutNilAndWhatAConverterRefuses) {
+TEST(Writing, OmitsNilAndValuesThatFailToConvert) {
   EXPECT_TRUE(make<ObjectModel>()->dictionaryValue().empty());
   const auto model = make<ObjectModel>();
   model->setValueForKey(5, "url");
   model->setValueForKey(Array(), "date");
   model->setText("t");
   EXPECT_EQ(keysOf(model->dictionaryValue()), Keys{"text"});
-  model->setValueForKey("no URL", "url");  // of which the converter makes nil
+  model->setValueForKey("no URL", "url");  // which converts to nil
   EXPECT_EQ(keysOf(model->dictionaryValue()), Keys{"text"});
 }
 
-TEST(Writing, LeavesOutTheUnsetIntegerOfAnyKindButNoOtherNumber) {
+TEST(Writing, OmitsTheUnsetIntegerOfAnyKindButNoOtherNumber) {
   const std::pair<Value, bool> rows[] = {
       {kUnsetInteger, false},
       {static_cast<std::uint64_t>(kUnsetInteger), false},
@@ -88,7 +88,7 @@ TEST(Writing, NamesTheClassOfEveryModelWhenAsked) {
             R"("list":[{"x":1}],"deeper":{"leaf":{"size":0}}})");
 }
 
-TEST(Writing, ArraysLoseTheirModelsAndNothingElse) {
+TEST(Writing, ConvertsOnlyTheModelsOfAnArray) {
   const Value url = *Url::parse("a");
   const Value date = Date{1};
   const Array array{make<LeafModel>(),
@@ -106,7 +106,7 @@ TEST(Writing, ArraysLoseTheirModelsAndNothingElse) {
   EXPECT_EQ(result[6].dictionary()->begin()->value.kind(), Kind::object);
 }
 
-TEST(Writing, AGetterThatThrowsIsLeftOut) {
+TEST(Writing, OmitsAPropertyWhoseGetterThrows) {
   RecordingPlatform platform;
   const auto model = make<FaultyGetterModel>();
   model->setFirst("a");
@@ -115,7 +115,7 @@ TEST(Writing, AGetterThatThrowsIsLeftOut) {
   EXPECT_TRUE(platform.log.empty());
 }
 
-TEST(Writing, APropertyPathIsReadThroughNestedObjects) {
+TEST(Writing, FollowsPropertyPathsThroughNestedObjects) {
   const auto model = modelFromJSON<NestingModel>(R"({"leaf": {"name": "inner"}, "free": 5})");
   model->setKeyPathPropertyDictionary(
       {{"n", "leaf.name"}, {"x", "leaf.missing"}, {"y", "free.z"}, {"nil", "deeper.leaf"}});

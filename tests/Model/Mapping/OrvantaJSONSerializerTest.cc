@@ -11,7 +11,7 @@
 namespace orvanta::testing {
 namespace {
 
-/// Everything of which no text can be made.
+/// Values that cannot be written as JSON.
 std::vector<Value> unwritable() {
   Value deep = Array();
   for (int i = 0; i < 512; ++i) deep = Array({deep});
@@ -25,7 +25,7 @@ std::vector<Value> unwritable() {
   };
 }
 
-TEST(OrvantaJSONSerializer, MakesNoDataOfAnythingElseAndSaysNothing) {
+TEST(OrvantaJSONSerializer, ReturnsNoDataForOtherValuesWithoutLogging) {
   RecordingPlatform platform;
   for (const Value& object : unwritable()) {
     EXPECT_FALSE(OrvantaJSONSerializer::dataFromDictionary(object)) << object.kindName();
@@ -34,7 +34,7 @@ TEST(OrvantaJSONSerializer, MakesNoDataOfAnythingElseAndSaysNothing) {
 }
 
 TEST(OrvantaJSONSerializer, WritesAnEmptyDictionaryAndOneLogLineWhenItFails) {
-  const LogLevel silent(0);  // does not matter here
+  const LogLevel silent(0);  // has no effect here
   for (const bool pretty : {false, true}) {
     for (const Value& object : unwritable()) {
       RecordingPlatform platform;

@@ -29,7 +29,7 @@ TEST(OrvantaLogger, WritesErrorLinesFromOneAndDebugLinesFromTwo) {
   }
 }
 
-TEST(OrvantaLogger, MakesNoMessageThatIsNotWritten) {
+TEST(OrvantaLogger, BuildsNoMessageThatIsNotWritten) {
   const LogLevel scope(0);
   RecordingPlatform platform;
   int messages = 0;

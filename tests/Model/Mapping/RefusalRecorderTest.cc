@@ -8,30 +8,30 @@
 namespace orvanta::testing {
 namespace {
 
-/// Why a new model refuses a JSON text, or "taken".
+/// The reason why a new model rejects a JSON string, or "accepted".
 template <class M>
-std::string refusalOf(std::string_view json) {
+std::string rejectionOf(std::string_view json) {
   const RefusalRecorder recorder;
   const LogLevel silent(0);
   std::string end;
   try {
-    if (modelFromJSON<M>(json)) end = "taken";
+    if (modelFromJSON<M>(json)) end = "accepted";
   } catch (const Exception&) {
     end = " [thrown]";
   }
   return recorder.refusal() ? recorder.refusal()->description() + end : end;
 }
 
-TEST(RefusalRecorder, TellsPlaceKindAndReason) {
-  EXPECT_EQ(refusalOf<ScalarModel>(R"({"i": null, "q": null})"),
+TEST(RefusalRecorder, ReportsPathKindAndReason) {
+  EXPECT_EQ(rejectionOf<ScalarModel>(R"({"i": null, "q": null})"),
             "ScalarModel \"i\" (narrow): null, but a number is read from numbers and text only");
-  EXPECT_EQ(refusalOf<DottedModel>(R"({"a": {"b": 1.5}})"),
+  EXPECT_EQ(rejectionOf<DottedModel>(R"({"a": {"b": 1.5}})"),
             "DottedModel \"a.b.c\" (deep): a fraction, which has no key \"c\"");
-  EXPECT_EQ(refusalOf<DottedModel>(R"({"a": [{"b": {}}, {"b": "text"}, {"b": true}]})"),
+  EXPECT_EQ(rejectionOf<DottedModel>(R"({"a": [{"b": {}}, {"b": "text"}, {"b": true}]})"),
             "DottedModel \"a.b.c\" (deep): a string, which has no key \"c\"");
 }
 
-TEST(RefusalRecorder, TellsThePropertyThatIsMissing) {
+TEST(RefusalRecorder, ReportsAMissingProperty) {
   const RefusalRecorder recorder;
   const auto model = make<LeafModel>();
   model->setKeyPathPropertyDictionary({{"x", "missing"}});
@@ -42,19 +42,19 @@ TEST(RefusalRecorder, TellsThePropertyThatIsMissing) {
             "for a property that the class does not have");
 }
 
-TEST(RefusalRecorder, StepsInwardsThroughModelsAndArrays) {
-  EXPECT_EQ(refusalOf<NestingModel>(R"({"leaves": [{}, [{"size": {}}]]})"),
+TEST(RefusalRecorder, ReportsThePathThroughModelsAndArrays) {
+  EXPECT_EQ(rejectionOf<NestingModel>(R"({"leaves": [{}, [{"size": {}}]]})"),
             "NestingModel \"leaves\" (leaves) > LeafModel \"size\" (size): a dictionary, "
             "but a number is read from numbers and text only");
 }
 
 TEST(RefusalRecorder, RecordsNothingWhenTheUpdateSucceeds) {
-  EXPECT_EQ(refusalOf<ScalarModel>(R"({"i": 5})"), "taken");
-  EXPECT_EQ(refusalOf<NestingModel>(R"({"leaf": {"size": null}})"), "taken");
-  EXPECT_EQ(refusalOf<NestingModel>(R"({"deeper": {"leaves": [{"size": null}]}})"), "taken");
+  EXPECT_EQ(rejectionOf<ScalarModel>(R"({"i": 5})"), "accepted");
+  EXPECT_EQ(rejectionOf<NestingModel>(R"({"leaf": {"size": null}})"), "accepted");
+  EXPECT_EQ(rejectionOf<NestingModel>(R"({"deeper": {"leaves": [{"size": null}]}})"), "accepted");
 }
 
-TEST(RefusalRecorder, OnceResetTellsAboutTheNextUpdate) {
+TEST(RefusalRecorder, AfterAResetReportsTheNextUpdate) {
   const LogLevel silent(0);
   RefusalRecorder recorder;
   const auto model = make<ScalarModel>();
@@ -69,7 +69,7 @@ TEST(RefusalRecorder, OnceResetTellsAboutTheNextUpdate) {
   EXPECT_FALSE(recorder.refusal());
 }
 
-TEST(RefusalRecorder, TheInnermostRecorderOfTheThreadIsTold) {
+TEST(RefusalRecorder, OnlyTheInnermostRecorderOfTheThreadRecords) {
   const LogLevel silent(0);
   RefusalRecorder outer;
   {
@@ -86,8 +86,8 @@ TEST(RefusalRecorder, TheInnermostRecorderOfTheThreadIsTold) {
   EXPECT_FALSE(outer.refusal());
 }
 
-TEST(RefusalRecorder, TellsWhyAnAlertHadNoModel) {
-  EXPECT_EQ(refusalOf<OrvantaPushObject>(
+TEST(RefusalRecorder, ReportsWhyAnAlertHasNoModel) {
+  EXPECT_EQ(rejectionOf<OrvantaPushObject>(
                 R"({"aps": {"alert": {"title": [{"klazz": "OrvantaUserNotificationAction",
                                                  "actM": null}]}},
                     "_ov": {"act": {"uri": "a"}}})"),

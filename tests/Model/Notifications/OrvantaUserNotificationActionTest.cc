@@ -6,7 +6,7 @@
 namespace orvanta::testing {
 namespace {
 
-TEST(OrvantaUserNotificationAction, FieldsBecomeOptionsAndKind) {
+TEST(OrvantaUserNotificationAction, ItsFieldsSetOptionsAndKind) {
   const struct {
     std::string_view json;
     unsigned options;
@@ -31,7 +31,7 @@ TEST(OrvantaUserNotificationAction, FieldsBecomeOptionsAndKind) {
   }
 }
 
-TEST(OrvantaUserNotificationAction, WhatIsNoTextIsAnEmptyIdentifierOrTitle) {
+TEST(OrvantaUserNotificationAction, IdentifierAndTitleAreEmptyUnlessStrings) {
   const struct {
     std::string_view json;
     std::string_view identifier;

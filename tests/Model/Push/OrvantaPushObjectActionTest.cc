@@ -20,7 +20,7 @@ TEST(OrvantaPushObjectAction, PercentEncodesTheDeepLinkAsAHost) {
     const auto action =
         make<OrvantaPushObjectAction>(&OrvantaPushObjectAction::initWithValue, dictionary);
     ASSERT_TRUE(action);
-    EXPECT_FALSE(action->deeplinkURL());  // only when asked
+    EXPECT_FALSE(action->deeplinkURL());  // only on request
     action->setDeeplinkURLAsURL();
     EXPECT_EQ(action->deeplinkURLString().value(), uri);
     ASSERT_EQ(action->deeplinkURL().get() != nullptr, url.has_value()) << describe(uri);
@@ -30,7 +30,7 @@ TEST(OrvantaPushObjectAction, PercentEncodesTheDeepLinkAsAHost) {
   }
 }
 
-TEST(OrvantaPushObjectAction, ForgetsTheUrlOfAnEarlierText) {
+TEST(OrvantaPushObjectAction, ClearsTheUrlOfAnEarlierString) {
   const auto action = modelFromJSON<OrvantaPushObjectAction>(R"({"uri": "a"})");
   action->setDeeplinkURLAsURL();
   EXPECT_TRUE(action->deeplinkURL());

@@ -5,8 +5,8 @@
 #include "support/ModelHelpers.h"
 #include "support/RecordingPlatform.h"
 
-// Every key of a push payload, and of the models in it, given every kind of value. What becomes of
-// it follows from the type code of the key's property and from what the value reads as.
+// Every key of a push payload and of its nested models, with every kind of value. The outcome
+// follows from the type code of the property and the conversions of the value.
 
 namespace orvanta::testing {
 namespace {
@@ -15,9 +15,9 @@ constexpr std::uint64_t kTwo63 = std::uint64_t{1} << 63U;
 const std::string kInvalidURL = R"("no URL")";
 const std::string kModel = R"({"klazz":"OrvantaReviewAction"})";
 const std::string kInvalidModel =
-    R"({"klazz":"OrvantaWidgetAction","uri":5})";  // the model refuses it
+    R"({"klazz":"OrvantaWidgetAction","uri":5})";  // the model rejects it
 
-/// A value and its readings, where it has any.
+/// A value and its conversions, where it has any.
 const struct Cell {
   std::string json;
   std::optional<Value> boolean{};
@@ -42,7 +42,7 @@ const struct Cell {
     {"[" + kInvalidModel + "]"},
 };
 
-/// What an object writes that was given nothing: its scalars, but for a badge.
+/// The dictionary of a new object: its scalars, except a badge.
 Dictionary unread(const Class& cls) {
   Dictionary entries;
   for (const auto& [key, property] : cls.keyPathPropertySelectorMapping) {
@@ -53,39 +53,39 @@ Dictionary unread(const Class& cls) {
   return entries;
 }
 
-/// What a property holds and writes, nil for nothing, unless the whole object is nil.
+/// The value of a property and its written form, or the number of log lines of a failed update.
 struct Outcome {
   Value value{};
   Value written{};
-  std::optional<std::size_t> refusedWithLines{};
+  std::optional<std::size_t> rejectedWithLines{};
 };
-const Outcome kRefused{.refusedWithLines = 0};
-const Outcome kRefusedWithLog{.refusedWithLines = 1};
+const Outcome kRejected{.rejectedWithLines = 0};
+const Outcome kRejectedWithLog{.rejectedWithLines = 1};
 
 Outcome stored(const Value& value) {
   return {.value = value, .written = value == Value(kUnsetInteger) ? Value() : value};
 }
 Outcome read(const std::optional<Value>& reading) {
-  return reading ? stored(*reading) : kRefusedWithLog;
+  return reading ? stored(*reading) : kRejectedWithLog;
 }
 
 Outcome outcome(const Cell& cell, std::string_view encoding, const Class* declared) {
-  // A dictionary's model is of the declared class, else of the one that it names; one that refuses
-  // is nil, which no array holds.
+  // A dictionary becomes a model of the declared class, otherwise of the class it names. A model
+  // that fails is nil, which no array can contain.
   const Value value = parseJSON(cell.json);
   const bool inArray = cell.json == "[" + kInvalidModel + "]";
-  if (inArray && declared == nullptr) return kRefusedWithLog;
+  if (inArray && declared == nullptr) return kRejectedWithLog;
   if (encoding == "B") return read(cell.boolean);
   if (encoding == "Q") return read(cell.natural);
   if (encoding == "d") return read(cell.real);
   if (encoding.find("NSURL") != std::string_view::npos) {
-    if (!value.isString()) return kRefused;
+    if (!value.isString()) return kRejected;
     return cell.json == kInvalidURL ? Outcome{}
                                     : Outcome{.value = *Url::parse(value), .written = value};
   }
   if (encoding.find("NSDate") != std::string_view::npos) {
     if (value.isNull()) return stored(value);
-    if (!cell.milliseconds) return kRefused;
+    if (!cell.milliseconds) return kRejected;
     const auto milliseconds = static_cast<double>(*cell.milliseconds);
     return {.value = Date{milliseconds / 1000.0}, .written = *cell.milliseconds};
   }
@@ -97,7 +97,7 @@ Outcome outcome(const Cell& cell, std::string_view encoding, const Class* declar
   return value.dictionary() ? Outcome{.value = model, .written = unread(*cls)} : stored(value);
 }
 
-TEST(PushPayloadMatrix, TypeCodeAndValueDecideOverEveryKey) {
+TEST(PushPayloadMatrix, TypeCodeAndValueDecideEveryKey) {
   for (const Class* cls :
        {&OrvantaPushObject::classObject(), &OrvantaPushObjectAlert::classObject(),
         &OrvantaPushObjectAction::classObject(), &OrvantaPushStyle::classObject(),
@@ -113,8 +113,8 @@ TEST(PushPayloadMatrix, TypeCodeAndValueDecideOverEveryKey) {
         if (dot != std::string_view::npos) payload = {{key.substr(0, dot), payload}};
         RecordingPlatform platform;
         const Ref<OrvantaBaseModel> model = makeModel(*cls, &payload);
-        EXPECT_EQ(!model, expected.refusedWithLines.has_value());
-        EXPECT_EQ(platform.log.size(), expected.refusedWithLines.value_or(0));
+        EXPECT_EQ(!model, expected.rejectedWithLines.has_value());
+        EXPECT_EQ(platform.log.size(), expected.rejectedWithLines.value_or(0));
         if (!model) continue;
         const Value actual = model->valueForKey(property);
         EXPECT_EQ(actual, expected.value);
@@ -128,7 +128,7 @@ TEST(PushPayloadMatrix, TypeCodeAndValueDecideOverEveryKey) {
   }
 }
 
-TEST(PushPayloadMatrix, ThePartsAreDictionariesOrNothingIsRead) {
+TEST(PushPayloadMatrix, PartsThatAreNotDictionariesAreNotRead) {
   for (const char* part : {"aps", "_ov"}) {
     for (const Cell& cell : kCells) {
       SCOPED_TRACE(part + (" = " + cell.json));
@@ -137,7 +137,7 @@ TEST(PushPayloadMatrix, ThePartsAreDictionariesOrNothingIsRead) {
       const Dictionary payload{{part, value}};
       Ref<OrvantaPushObject> push;
       const auto error = exceptionFrom([&] { push = make<OrvantaPushObject>(payload); });
-      // The keys of an array are those of its elements; no scalar is read from their array.
+      // An array is searched by element; scalars cannot be read from the resulting array.
       const bool isSearched = value.array() && (*value.array())[0].dictionary();
       const bool hasKeys = value.dictionary() || isSearched;
       EXPECT_EQ(error.starts_with("NSUnknownKeyException: "), !hasKeys);
@@ -148,7 +148,7 @@ TEST(PushPayloadMatrix, ThePartsAreDictionariesOrNothingIsRead) {
   }
 }
 
-TEST(PushPayloadMatrix, AlertAndClickActionAreThereWhateverIsGiven) {
+TEST(PushPayloadMatrix, AlertAndClickActionExistForEveryValue) {
   for (const Cell& cell : kCells) {
     const Value value = parseJSON(cell.json);
     const auto push = make<OrvantaPushObject>(Dictionary{{"aps", Dictionary{{"alert", value}}}});
@@ -160,11 +160,13 @@ TEST(PushPayloadMatrix, AlertAndClickActionAreThereWhateverIsGiven) {
 
     const RecordingPlatform platform;
     const auto clicked = make<OrvantaPushObject>(Dictionary{{"_ov", Dictionary{{"act", value}}}});
-    ASSERT_EQ(!clicked, outcome(cell, "@", nullptr).refusedWithLines.has_value()) << cell.json;
+    ASSERT_EQ(!clicked, outcome(cell, "@", nullptr).rejectedWithLines.has_value()) << cell.json;
     if (!clicked) continue;
     ASSERT_TRUE(clicked->alert() && clicked->action()) << cell.json;
     const Value uri = value.dictionary() ? (*value.dictionary())["uri"] : Value();
     EXPECT_EQ(clicked->action().get()->deeplinkURLString().value(), uri) << cell.json;
+    EXPECT_EQ(clicked->actionDictionary().value(), clicked->defaultActionDictionary().value());
+    EXPECT_TRUE(uri.isString() || !clicked->action().get()->deeplinkURL()) << cell.json;
   }
 }
 

@@ -20,7 +20,7 @@ std::size_t countOf(const Ref<OrvantaEventRequest>& request) {
   return request->events().get()->size();
 }
 
-TEST(OrvantaEventRequest, TakesAsManyEventsAsThereIsRoomFor) {
+TEST(OrvantaEventRequest, MergesEventsUpToTheLimit) {
   const struct {
     std::size_t own, theirs, ownAfter, theirsAfter;
     bool limitReached;
@@ -51,7 +51,7 @@ TEST(OrvantaEventRequest, TakesAsManyEventsAsThereIsRoomFor) {
   EXPECT_EQ(countOf(own), 1U);
 }
 
-TEST(OrvantaEventRequest, StripsWhatItsIdentifiersSayAlready) {
+TEST(OrvantaEventRequest, RemovesIdentifiersEqualToItsOwn) {
   const auto leader = batchOf(1);
   leader->setIdentifiers(modelFromJSON<OrvantaIdentifiers>(R"({"iid":"i","sid":"1"})"));
   const auto other = batchOf(2);
@@ -72,7 +72,7 @@ TEST(OrvantaEventRequest, StripsWhatItsIdentifiersSayAlready) {
   }
 }
 
-TEST(OrvantaEventRequest, IsRankedByItsEvents) {
+TEST(OrvantaEventRequest, HasThePriorityOfItsEvents) {
   const auto geofence = OrvantaGeofenceEvent::eventWithIdentifier("g", 1);
   const std::pair<Array, std::int64_t> rows[] = {
       {{}, 0},

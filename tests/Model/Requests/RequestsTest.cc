@@ -14,7 +14,7 @@
 namespace orvanta::testing {
 namespace {
 
-TEST(OrvantaRequestPathType, KnowsItsCodesOnly) {
+TEST(OrvantaRequestPathType, ReturnsNilForUnknownCodes) {
   EXPECT_EQ(OrvantaRequestPathStringForType(0), std::nullopt);
   EXPECT_EQ(OrvantaRequestPathStringForType(7), "/user/update-identify");
   EXPECT_EQ(OrvantaRequestPathStringForType(21), "/coupon/fetch");
@@ -24,7 +24,7 @@ TEST(OrvantaRequestPathType, KnowsItsCodesOnly) {
   EXPECT_EQ(OrvantaHTTPMethodStringForType(~std::uint64_t{0}), std::nullopt);
 }
 
-TEST(OrvantaBaseRequest, SetsUpOncePerObjectAndMakesASpec) {
+TEST(OrvantaBaseRequest, SetsUpOnceAndBuildsASpec) {
   const auto base = make<OrvantaBaseRequest>();
   EXPECT_FALSE(base->requestSpec()->path);
   EXPECT_EQ(base->priority(), std::nullopt);
@@ -34,14 +34,14 @@ TEST(OrvantaBaseRequest, SetsUpOncePerObjectAndMakesASpec) {
   request->editIdsContained().append(8);
   request->setQueuePriority(-4);
   const Dictionary read{{"all", true}};
-  EXPECT_TRUE(request->updateWithDictionary(&read));  // without setting up again
+  EXPECT_TRUE(request->updateWithDictionary(&read));  // does not set up again
   EXPECT_EQ(request->description(),
             "Spec : \nBase URL : (null)\nPath : /inbox/set\nMethod : POST\nHeaders : {\n}\n"
             "Body : {\n    all = 1;\n    ids =     {\n        iid = i;\n    };\n    st = 4;\n}\n"
             "Timeout : 20.000000\nPriority : -4\nStorage Id : 7\nContained Ids : (\n    8\n)");
 }
 
-TEST(Requests, AreMadeFromTheirArguments) {
+TEST(Requests, InitializersSetTheirFields) {
   const auto user = modelFromJSON<OrvantaUser>(R"({"pa":"Nora","pg":0})");
   user->setEmail("nora@example.com");
   user->setMSISDN("+900");
@@ -77,7 +77,7 @@ TEST(OrvantaFetchInboxRequest, ReadsItsFilterFromItsOwnDictionary) {
   const auto request = modelFromJSON<OrvantaFetchInboxRequest>(R"({"ps":"30","ids":{"iid":"i"}})");
   ASSERT_NE(request->filter().get(), nullptr);
   EXPECT_EQ(request->filter().get()->pageSize(), 30);
-  EXPECT_EQ(request->filter().get()->status(), 0U);  // the defaults are those of `init` alone
+  EXPECT_EQ(request->filter().get()->status(), 0U);  // only `init` sets the defaults
   EXPECT_EQ(
       Value(request->dictionaryValueWithClassInfo()),
       parseJSON(R"({"ids":{"iid":"i","klazz":"OrvantaIdentifiers"},"st":0,"ps":30,"ie":false,)"
@@ -86,7 +86,7 @@ TEST(OrvantaFetchInboxRequest, ReadsItsFilterFromItsOwnDictionary) {
   EXPECT_FALSE(modelFromJSON<OrvantaFetchInboxRequest>(R"({"ps":null})"));
 }
 
-TEST(Filters, HaveDefaultsOfTheirOwn) {
+TEST(Filters, HaveDefaults) {
   EXPECT_EQ(toJSON(make<OrvantaInboxFilter>()->dictionaryValue()),
             R"({"st":3,"ps":2147483647,"ie":false})");
   EXPECT_EQ(toJSON(make<OrvantaInboxCategoryFilter>()->dictionaryValue()),

@@ -28,7 +28,7 @@ TEST(OrvantaInboxCountResponse, SumsTheCountsOfAMask) {
   }
 }
 
-TEST(OrvantaInboxCategoryResponse, IsReadDownToItsLastMessage) {
+TEST(OrvantaInboxCategoryResponse, ReadsItsNestedModels) {
   const auto response = modelFromJSON<OrvantaInboxCategoryResponse>(
       R"({"cnt":[{"ct":"sale","st":{"1":2,"4":"7"},"msg":{"_ov":{"pid":"p"}}}]})");
   const auto* category = (*response->objects().get())[0].as<OrvantaInboxCategoryObject>();
