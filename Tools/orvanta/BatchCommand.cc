@@ -6,7 +6,7 @@
 #include "orvanta/Model/Requests/OrvantaEventRequest.h"
 #include "orvanta/Tool/Commands.h"
 #include "orvanta/Tool/Input.h"
-#include "orvanta/Tool/Lines.h"
+#include "orvanta/Tool/LineReader.h"
 #include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
@@ -30,14 +30,14 @@ std::string shown(const Value& value) {
 }
 
 /// The request of a line, or why there is none.
-Ref<OrvantaEventRequest> restored(const Lines& line, std::string& reason) {
+Ref<OrvantaEventRequest> restored(const LineReader& line, std::string& reason) {
   const auto refuse = [&](std::string why) {
     reason = std::move(why);
     return nullptr;
   };
   const Class& cls = OrvantaEventRequest::classObject();
   if (line.isTooLong()) {
-    return refuse("the line has more than " + std::to_string(Lines::kLongestLine) + " bytes");
+    return refuse("the line has more than " + std::to_string(LineReader::kMaxLineBytes) + " bytes");
   }
   JSONError error;
   const Value value = parseJSON(line.text(), &error);
@@ -54,7 +54,7 @@ Ref<OrvantaEventRequest> restored(const Lines& line, std::string& reason) {
   }
   const RefusalRecorder recorder;
   auto request = make<OrvantaEventRequest>(*dictionary);
-  if (!request) return refuse(refusalText(recorder, cls));
+  if (!request) return refuse(rejectionReason(recorder, cls));
   if (eventCount(*request) == 0) {
     const Value& events = (*dictionary)["events"];
     return refuse("\"events\" is " + (events.array() != nullptr ? "empty" : shown(events)) +
@@ -68,9 +68,9 @@ Ref<OrvantaEventRequest> restored(const Lines& line, std::string& reason) {
 }
 
 /// Tells what is taken as it stands, but may be meant in another way.
-void warn(const Lines& line, const OrvantaEventRequest& request, std::ostream& err) {
+void warn(const LineReader& line, const OrvantaEventRequest& request, std::ostream& err) {
   const auto tell = [&](const std::string& text) {
-    err << "orvanta: " << line.place() << ": warning: " << text << '\n';
+    err << "orvanta: " << line.location() << ": warning: " << text << '\n';
   };
   if (const std::string duplicate = duplicateKeyWarning(line.text()); !duplicate.empty()) {
     tell(duplicate);
@@ -134,7 +134,7 @@ class Folding {
 }  // namespace
 
 ExitCode batch(const BatchOptions& options, const Streams& streams) {
-  Lines lines(options.files.empty() ? std::vector<std::string>{"-"} : options.files, streams);
+  LineReader lines(options.files.empty() ? std::vector<std::string>{"-"} : options.files, streams);
   Folding folding(streams.out);
   std::uint64_t badLines = 0;
   while (streams.out && lines.next()) {
@@ -144,7 +144,7 @@ ExitCode batch(const BatchOptions& options, const Streams& streams) {
       warn(lines, *request, streams.err);
       folding.take(std::move(request));
     } else {
-      streams.err << "orvanta: " << lines.place() << ": " << escapeForTerminal(reason) << '\n';
+      streams.err << "orvanta: " << lines.location() << ": " << escapeForTerminal(reason) << '\n';
       ++badLines;
     }
   }
@@ -152,7 +152,7 @@ ExitCode batch(const BatchOptions& options, const Streams& streams) {
   if (badLines == 0) return ExitCode::done;
   streams.err << "orvanta: " << badLines << (badLines == 1 ? " line was" : " lines were")
               << " left out\n";
-  return ExitCode::notMade;
+  return ExitCode::rejected;
 }
 
 }  // namespace orvanta::tool

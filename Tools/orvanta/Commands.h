@@ -8,17 +8,17 @@
 #include "orvanta/Model/Mapping/Class.h"
 #include "orvanta/Model/Mapping/RefusalRecorder.h"
 #include "orvanta/Model/Requests/OrvantaRequestSpec.h"
-#include "orvanta/Tool/Tool.h"
+#include "orvanta/Tool/CommandLine.h"
 
 namespace orvanta::tool {
 
 struct NotifyOptions {
   std::string payload = "-";
   bool json = false;
-  std::string osVersion;  // empty: the scenario's, else the newest
-  std::string resources;
-  std::string state;     // empty: a fresh folder
-  std::string scenario;  // file; empty for none
+  std::string osVersion;  // empty: from the scenario, or the newest
+  std::string resources;  // folder; empty for none
+  std::string state;      // folder; empty for a temporary one
+  std::string scenario;   // file; empty for none
   std::vector<std::string> mapUrls;
   double timeBudget = 30.0;
   bool realTime = false;
@@ -64,25 +64,26 @@ ExitCode replay(const ReplayOptions& options, const Streams& streams);
 
 struct IdentifierOptions {
   std::uint64_t count = 1;
-  std::optional<std::string> decode;  // none: make identifiers
+  std::optional<std::string> decode;  // absent: generate identifiers
 };
 ExitCode identifier(const IdentifierOptions& options, const Streams& streams);
+
 struct DeviceOptions {
   std::string device;  // profile file, or "host"; empty for the built-in phone
   bool all = false;
 };
 ExitCode device(const DeviceOptions& options, const Streams& streams);
 
-/// The model class of that name; throws a usage Failure that names the nearest one.
+/// Returns the model class of that name; throws a usage CommandError that suggests the nearest one.
 const Class& classForArgument(const std::string& name);
 
-/// Why a model of the class refused its dictionary, for a message.
-std::string refusalText(const RefusalRecorder& recorder, const Class& cls);
+/// Returns why a model of the class rejected its dictionary, for a message.
+std::string rejectionReason(const RefusalRecorder& recorder, const Class& cls);
 
-/// Throws Failure that names the first entry of a model's dictionary that has no JSON text.
+/// Throws CommandError naming the first entry of a model's dictionary that JSON cannot represent.
 void checkWritable(const Dictionary& dictionary, const Class& cls);
 
-/// A spec as a dictionary, with null for what is not set.
+/// Returns a spec as a dictionary, with null for each part that is not set.
 Dictionary specDictionary(const OrvantaRequestSpec& spec);
 
 }  // namespace orvanta::tool

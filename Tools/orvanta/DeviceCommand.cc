@@ -16,7 +16,7 @@ static DeviceProfile profileFrom(const std::string& argument, const Streams& str
   try {
     return DeviceProfile::fromDictionary(input.object);
   } catch (const ConfigError& error) {
-    throw Failure(ExitCode::unreadable, input.name + ": " + escapeForTerminal(error.what()));
+    throw CommandError(ExitCode::unreadable, input.name + ": " + escapeForTerminal(error.what()));
   }
 }
 

@@ -9,22 +9,22 @@ namespace orvanta::tool {
 
 namespace {
 
-[[noreturn]] void refuse(const std::string& text, const std::string& reason) {
-  throw Failure(ExitCode::notMade,
-                "\"" + escapeForTerminal(text) + "\" is no short identifier: " + reason);
+[[noreturn]] void reject(const std::string& text, const std::string& reason) {
+  throw CommandError(ExitCode::rejected,
+                     "\"" + escapeForTerminal(text) + "\" is no short identifier: " + reason);
 }
 
-/// The number that a text of base 62 stands for.
+/// Returns the number whose base-62 digits these are, least significant first.
 DecimalNumber decoded(const std::string& text) {
-  constexpr std::size_t kLongest = 21;  // 62^21 is still below 10^38
+  constexpr std::size_t kMaxDigits = 21;  // 62^21 is still below 10^38
   constexpr std::string_view kDigits = OrvantaIdentifierUtil::kBase62Digits;
-  if (text.size() > kLongest) refuse(text, "it is too long");
+  if (text.size() > kMaxDigits) reject(text, "it is too long");
   const DecimalNumber base(static_cast<std::int64_t>(kDigits.size()));
   DecimalNumber number;
-  for (auto at = text.rbegin(); at != text.rend(); ++at) {
-    const auto digit = kDigits.find(*at);
+  for (auto character = text.rbegin(); character != text.rend(); ++character) {
+    const auto digit = kDigits.find(*character);
     if (digit == std::string_view::npos) {
-      refuse(text, "it holds another character than letters and digits");
+      reject(text, "it holds another character than letters and digits");
     }
     const DecimalNumber negative(-static_cast<std::int64_t>(digit));
     number = number.multiplyingBy(base).subtracting(negative);
@@ -41,22 +41,22 @@ ExitCode identifier(const IdentifierOptions& options, const Streams& streams) {
     }
     return ExitCode::done;
   }
-  // The random number, ten digits of seconds and nine of nanoseconds.
+  // A random number, then ten digits of seconds and nine of nanoseconds.
   constexpr std::size_t kSecondDigits = 10;
   constexpr std::size_t kNanosecondDigits = 9;
   const std::string& text = *options.decode;
   const DecimalNumber number = decoded(text);
   if (OrvantaIdentifierUtil::base62String(number) != text) {
-    refuse(text, "it ends with the digit 0, which is \"a\"");
+    reject(text, "it ends with the digit 0, which is \"a\"");
   }
   const std::string digits = number.stringValue();
   if (digits.size() <= kSecondDigits + kNanosecondDigits) {
-    refuse(text, "its number, " + digits + ", has less than 20 digits");
+    reject(text, "its number, " + digits + ", has less than 20 digits");
   }
   const std::size_t randomDigits = digits.size() - kSecondDigits - kNanosecondDigits;
   const std::string random = digits.substr(0, randomDigits);
   if (random.size() > 5 || std::stoul(random) > 65534) {
-    refuse(text, "the random part of its number, " + digits + ", is beyond 65534");
+    reject(text, "the random part of its number, " + digits + ", is beyond 65534");
   }
   const std::string seconds = digits.substr(randomDigits, kSecondDigits);
   const std::string day = Date{std::stod(seconds)}.description();

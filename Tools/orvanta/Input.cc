@@ -26,36 +26,36 @@ std::string readAll(std::istream& in, const std::string& name) {
   } catch (const std::ios_base::failure&) {
     in.setstate(std::ios_base::badbit);
   }
-  if (in.bad()) throw Failure(ExitCode::unreadable, name + ": reading failed");
+  if (in.bad()) throw CommandError(ExitCode::unreadable, name + ": reading failed");
   return text;
 }
 
 std::string readText(const std::string& file, const std::string& name, std::istream& standardIn) {
   if (file == "-") {
-    tellOfTerminal(standardIn);
+    announceTerminalInput(standardIn);
     return readAll(standardIn, name);
   }
   std::ifstream in = openForReading(file);
   return readAll(in, name);
 }
 
-std::string place(const std::string& name, std::size_t offset, const std::string& text) {
-  const TextPosition at = TextPosition::of(offset, text);
-  return name + ":" + std::to_string(at.line) + ":" + std::to_string(at.column);
+std::string location(const std::string& name, std::size_t offset, const std::string& text) {
+  const TextPosition position = TextPosition::of(offset, text);
+  return name + ":" + std::to_string(position.line) + ":" + std::to_string(position.column);
 }
 
-void warnOfDuplicates(const Input& input, std::ostream& err) {
-  constexpr std::size_t kMostNamed = 10;
+void warnAboutDuplicateKeys(const Input& input, std::ostream& err) {
+  constexpr std::size_t kMaxNamedKeys = 10;
   const std::vector<DuplicateKey> duplicates = findDuplicateKeys(input.text);
-  for (std::size_t i = 0; i < std::min(kMostNamed, duplicates.size()); ++i) {
+  for (std::size_t i = 0; i < std::min(kMaxNamedKeys, duplicates.size()); ++i) {
     const TextPosition first = TextPosition::of(duplicates[i].firstOffset, input.text);
-    err << "orvanta: " << place(input.name, duplicates[i].offset, input.text)
+    err << "orvanta: " << location(input.name, duplicates[i].offset, input.text)
         << ": warning: the key \"" << escapeForTerminal(duplicates[i].key)
         << "\" stands here again (first at " << first.line << ':' << first.column
         << "); its last value counts\n";
   }
-  if (duplicates.size() > kMostNamed) {
-    err << "orvanta: " << input.name << ": warning: " << duplicates.size() - kMostNamed
+  if (duplicates.size() > kMaxNamedKeys) {
+    err << "orvanta: " << input.name << ": warning: " << duplicates.size() - kMaxNamedKeys
         << " more keys stand twice\n";
   }
 }
@@ -65,7 +65,7 @@ void warnOfDuplicates(const Input& input, std::ostream& err) {
 void checkReadable(const std::string& file) {
   std::error_code ignored;
   if (access(file.c_str(), R_OK) != 0 || std::filesystem::is_directory(file, ignored)) {
-    openForReading(file);  // tells the reason
+    openForReading(file);  // throws with the reason
   }
 }
 
@@ -79,16 +79,17 @@ std::string duplicateKeyWarning(const std::string& text) {
 std::ifstream openForReading(const std::string& file) {
   errno = 0;
   std::ifstream in(file, std::ios::binary);
-  if (in) in.peek();  // a folder opens, but cannot be read
+  if (in) in.peek();  // a folder can be opened, but not read
   if (!in && !in.eof()) {
-    throw Failure(ExitCode::unreadable, escapeForTerminal(file) + ": " +
-                                            (errno != 0 ? std::strerror(errno) : "cannot be read"));
+    throw CommandError(
+        ExitCode::unreadable,
+        escapeForTerminal(file) + ": " + (errno != 0 ? std::strerror(errno) : "cannot be read"));
   }
   in.clear();
   return in;
 }
 
-void tellOfTerminal(const std::istream& standardIn) {
+void announceTerminalInput(const std::istream& standardIn) {
   if (&standardIn == &std::cin && isatty(STDIN_FILENO) != 0) {
     std::cerr << "orvanta: reading JSON from the terminal; end it with Ctrl-D\n";
   }
@@ -101,14 +102,15 @@ Input readInput(const std::string& file, const Streams& streams) {
   JSONError error;
   const Value value = parseJSON(input.text, &error);
   if (value.isNil()) {
-    throw Failure(ExitCode::unreadable,
-                  place(input.name, error.offset, input.text) + ": " + std::string(error.reason));
+    throw CommandError(ExitCode::unreadable, location(input.name, error.offset, input.text) + ": " +
+                                                 std::string(error.reason));
   }
   if (value.dictionary() == nullptr) {
-    throw Failure(ExitCode::unreadable, input.name + ": the text is " +
-                                            std::string(value.kindName()) + ", not a JSON object");
+    throw CommandError(
+        ExitCode::unreadable,
+        input.name + ": the text is " + std::string(value.kindName()) + ", not a JSON object");
   }
-  warnOfDuplicates(input, streams.err);
+  warnAboutDuplicateKeys(input, streams.err);
   input.object = *value.dictionary();
   return input;
 }

@@ -4,30 +4,29 @@
 #include <string>
 
 #include "orvanta/Foundation/Dictionary.h"
-#include "orvanta/Tool/Tool.h"
+#include "orvanta/Tool/CommandLine.h"
 
 namespace orvanta::tool {
 
-/// A JSON object that was read, and where from.
+/// A JSON object and the file it was read from.
 struct Input {
   std::string name;  // the file's name, or "standard input"
   std::string text;
   Dictionary object;
 };
 
-/// Reads a file, or standard input for "-", which must hold a JSON object. A key that stands twice
-/// in a dictionary is warned of on the error stream. Throws Failure.
+/// Reads a JSON object from a file, or from standard input for "-". Warns on the error stream about
+/// each key that is repeated within a dictionary. Throws CommandError.
 Input readInput(const std::string& file, const Streams& streams);
 
-/// Throws Failure when a file cannot be read. Does not open it: of a pipe that would take
-/// something.
+/// Throws CommandError if a file cannot be read. Does not open it: opening a pipe would consume it.
 void checkReadable(const std::string& file);
-/// Opens a file; throws Failure when it cannot be read.
+/// Opens a file; throws CommandError if it cannot be read.
 std::ifstream openForReading(const std::string& file);
-/// Says so when a command is about to wait for somebody who types.
-void tellOfTerminal(const std::istream& standardIn);
+/// Prints a hint if a command is about to read what somebody types.
+void announceTerminalInput(const std::istream& standardIn);
 
-/// The first key that stands twice in a text of JSON, for a warning; empty when there is none.
+/// A warning about the first repeated key in a JSON text; empty if there is none.
 std::string duplicateKeyWarning(const std::string& text);
 
 }  // namespace orvanta::tool

@@ -17,11 +17,11 @@ const Class& classForArgument(const std::string& name) {
       modelClasses().begin(), modelClasses().end(), [&](const Class* a, const Class* b) {
         return editDistance(a->name, name) < editDistance(b->name, name);
       });
-  throw Failure(ExitCode::usage, "there is no class \"" + escapeForTerminal(name) +
-                                     "\"; the nearest is " + std::string((*nearest)->name));
+  throw CommandError(ExitCode::usage, "there is no class \"" + escapeForTerminal(name) +
+                                          "\"; the nearest is " + std::string((*nearest)->name));
 }
 
-std::string refusalText(const RefusalRecorder& recorder, const Class& cls) {
+std::string rejectionReason(const RefusalRecorder& recorder, const Class& cls) {
   return recorder.refusal() ? escapeForTerminal(recorder.refusal()->description())
                             : std::string(cls.name) + " refused without a reason";
 }
@@ -29,17 +29,17 @@ std::string refusalText(const RefusalRecorder& recorder, const Class& cls) {
 void checkWritable(const Dictionary& dictionary, const Class& cls) {
   for (const Dictionary::Entry& entry : dictionary) {
     if (!isValidJSONObject(Array{entry.value})) {
-      throw Failure(ExitCode::notMade, std::string(cls.name) + " \"" +
-                                           escapeForTerminal(entry.key()) +
-                                           "\": " + std::string(entry.value.kindName()) +
-                                           " without a JSON text, such as an infinite number");
+      throw CommandError(ExitCode::rejected,
+                         std::string(cls.name) + " \"" + escapeForTerminal(entry.key()) +
+                             "\": " + std::string(entry.value.kindName()) +
+                             " without a JSON text, such as an infinite number");
     }
   }
 }
 
 namespace {
 
-/// What an update answered, or that an error left it.
+/// How an update ended: its result, or an exception.
 enum class Outcome { yes, no, thrown };
 
 template <class Update>
@@ -51,8 +51,8 @@ Outcome outcomeOf(Update&& update) {
   }
 }
 
-void tellRefusal(const RefusalRecorder& recorder, const Class& cls, const Streams& streams) {
-  streams.err << "orvanta: " << refusalText(recorder, cls) << '\n';
+void printRejection(const RefusalRecorder& recorder, const Class& cls, const Streams& streams) {
+  streams.err << "orvanta: " << rejectionReason(recorder, cls) << '\n';
 }
 
 }  // namespace
@@ -62,27 +62,27 @@ ExitCode model(const ModelOptions& options, const Streams& streams) {
   const auto readsStandardIn = std::count(options.updates.begin(), options.updates.end(), "-") +
                                (!options.init && options.file == "-" ? 1 : 0);
   if (readsStandardIn > 1) {
-    throw Failure(ExitCode::usage, "standard input can be read only once");
+    throw CommandError(ExitCode::usage, "standard input can be read only once");
   }
 
   RefusalRecorder recorder;
   const auto object = Ref<OrvantaBaseModel>::adopt(cls.alloc());
-  const Outcome made = outcomeOf([&] {
+  const Outcome initialized = outcomeOf([&] {
     if (options.init) return object->init();
     const Input input = readInput(options.file, streams);
     return object->initWithDictionary(&input.object);
   });
-  if (made != Outcome::yes) {
-    tellRefusal(recorder, cls, streams);
-    return ExitCode::notMade;
+  if (initialized != Outcome::yes) {
+    printRejection(recorder, cls, streams);
+    return ExitCode::rejected;
   }
   for (const std::string& file : options.updates) {
     const Input input = readInput(file, streams);
     recorder.reset();
     const Outcome updated = outcomeOf([&] { return object->updateWithDictionary(&input.object); });
     if (updated == Outcome::yes) continue;
-    tellRefusal(recorder, cls, streams);
-    if (updated == Outcome::thrown) return ExitCode::notMade;
+    printRejection(recorder, cls, streams);
+    if (updated == Outcome::thrown) return ExitCode::rejected;
   }
   const Dictionary result = object->dictionaryValueWithPolicy(options.classInfo);
   checkWritable(result, cls);

@@ -27,13 +27,13 @@ namespace fs = std::filesystem;
 UrlMapping mappingFrom(const std::string& argument) {
   const auto equals = argument.find('=');
   if (equals == std::string::npos || equals == 0 || equals + 1 == argument.size()) {
-    throw Failure(ExitCode::usage,
-                  "--map-url \"" + escapeForTerminal(argument) + "\": PREFIX=TARGET is needed");
+    throw CommandError(ExitCode::usage, "--map-url \"" + escapeForTerminal(argument) +
+                                            "\": PREFIX=TARGET is needed");
   }
   UrlMapping mapping{argument.substr(0, equals), argument.substr(equals + 1)};
   if (mapping.isFolder() && !fs::is_directory(mapping.target)) {
-    throw Failure(ExitCode::unreadable,
-                  escapeForTerminal(mapping.target) + ": no such folder (--map-url)");
+    throw CommandError(ExitCode::unreadable,
+                       escapeForTerminal(mapping.target) + ": no such folder (--map-url)");
   }
   return mapping;
 }
@@ -51,8 +51,8 @@ std::uint64_t bytesFrom(const std::string& argument) {
   }
   const bool isWhole = result.ec == std::errc() && (result.ptr == end || factor != 1);
   if (!isWhole || bytes == 0 || bytes > 1'000'000'000'000U / factor) {
-    throw Failure(ExitCode::usage, "--max-download \"" + escapeForTerminal(argument) +
-                                       "\": a number of bytes is needed, such as 5M");
+    throw CommandError(ExitCode::usage, "--max-download \"" + escapeForTerminal(argument) +
+                                            "\": a number of bytes is needed, such as 5M");
   }
   return bytes * factor;
 }
@@ -63,7 +63,7 @@ Scenario scenarioFrom(const std::string& file, const Streams& streams) {
   try {
     return Scenario::fromDictionary(input.object);
   } catch (const ConfigError& error) {
-    throw Failure(ExitCode::unreadable, input.name + ": " + escapeForTerminal(error.what()));
+    throw CommandError(ExitCode::unreadable, input.name + ": " + escapeForTerminal(error.what()));
   }
 }
 
@@ -83,24 +83,24 @@ void drawProgress(std::uint64_t received, std::uint64_t expected) {
 
 static ExitCode runNotify(const NotifyOptions& options, const Streams& streams) {
   if (!std::isfinite(options.timeBudget)) {
-    throw Failure(ExitCode::usage, "--time-budget: a finite number of seconds is needed");
+    throw CommandError(ExitCode::usage, "--time-budget: a finite number of seconds is needed");
   }
   if (options.payload == "-" && options.scenario == "-") {
-    throw Failure(ExitCode::usage, "standard input can be read only once");
+    throw CommandError(ExitCode::usage, "standard input can be read only once");
   }
   SimulationOptions simulation{.scenario = scenarioFrom(options.scenario, streams),
                                .timeBudget = options.timeBudget};
   if (!options.osVersion.empty()) {
     const auto version = parseVersion(options.osVersion);
     if (!version) {
-      throw Failure(ExitCode::usage, "--os-version \"" + escapeForTerminal(options.osVersion) +
-                                         "\": a version such as 17.0 is needed");
+      throw CommandError(ExitCode::usage, "--os-version \"" + escapeForTerminal(options.osVersion) +
+                                              "\": a version such as 17.0 is needed");
     }
     simulation.scenario.os = *version;
   }
   if (!options.resources.empty() && !fs::is_directory(options.resources)) {
-    throw Failure(ExitCode::unreadable,
-                  escapeForTerminal(options.resources) + ": no such folder (--resources)");
+    throw CommandError(ExitCode::unreadable,
+                       escapeForTerminal(options.resources) + ": no such folder (--resources)");
   }
   LinuxHostOptions machine{.resources = options.resources, .realTime = options.realTime};
   for (const std::string& mapping : options.mapUrls) {
@@ -144,14 +144,14 @@ ExitCode notify(const NotifyOptions& options, const Streams& streams) {
   try {
     return runNotify(options, streams);
   } catch (const fs::filesystem_error& error) {
-    throw Failure(
+    throw CommandError(
         ExitCode::unreadable,
         (error.path1().empty() ? "temporary folder" : escapeForTerminal(error.path1().string())) +
             ": " + error.code().message());
-  } catch (const Failure&) {
+  } catch (const CommandError&) {
     throw;
   } catch (const std::runtime_error& error) {
-    throw Failure(ExitCode::unreadable, escapeForTerminal(error.what()));
+    throw CommandError(ExitCode::unreadable, escapeForTerminal(error.what()));
   }
 }
 

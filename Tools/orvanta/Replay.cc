@@ -8,7 +8,7 @@
 #include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
 #include "orvanta/NotificationService/RequestedEnrichments.h"
 #include "orvanta/Simulator/RemoteNotification.h"
-#include "orvanta/Tool/Lines.h"
+#include "orvanta/Tool/LineReader.h"
 #include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
@@ -67,7 +67,7 @@ void Replay::refuse(const ReplayLine& line, const std::string& reason) {
 
 void Replay::run(const ReplayLine& line) {
   if (line.isTooLong) {
-    return refuse(line, "more than " + std::to_string(Lines::kLongestLine) + " bytes");
+    return refuse(line, "more than " + std::to_string(LineReader::kMaxLineBytes) + " bytes");
   }
   JSONError error;
   const Value value = parseJSON(line.text, &error);

@@ -13,7 +13,7 @@
 
 #include "orvanta/Foundation/Array.h"
 #include "orvanta/Tool/Commands.h"
-#include "orvanta/Tool/Lines.h"
+#include "orvanta/Tool/LineReader.h"
 #include "orvanta/Tool/Replay.h"
 #include "orvanta/Tool/Text.h"
 
@@ -103,7 +103,7 @@ class Progress {
 
 /// Reads everything and hands it on in chunks.
 template <class Take>
-void readChunks(Lines& lines, Progress& progress, Take&& take) {
+void readChunks(LineReader& lines, Progress& progress, Take&& take) {
   constexpr std::size_t kChunkBytes = std::size_t{1} << 20U;
   Chunk chunk;
   std::size_t bytes = 0;
@@ -118,13 +118,13 @@ void readChunks(Lines& lines, Progress& progress, Take&& take) {
   while (lines.next()) {
     bytes += lines.text().size() + 1;
     if (lines.text().find_first_not_of(" \t") == std::string::npos) continue;
-    chunk.push_back({lines.number(), lines.place(), lines.text(), lines.isTooLong()});
+    chunk.push_back({lines.number(), lines.location(), lines.text(), lines.isTooLong()});
     if (bytes >= kChunkBytes) hand();
   }
   hand();
 }
 
-ReplayCounts replayAll(Lines& lines, Progress& progress, std::uint64_t jobs) {
+ReplayCounts replayAll(LineReader& lines, Progress& progress, std::uint64_t jobs) {
   std::vector<Replay> replays(jobs);
   const auto runChunk = [](Replay& replay, const Chunk& chunk) {
     for (const ReplayLine& line : chunk) replay.run(line);
@@ -206,7 +206,7 @@ void printText(const ReplayCounts& counts, std::ostream& out) {
 ExitCode replay(const ReplayOptions& options, const Streams& streams) {
   std::error_code unknown;
   const auto total = std::filesystem::file_size(options.file, unknown);
-  Lines lines({options.file}, streams);
+  LineReader lines({options.file}, streams);
   ReplayCounts counts;
   {
     Progress progress(streams, unknown ? 0 : total);
@@ -225,7 +225,7 @@ ExitCode replay(const ReplayOptions& options, const Streams& streams) {
   } else {
     printText(counts, streams.out);
   }
-  return counts.badLines == 0 ? ExitCode::done : ExitCode::notMade;
+  return counts.badLines == 0 ? ExitCode::done : ExitCode::rejected;
 }
 
 }  // namespace orvanta::tool

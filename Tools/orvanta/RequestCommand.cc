@@ -22,13 +22,13 @@ Dictionary specDictionary(const OrvantaRequestSpec& spec) {
 ExitCode request(const RequestOptions& options, const Streams& streams) {
   const Class& cls = classForArgument(options.className);
   if (!cls.isSubclassOf(OrvantaBaseRequest::classObject())) {
-    throw Failure(ExitCode::usage, std::string(cls.name) + " is no request class");
+    throw CommandError(ExitCode::usage, std::string(cls.name) + " is no request class");
   }
   const Input input = readInput(options.file, streams);
   const RefusalRecorder recorder;
   const auto model = makeModel(cls, &input.object);
   const auto* request = Value(model).as<OrvantaBaseRequest>();
-  if (request == nullptr) throw Failure(ExitCode::notMade, refusalText(recorder, cls));
+  if (request == nullptr) throw CommandError(ExitCode::rejected, rejectionReason(recorder, cls));
   const auto spec = request->requestSpec();
   if (options.text) {
     std::istringstream lines(spec->description().substr(1));

@@ -5,7 +5,7 @@
 
 #include "orvanta/Foundation/Array.h"
 #include "orvanta/Model/Requests/OrvantaRequestPathType.h"
-#include "orvanta/Tool/ClassFacts.h"
+#include "orvanta/Tool/ClassMetadata.h"
 #include "orvanta/Tool/Commands.h"
 #include "orvanta/Tool/Text.h"
 #include "orvanta/Tool/WireFormat.h"
@@ -15,8 +15,8 @@ namespace orvanta::tool {
 namespace {
 
 template <class T>
-Value orNull(const std::optional<T>& fact) {
-  return fact ? Value(*fact) : Value::null();
+Value orNull(const std::optional<T>& value) {
+  return value ? Value(*value) : Value::null();
 }
 
 Dictionary classEntry(const Class& cls) {
@@ -39,24 +39,24 @@ Dictionary classEntry(const Class& cls) {
       {"properties", properties},
       {"keys", keys},
       {"classKeys", classKeys}};
-  const ClassFacts facts(cls);
-  if (facts.isEvent) entry.set("eventKey", orNull(facts.eventCode));
-  if (facts.isEvent || facts.isRequest) entry.set("priority", orNull(facts.priority));
-  if (facts.isRequest) {
-    entry.set("request", Dictionary{{"code", facts.pathCode},
-                                    {"path", orNull(facts.path)},
-                                    {"method", orNull(facts.method)},
-                                    {"responseClass", facts.responseClass->name}});
+  const ClassMetadata metadata(cls);
+  if (metadata.isEvent) entry.set("eventKey", orNull(metadata.eventCode));
+  if (metadata.isEvent || metadata.isRequest) entry.set("priority", orNull(metadata.priority));
+  if (metadata.isRequest) {
+    entry.set("request", Dictionary{{"code", metadata.pathCode},
+                                    {"path", orNull(metadata.path)},
+                                    {"method", orNull(metadata.method)},
+                                    {"responseClass", metadata.responseClass->name}});
   }
   return entry;
 }
 
-/// Every endpoint with the request class that uses it.
+/// Lists every endpoint with the request class that uses it.
 Array endpoints() {
   std::map<std::uint64_t, std::string_view> users;
   for (const Class* cls : modelClasses()) {
-    const ClassFacts facts(*cls);
-    if (facts.path) users.emplace(facts.pathCode, cls->name);
+    const ClassMetadata metadata(*cls);
+    if (metadata.path) users.emplace(metadata.pathCode, cls->name);
   }
   Array rows;
   for (std::uint64_t code = 1; code <= kRequestPathTypes; ++code) {
@@ -77,16 +77,16 @@ Array methods() {
   return rows;
 }
 
-/// One line of a class's table: wire key, property, type, remarks.
-struct Line {
+/// One row of a class's table.
+struct SchemaRow {
   std::string key;
   std::string property;
   std::string type;
   std::string remarks;
 };
 
-std::vector<Line> linesOf(const Class& cls) {
-  std::vector<Line> lines;
+std::vector<SchemaRow> rowsOf(const Class& cls) {
+  std::vector<SchemaRow> rows;
   const auto modelOf = [&](std::string_view property) {
     for (const ClassEntry& entry : cls.keyPathClassMapping) {
       if (entry.property == property) return " -> " + std::string(entry.model->name);
@@ -94,47 +94,49 @@ std::vector<Line> linesOf(const Class& cls) {
     return std::string();
   };
   for (const Property& property : cls.properties) {
-    Line line{"-", std::string(property.name), std::string(property.encoding),
-              (property.readOnly ? "read-only" : "") + modelOf(property.name)};
+    SchemaRow row{"-", std::string(property.name), std::string(property.encoding),
+                  (property.readOnly ? "read-only" : "") + modelOf(property.name)};
     for (const KeyEntry& entry : cls.keyPathPropertySelectorMapping) {
-      if (entry.property == property.name) line.key = entry.keyPath;
+      if (entry.property == property.name) row.key = entry.keyPath;
     }
-    lines.push_back(std::move(line));
+    rows.push_back(std::move(row));
   }
   for (const KeyEntry& entry : cls.keyPathPropertySelectorMapping) {
     const bool isOwn = std::any_of(cls.properties.begin(), cls.properties.end(),
                                    [&](const Property& p) { return p.name == entry.property; });
     if (!isOwn) {
-      lines.push_back({std::string(entry.keyPath), std::string(entry.property), "", "inherited"});
+      rows.push_back({std::string(entry.keyPath), std::string(entry.property), "", "inherited"});
     }
   }
-  return lines;
+  return rows;
 }
 
 void printTable(const Class& cls, std::ostream& out) {
   out << cls.name;
   if (cls.superclass != nullptr) out << " : " << cls.superclass->name;
-  const ClassFacts facts(cls);
-  if (facts.eventCode) out << "  code " << *facts.eventCode;
-  if (facts.path)
-    out << "  " << *facts.method << ' ' << *facts.path << " -> " << facts.responseClass->name;
-  if ((facts.eventCode || facts.path) && facts.priority) out << ", priority " << *facts.priority;
+  const ClassMetadata metadata(cls);
+  if (metadata.eventCode) out << "  code " << *metadata.eventCode;
+  if (metadata.path)
+    out << "  " << *metadata.method << ' ' << *metadata.path << " -> "
+        << metadata.responseClass->name;
+  if ((metadata.eventCode || metadata.path) && metadata.priority)
+    out << ", priority " << *metadata.priority;
   out << '\n';
-  const std::vector<Line> lines = linesOf(cls);
-  const auto width = [&](std::string Line::*column) {
+  const std::vector<SchemaRow> rows = rowsOf(cls);
+  const auto width = [&](std::string SchemaRow::*column) {
     std::size_t widest = 0;
-    for (const Line& line : lines) widest = std::max(widest, (line.*column).size());
+    for (const SchemaRow& row : rows) widest = std::max(widest, (row.*column).size());
     return static_cast<int>(widest + 2);
   };
   out << std::left;
-  for (const Line& line : lines) {
-    out << "  " << std::setw(width(&Line::key)) << line.key << std::setw(width(&Line::property))
-        << line.property;
-    if (line.remarks.empty()) {
-      out << line.type << '\n';
+  for (const SchemaRow& row : rows) {
+    out << "  " << std::setw(width(&SchemaRow::key)) << row.key
+        << std::setw(width(&SchemaRow::property)) << row.property;
+    if (row.remarks.empty()) {
+      out << row.type << '\n';
     } else {
-      out << std::setw(width(&Line::type)) << line.type
-          << line.remarks.substr(line.remarks.front() == ' ' ? 1 : 0) << '\n';
+      out << std::setw(width(&SchemaRow::type)) << row.type
+          << row.remarks.substr(row.remarks.front() == ' ' ? 1 : 0) << '\n';
     }
   }
 }

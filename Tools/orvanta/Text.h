@@ -10,11 +10,11 @@
 
 namespace orvanta::tool {
 
-/// How many characters must be inserted, left out or replaced to turn one text into the other.
+/// The Levenshtein distance in bytes.
 std::size_t editDistance(std::string_view a, std::string_view b);
 
-/// Writes the JSON text of a value and a line end, control characters as \u00xx; throws Failure for
-/// a value that has none.
+/// Writes a value as JSON and a line end, with control characters as \u00xx. Throws CommandError if
+/// JSON cannot represent the value.
 void printJSON(const Value& value, std::ostream& out, bool pretty);
 
 }  // namespace orvanta::tool

@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-#include "orvanta/Tool/ClassFacts.h"
+#include "orvanta/Tool/ClassMetadata.h"
 
 namespace orvanta::tool {
 
@@ -50,7 +50,7 @@ constexpr TypeName kTypeNames[] = {
     {"d", "64-bit floating point"},
 };
 
-/// What the tables cannot say of a class.
+/// Behavior of a class that its tables do not express.
 struct Note {
   std::string_view className;
   std::string_view words;
@@ -83,7 +83,7 @@ std::string link(std::string_view className) {
   return std::string("[").append(className).append("](#").append(className).append(")");
 }
 
-/// What a property holds, in words; a model's class and that of an array's elements are links.
+/// Describes a property's type; the class of a model, or of an array's elements, is a link.
 std::string typeOf(const Class& cls, const Property& property) {
   const auto* known =
       std::find_if(std::begin(kTypeNames), std::end(kTypeNames),
@@ -111,14 +111,14 @@ void printClass(const Class& cls, std::ostream& out) {
     out << "The root of all models.\n";
   } else {
     out << "Derives from " << link(cls.superclass->name) << ".";
-    const ClassFacts facts(cls);
-    if (facts.eventCode) out << " Event code `" << *facts.eventCode << "`.";
-    if (facts.path) {
-      out << " Sent with " << *facts.method << " to `" << *facts.path << "`, answered with "
-          << link(facts.responseClass->name) << ".";
+    const ClassMetadata metadata(cls);
+    if (metadata.eventCode) out << " Event code `" << *metadata.eventCode << "`.";
+    if (metadata.path) {
+      out << " Sent with " << *metadata.method << " to `" << *metadata.path << "`, answered with "
+          << link(metadata.responseClass->name) << ".";
     }
-    if ((facts.eventCode || facts.path) && facts.priority) {
-      out << " Priority " << *facts.priority << ".";
+    if ((metadata.eventCode || metadata.path) && metadata.priority) {
+      out << " Priority " << *metadata.priority << ".";
     }
     out << "\n";
   }
@@ -150,10 +150,10 @@ void printClass(const Class& cls, std::ostream& out) {
 void printEventCodes(const std::vector<const Class*>& classes, std::ostream& out) {
   std::vector<std::string> rows;
   for (const Class* cls : classes) {
-    const ClassFacts facts(*cls);
-    if (!facts.eventCode) continue;
-    rows.push_back("| `" + *facts.eventCode + "` | " + link(cls->name) + " | " +
-                   std::to_string(*facts.priority) + " |\n");
+    const ClassMetadata metadata(*cls);
+    if (!metadata.eventCode) continue;
+    rows.push_back("| `" + *metadata.eventCode + "` | " + link(cls->name) + " | " +
+                   std::to_string(*metadata.priority) + " |\n");
   }
   if (rows.empty()) return;
   out << "\n## Event codes\n\n| Code | Class | Priority |\n|---|---|---|\n";
@@ -164,11 +164,11 @@ void printEventCodes(const std::vector<const Class*>& classes, std::ostream& out
 void printEndpoints(const std::vector<const Class*>& classes, std::ostream& out) {
   std::map<std::uint64_t, std::string> rows;
   for (const Class* cls : classes) {
-    const ClassFacts facts(*cls);
-    if (!facts.path) continue;
-    rows[facts.pathCode] = "| " + std::to_string(facts.pathCode) + " | `" +
-                           std::string(*facts.path) + "` | " + link(cls->name) + " | " +
-                           link(facts.responseClass->name) + " |\n";
+    const ClassMetadata metadata(*cls);
+    if (!metadata.path) continue;
+    rows[metadata.pathCode] = "| " + std::to_string(metadata.pathCode) + " | `" +
+                              std::string(*metadata.path) + "` | " + link(cls->name) + " | " +
+                              link(metadata.responseClass->name) + " |\n";
   }
   if (rows.empty()) return;
   out << "\n## Endpoints\n\n| Code | Path | Request | Reply |\n|---|---|---|---|\n";

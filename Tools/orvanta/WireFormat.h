@@ -7,8 +7,8 @@
 
 namespace orvanta::tool {
 
-/// Writes the document of the wire format: the event codes, then a section per class with its keys,
-/// properties and types, as Markdown.
+/// Writes the wire format document as Markdown: event codes, endpoints, then a section per class
+/// with its keys, properties and types.
 void printWireFormat(const std::vector<const Class*>& classes, std::ostream& out);
 
 }  // namespace orvanta::tool

@@ -1,9 +1,9 @@
 #include <iostream>
 
-#include "orvanta/Tool/Tool.h"
+#include "orvanta/Tool/CommandLine.h"
 
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
-  return static_cast<int>(
-      orvanta::tool::run(argc, argv, {.in = std::cin, .out = std::cout, .err = std::cerr}));
+  return static_cast<int>(orvanta::tool::runCommandLine(
+      argc, argv, {.in = std::cin, .out = std::cout, .err = std::cerr}));
 }

@@ -64,7 +64,7 @@ TEST(BatchCommand, NamesTheLinesThatItLeavesOut) {
       stored(1) + "{\n\n[]\n" + R"({"events":[]})" + "\n" + R"({"klazz":"OrvantaUser"})" + "\n" +
           R"({"events":[{"klazz":"OrvantaLoginEvent","ts":"x"}]})" + "\n" +
           R"({"events":[{"klazz":"OrvantaLoginEvent","revenue":"1e999"}]})" + "\n" + stored(1));
-  EXPECT_EQ(run.exit, ExitCode::notMade);
+  EXPECT_EQ(run.exit, ExitCode::rejected);
   EXPECT_NE(run.out.find(R"({"storageId":1,"idsContained":[9],"events":2,)"), std::string::npos)
       << run.out;
   for (const std::string_view line :
@@ -88,7 +88,7 @@ TEST(BatchCommand, LosesNothingOfAPipe) {
   EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '\n'), 3);
 }
 
-TEST(BatchCommand, WarnsOfWhatItTakesAsItStands) {
+TEST(BatchCommand, WarnsAboutAcceptedButSuspiciousLines) {
   const ToolRun run = runTool({"batch"}, R"({"events":[{}],"events":[{"code":"o:oa"}]})");
   EXPECT_EQ(run.exit, ExitCode::done);
   EXPECT_NE(run.err.find("standard input:1: warning: the key \"events\" stands twice"),
@@ -108,7 +108,7 @@ TEST(RequestCommand, PrintsTheCallOfARequest) {
             std::string::npos);
   EXPECT_EQ(runTool({"request", "OrvantaUser"}, "{}").exit, ExitCode::usage);
   EXPECT_EQ(runTool({"request", "OrvantaFetchCouponRequest"}, R"({"ids":{"iid":1},"max":[]})").exit,
-            ExitCode::notMade);
+            ExitCode::rejected);
 }
 
 }  // namespace

@@ -27,12 +27,12 @@ TEST(IdentifierCommand, DecodesOrTellsWhyNot) {
        "number  47111700000000123456789\n"
        "time    2023-11-14 22:13:20.123456789 UTC\n"
        "random  4711\n"},
-      {"", ExitCode::notMade, "less than 20 digits"},
-      {"FiNPDvMOVkwBoaa", ExitCode::notMade, "ends with the digit 0"},
-      {"ab", ExitCode::notMade, "less than 20 digits"},
-      {"a_b", ExitCode::notMade, "another character"},
-      {std::string(22, 'Z'), ExitCode::notMade, "too long"},
-      {std::string(14, 'Z'), ExitCode::notMade, "beyond 65534"},
+      {"", ExitCode::rejected, "less than 20 digits"},
+      {"FiNPDvMOVkwBoaa", ExitCode::rejected, "ends with the digit 0"},
+      {"ab", ExitCode::rejected, "less than 20 digits"},
+      {"a_b", ExitCode::rejected, "another character"},
+      {std::string(22, 'Z'), ExitCode::rejected, "too long"},
+      {std::string(14, 'Z'), ExitCode::rejected, "beyond 65534"},
   };
   for (const auto& row : rows) {
     const ToolRun run = runTool({"identifier", "--decode", row.text});

@@ -46,7 +46,7 @@ TEST(ModelCommand, TellsInOneLineWhyThereIsNoObject) {
   };
   for (const auto& row : rows) {
     const ToolRun run = runModel({row.className}, row.json);
-    EXPECT_EQ(run.exit, ExitCode::notMade) << row.json;
+    EXPECT_EQ(run.exit, ExitCode::rejected) << row.json;
     EXPECT_EQ(run.out, "") << row.json;
     EXPECT_EQ(run.err, "orvanta: " + row.className + " " + row.place + row.reason + "\n");
   }
@@ -134,7 +134,7 @@ TEST(ModelCommand, ReadsStandardInputOnlyOnce) {
 
 TEST(ModelCommand, NamesTheEntryThatHasNoJsonText) {
   const ToolRun run = runModel({"OrvantaInAppMessageAction"}, R"({"txt": "a", "ttl": "1e999"})");
-  EXPECT_EQ(run.exit, ExitCode::notMade);
+  EXPECT_EQ(run.exit, ExitCode::rejected);
   EXPECT_EQ(run.out, "");
   EXPECT_EQ(run.err,
             "orvanta: OrvantaInAppMessageAction \"ttl\": a fraction without a JSON text, "

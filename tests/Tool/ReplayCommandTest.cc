@@ -29,7 +29,7 @@ TEST(ReplayCommand, CountsWhatCameOfThePayloads) {
       R"({"aps":{"alert":"no line end"}})";
   for (const char* const jobs : {"1", "3"}) {
     const ToolRun run = runTool({"replay", "--json", "--jobs", jobs, "--log-level", "0"}, lines);
-    EXPECT_EQ(run.exit, ExitCode::notMade);
+    EXPECT_EQ(run.exit, ExitCode::rejected);
     const Value counts = parseJSON(run.out);
     EXPECT_EQ(toJSON(counts, {.escapeSlashes = false}),
               R"({"format":1,"payloads":7,"deliveries":7,"plain":2,"buttons":1,"media":2,"icon":1,)"
@@ -45,7 +45,7 @@ TEST(ReplayCommand, NamesTheFirstTenBadLines) {
   std::string lines = R"({"a":")" + std::string(300'000, 'x') + "\"}\n";
   for (int i = 0; i < 5000; ++i) lines += "bad\n";
   const ToolRun run = runTool({"replay", "--jobs", "4"}, lines);
-  EXPECT_EQ(run.exit, ExitCode::notMade);
+  EXPECT_EQ(run.exit, ExitCode::rejected);
   EXPECT_TRUE(run.err.starts_with("orvanta: standard input:1: more than 262144 bytes\n"))
       << run.err;
   EXPECT_NE(run.err.find("standard input:10: column 1"), std::string::npos);

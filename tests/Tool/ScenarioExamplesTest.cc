@@ -29,8 +29,8 @@ std::string textOf(const fs::path& file) {
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
-/// Each example has the report that the program prints, byte for byte; scripts/update-reports writes
-/// them anew.
+/// Each example has the report that the program prints, byte for byte; scripts/update-reports
+/// writes them anew.
 class ScenarioExamplesTest : public ::testing::TestWithParam<fs::path> {};
 
 TEST_P(ScenarioExamplesTest, PrintsItsReport) {

@@ -13,8 +13,8 @@ ToolRun runTool(const std::vector<std::string>& arguments, std::string_view stan
   std::istringstream in{std::string(standardIn)};
   std::ostringstream out;
   std::ostringstream err;
-  const tool::ExitCode exit = tool::run(static_cast<int>(argv.size()), argv.data(),
-                                        tool::Streams{.in = in, .out = out, .err = err});
+  const tool::ExitCode exit = tool::runCommandLine(static_cast<int>(argv.size()), argv.data(),
+                                                   tool::Streams{.in = in, .out = out, .err = err});
   return {exit, out.str(), err.str()};
 }
 

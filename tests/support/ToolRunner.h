@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "orvanta/Tool/Tool.h"
+#include "orvanta/Tool/CommandLine.h"
 
 namespace orvanta::testing {
 

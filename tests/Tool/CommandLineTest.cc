@@ -9,7 +9,7 @@ namespace {
 
 using tool::ExitCode;
 
-TEST(Usage, WrongArgumentsPrintNothingOnStandardOutput) {
+TEST(CommandLine, WrongArgumentsPrintNothingOnStandardOutput) {
   const struct {
     std::vector<std::string> arguments;
     std::string_view told;
@@ -32,7 +32,7 @@ TEST(Usage, WrongArgumentsPrintNothingOnStandardOutput) {
   }
 }
 
-TEST(Usage, HelpAndVersionGoToStandardOutput) {
+TEST(CommandLine, HelpAndVersionGoToStandardOutput) {
   const ToolRun help = runTool({"--help"});
   EXPECT_EQ(help.exit, ExitCode::done);
   EXPECT_EQ(help.err, "");
@@ -45,7 +45,7 @@ TEST(Usage, HelpAndVersionGoToStandardOutput) {
   EXPECT_EQ(version.out.rfind("orvanta ", 0), 0U) << version.out;
 }
 
-TEST(Usage, TheLogLevelDecidesOverTheLogLinesOnStandardError) {
+TEST(CommandLine, TheLogLevelDecidesOverTheLogLinesOnStandardError) {
   const std::string line =
       "orvanta: OrvantaInAppMessageAction \"ttl\" (timeToLive): null, "
       "but a number is read from numbers and text only\n";
@@ -65,7 +65,7 @@ TEST(Usage, TheLogLevelDecidesOverTheLogLinesOnStandardError) {
       std::vector<std::string> arguments{"model", "OrvantaInAppMessageAction"};
       arguments.insert(arguments.begin() + place, row.level.begin(), row.level.end());
       const ToolRun run = runTool(arguments, R"({"ttl": null})");
-      EXPECT_EQ(run.exit, ExitCode::notMade);
+      EXPECT_EQ(run.exit, ExitCode::rejected);
       EXPECT_EQ(run.out, "");
       EXPECT_TRUE(run.err.ends_with(line)) << run.err;
       EXPECT_EQ(run.err.starts_with(head), row.logs) << run.err;
@@ -74,7 +74,7 @@ TEST(Usage, TheLogLevelDecidesOverTheLogLinesOnStandardError) {
   }
 }
 
-TEST(Usage, NamesTheNearestClassForOneThatThereIsNot) {
+TEST(CommandLine, SuggestsNearestClassForUnknownName) {
   const struct {
     std::string name;
     std::string shown;
@@ -95,13 +95,13 @@ TEST(Usage, NamesTheNearestClassForOneThatThereIsNot) {
   }
 }
 
-TEST(Usage, OutputThatCannotBeWrittenIsAnInternalError) {
+TEST(CommandLine, OutputThatCannotBeWrittenIsAnInternalError) {
   const char* const argv[] = {"orvanta", "schema"};
   std::istringstream in;
   std::ostringstream out;
   std::ostringstream err;
   out.setstate(std::ios::badbit);
-  EXPECT_EQ(tool::run(2, argv, {.in = in, .out = out, .err = err}), ExitCode::internal);
+  EXPECT_EQ(tool::runCommandLine(2, argv, {.in = in, .out = out, .err = err}), ExitCode::internal);
   EXPECT_EQ(err.str(), "orvanta: the output cannot be written\n");
 }
 

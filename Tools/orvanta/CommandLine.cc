@@ -1,4 +1,4 @@
-#include "orvanta/Tool/Tool.h"
+#include "orvanta/Tool/CommandLine.h"
 
 #include <CLI/CLI.hpp>
 #include <functional>
@@ -38,7 +38,7 @@ constexpr const char* kFooter =
     "  orvanta device --all --device examples/devices/old-phone.json\n"
     "  orvanta identifier -n 3";
 
-/// The platform of a command that runs no notification.
+/// The platform of commands that do not simulate a device: log, clock and random numbers.
 class LoggingPlatform final : public Platform {
  public:
   explicit LoggingPlatform(std::ostream& logStream) : log_(logStream) {}
@@ -188,7 +188,7 @@ CLI::App* addDevice(CLI::App& app, DeviceOptions& options) {
   return command;
 }
 
-/// A command with its options, and how it runs once they are parsed.
+/// A command: its parser, and a function that runs it with the parsed options.
 struct Command {
   CLI::App* parser;
   std::function<ExitCode(const Streams&)> run;
@@ -241,19 +241,19 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
     if (each.parser->parsed()) return each.run(streams);
     names.append(names.empty() ? "" : ", ").append(each.parser->get_name());
   }
-  throw Failure(ExitCode::usage, "a command is needed, one of " + names + "; see --help");
+  throw CommandError(ExitCode::usage, "a command is needed, one of " + names + "; see --help");
 }
 
 }  // namespace
 
-ExitCode run(int argc, const char* const* argv, const Streams& streams) {
+ExitCode runCommandLine(int argc, const char* const* argv, const Streams& streams) {
   try {
     const ExitCode code = execute(argc, argv, streams);
     if (streams.out.flush()) return code;
-    throw Failure(ExitCode::internal, "the output cannot be written");
-  } catch (const Failure& failure) {
-    streams.err << "orvanta: " << failure.what() << '\n';
-    return failure.code();
+    throw CommandError(ExitCode::internal, "the output cannot be written");
+  } catch (const CommandError& error) {
+    streams.err << "orvanta: " << error.what() << '\n';
+    return error.code();
   } catch (const std::exception& error) {
     streams.err << "orvanta: internal error: " << error.what() << '\n';
     return ExitCode::internal;

@@ -9,9 +9,9 @@
 
 namespace orvanta::tool {
 
-/// What an event or request class says of all its objects, beside its tables.
-struct ClassFacts {
-  explicit ClassFacts(const Class& cls);
+/// What an event or request class defines for all its objects, besides its tables.
+struct ClassMetadata {
+  explicit ClassMetadata(const Class& cls);
 
   bool isEvent = false;
   std::optional<std::string> eventCode;
@@ -22,7 +22,7 @@ struct ClassFacts {
   std::optional<std::string_view> method;
   const Class* responseClass = nullptr;
 
-  /// None also for batches, which are ranked by their events.
+  /// Also absent for batches, whose priority depends on their events.
   std::optional<std::int64_t> priority;
 };
 

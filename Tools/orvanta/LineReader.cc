@@ -1,4 +1,4 @@
-#include "orvanta/Tool/Lines.h"
+#include "orvanta/Tool/LineReader.h"
 
 #include <algorithm>
 #include <limits>
@@ -8,23 +8,23 @@
 
 namespace orvanta::tool {
 
-Lines::Lines(std::vector<std::string> files, const Streams& streams)
+LineReader::LineReader(std::vector<std::string> files, const Streams& streams)
     : files_(std::move(files)), standardIn_(streams.in) {
   if (std::count(files_.begin(), files_.end(), "-") > 1) {
-    throw Failure(ExitCode::usage, "standard input can be read only once");
+    throw CommandError(ExitCode::usage, "standard input can be read only once");
   }
   for (const std::string& file : files_) {
-    if (file != "-") checkReadable(file);  // better now than half way
+    if (file != "-") checkReadable(file);  // fail before any output
   }
 }
 
-bool Lines::next() {
+bool LineReader::next() {
   while (true) {
     if (!isInFile_) {
       if (opened_ == files_.size()) return false;
       const std::string& file = files_[opened_++];
       if (file == "-") {
-        tellOfTerminal(standardIn_);
+        announceTerminalInput(standardIn_);
       } else {
         file_ = openForReading(file);
       }
@@ -36,31 +36,31 @@ bool Lines::next() {
     try {
       if (readLine(files_[opened_ - 1] == "-" ? standardIn_ : file_)) return true;
     } catch (const std::ios_base::failure&) {
-      throw Failure(ExitCode::unreadable, place() + ": reading failed");
+      throw CommandError(ExitCode::unreadable, location() + ": reading failed");
     }
     --number_;
     isInFile_ = false;
   }
 }
 
-bool Lines::readLine(std::istream& in) {
+bool LineReader::readLine(std::istream& in) {
   in.getline(buffer_.data(), static_cast<std::streamsize>(buffer_.size()));
   auto length = static_cast<std::size_t>(in.gcount());
-  if (in.bad()) throw Failure(ExitCode::unreadable, place() + ": reading failed");
+  if (in.bad()) throw CommandError(ExitCode::unreadable, location() + ": reading failed");
   if (length == 0 && !in) return false;
   isTooLong_ = in.fail();
   if (isTooLong_) {
     in.clear();
     in.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
   } else if (!in.eof()) {
-    --length;  // the line end counts
+    --length;  // gcount includes the line end
   }
   if (length != 0 && buffer_[length - 1] == '\r') --length;
   text_.assign(buffer_.data(), length);
   return true;
 }
 
-std::string Lines::place() const {
+std::string LineReader::location() const {
   const std::string& file = files_[opened_ - 1];
   return (file == "-" ? "standard input" : escapeForTerminal(file)) + ":" +
          std::to_string(lineInFile_);

@@ -1,11 +1,11 @@
-#include "orvanta/Tool/ClassFacts.h"
+#include "orvanta/Tool/ClassMetadata.h"
 
 #include "orvanta/Model/Events/OrvantaEvent.h"
 #include "orvanta/Model/Requests/OrvantaEventRequest.h"
 
 namespace orvanta::tool {
 
-ClassFacts::ClassFacts(const Class& cls) {
+ClassMetadata::ClassMetadata(const Class& cls) {
   const Value model = makeModel(cls, nullptr);
   if (const auto* event = model.as<OrvantaEvent>()) {
     isEvent = true;
