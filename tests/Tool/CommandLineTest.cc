@@ -45,7 +45,7 @@ TEST(CommandLine, HelpAndVersionGoToStandardOutput) {
   EXPECT_EQ(version.out.rfind("orvanta ", 0), 0U) << version.out;
 }
 
-TEST(CommandLine, TheLogLevelDecidesOverTheLogLinesOnStandardError) {
+TEST(CommandLine, LogLevelControlsLogLinesOnStandardError) {
   const std::string line =
       "orvanta: OrvantaInAppMessageAction \"ttl\" (timeToLive): null, "
       "but a number is read from numbers and text only\n";
@@ -61,7 +61,7 @@ TEST(CommandLine, TheLogLevelDecidesOverTheLogLinesOnStandardError) {
       {{"--log-level=-9223372036854775808"}, false},
   };
   for (const auto& row : rows) {
-    for (const std::ptrdiff_t place : {0, 2}) {  // before and behind the command
+    for (const std::ptrdiff_t place : {0, 2}) {  // before and after the command
       std::vector<std::string> arguments{"model", "OrvantaInAppMessageAction"};
       arguments.insert(arguments.begin() + place, row.level.begin(), row.level.end());
       const ToolRun run = runTool(arguments, R"({"ttl": null})");

@@ -6,7 +6,7 @@
 namespace orvanta::testing {
 namespace {
 
-TEST(DeviceCommand, PrintsWhatTheDeviceIsLike) {
+TEST(DeviceCommand, PrintsTheDeviceInfo) {
   const std::string folder = std::string(ORVANTA_SOURCE_DIR) + "/examples/devices/";
   EXPECT_EQ(toJSON(parseJSON(runTool({"device"}).out)),
             R"({"osV":"17.0","appV":"2.4.1","oper":"Example Mobile","lang":"en","mnf":"Apple",)"
@@ -28,7 +28,7 @@ TEST(DeviceCommand, ReadsWhatAProfileOmitsFromTheMachine) {
   }
 }
 
-TEST(DeviceCommand, NamesTheKeyAndTheValueOfAProfileThatIsWrong) {
+TEST(DeviceCommand, NamesTheKeyAndValueOfAnInvalidProfile) {
   const std::pair<std::string_view, std::string_view> rows[] = {
       {R"({"batery":1})", R"(unknown key "batery")"},
       {R"({"battery":-0.5})", R"("battery": expected a number from 0 to 1, or -1, found -0.5)"},

@@ -9,7 +9,7 @@ namespace {
 
 using tool::ExitCode;
 
-TEST(IdentifierCommand, MakesWhatItCanDecode) {
+TEST(IdentifierCommand, GeneratesDecodableIdentifiers) {
   const ToolRun three = runTool({"identifier", "-n", "3"});
   EXPECT_EQ(three.exit, ExitCode::done);
   EXPECT_EQ(std::count(three.out.begin(), three.out.end(), '\n'), 3);
@@ -17,7 +17,7 @@ TEST(IdentifierCommand, MakesWhatItCanDecode) {
   EXPECT_EQ(runTool({"identifier", "--decode", first}).exit, ExitCode::done);
 }
 
-TEST(IdentifierCommand, DecodesOrTellsWhyNot) {
+TEST(IdentifierCommand, DecodesOrReportsWhyNot) {
   const struct {
     std::string text;
     ExitCode exit;

@@ -9,7 +9,7 @@ namespace {
 
 using tool::ExitCode;
 
-TEST(Input, SaysInOneLineWhatItCannotRead) {
+TEST(Input, ReportsUnreadableInputInOneLine) {
   const TemporaryFolder folder;
   const struct {
     std::string file;
@@ -20,7 +20,7 @@ TEST(Input, SaysInOneLineWhatItCannotRead) {
       {folder.file("empty.json", ""), ":1:1: the text ends where a value should stand"},
       {folder.file("array.json", "[{}]"), ": the text is an array, not a JSON object"},
       {folder.file("more.json", "{}\r\n\r\n{}"), ":3:1: text after the value"},
-      // a column counts characters, a byte-order mark is none
+      // columns count characters; a byte-order mark does not count
       {folder.file("mark.json", "\xef\xbb\xbf{,"), ":1:2: expected a key in quotes"},
       {folder.file("latin.json", "{\"\u00e9\u20ac\":\"\xff\"}"), ":1:8: text that is not UTF-8"},
   };
@@ -43,7 +43,7 @@ TEST(Input, NamesStandardInput) {
             "orvanta: standard input: the text is an integer, not a JSON object\n");
 }
 
-TEST(Input, WarnsOfEveryKeyThatStandsTwiceAndTakesTheLast) {
+TEST(Input, WarnsAboutEveryDuplicateKeyAndTakesTheLast) {
   const TemporaryFolder folder;
   const std::string file = folder.file(
       "twice.json", "{\"ffm\": 1,\n \"x\": {\"ffm\": 0, \"y\": 1,\n\"y\": 2},\n  \"ffm\": 2}");
@@ -59,7 +59,7 @@ TEST(Input, WarnsOfEveryKeyThatStandsTwiceAndTakesTheLast) {
                          "its last value counts\n");
 }
 
-TEST(Input, ShowsControlCharactersOfAKeyEscaped) {
+TEST(Input, EscapesControlCharactersInKeys) {
   const ToolRun run =
       runTool({"model", "OrvantaPushStyle"}, R"({"a\u001b\nb": 1, "a\u001b\nb": 2})");
   EXPECT_EQ(run.err,

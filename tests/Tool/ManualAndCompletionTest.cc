@@ -18,7 +18,7 @@ std::set<std::string> namesIn(std::string text, const std::string& pattern) {
   return names;
 }
 
-/// What bash offers for the last word behind these, and before it what it asks of readline.
+/// Returns bash's completions of `last` after these words, preceded by the options for readline.
 std::string offered(const std::string& words, const std::string& last) {
   const std::string command = R"(bash -c 'source "$0"/completions/orvanta.bash
       compopt() { echo $*; }; COMP_WORDS=(orvanta $2 "$3"); COMP_CWORD=$((${#COMP_WORDS[@]} - 1))
@@ -38,7 +38,7 @@ TEST(ManualAndCompletion, HaveTheCommandsAndOptionsOfTheProgram) {
   auto commands = namesIn(runTool({"--help"}).out, "\n  ([a-z]+) +[A-Z]");
   EXPECT_EQ(commands, namesIn(manual, "\n\\.Ss (\\S+)"));
   EXPECT_EQ(commands, namesIn(offered("", ""), "(\\S+)"));
-  commands.insert("--log-level=1");  // no command
+  commands.insert("--log-level=1");  // the options before a command
   for (const std::string& command : commands) {
     const bool isCommand = command[0] != '-';
     auto options = namesIn(runTool({command, "--help"}).out, "\n  (?:-h,)?(-[-a-z]+)");

@@ -8,7 +8,7 @@ namespace {
 
 using tool::ExitCode;
 
-/// Runs `model` without log lines, so that standard error holds the program's own alone.
+/// Runs `model` without log lines, so that standard error has only the program's messages.
 ToolRun runModel(std::vector<std::string> arguments, std::string_view standardIn = "") {
   arguments.insert(arguments.begin(), {"--log-level", "0", "model"});
   return runTool(arguments, standardIn);
@@ -22,7 +22,7 @@ const std::string kNeedsBoolean = ", but a boolean is read from numbers and text
 const std::string kNeedsNumber = ", but a number is read from numbers and text only";
 const std::string kNoAlert = ", which has no key \"alert\"";
 
-TEST(ModelCommand, TellsInOneLineWhyThereIsNoObject) {
+TEST(ModelCommand, ReportsARejectionInOneLine) {
   const struct {
     std::string className;
     std::string_view json;
@@ -33,14 +33,14 @@ TEST(ModelCommand, TellsInOneLineWhyThereIsNoObject) {
       {kPush, R"({"_ov": {"ets": "1"}})", "\"_ov.ets\" (expirationDate): a string", kNeedsDate},
       {kPush, R"({"_ov": {"dr": null}})", "\"_ov.dr\" (shouldSendDeliveryReport): null",
        kNeedsBoolean},
-      // the first in the table's order, whatever the order of the text
+      // the first in the order of the table, not of the JSON
       {kPush, R"({"_ov": {"ets": "x", "mu": true}})", "\"_ov.mu\" (mediaAttachmentURL): a boolean",
        kNeedsUrl},
-      // a nested model that cannot stand in an array
+      // a nested model that is rejected within an array
       {"OrvantaUserNotificationCategory", R"({"ia": [{}, {"actM": {}}]})",
        R"("ia" (actions) > OrvantaUserNotificationAction "actM" (activationMode): a dictionary)",
        kNeedsNumber},
-      // an undefined key that is thrown out of the initialiser
+      // an undefined key, which the initializer throws
       {kPush, R"({"aps": "x"})", "\"aps.alert\" (alert): a string", kNoAlert},
       {kPush, R"({"aps": [{"alert": "a"}, 3]})", "\"aps.alert\" (alert): an integer", kNoAlert},
   };
@@ -104,7 +104,7 @@ TEST(ModelCommand, UpdatesInTheOrderOfTheArguments) {
   }
 }
 
-TEST(ModelCommand, AnUpdateThatIsRefusedIsToldAndTheObjectPrintedAsItStands) {
+TEST(ModelCommand, ReportsARejectedUpdateAndPrintsTheObject) {
   const TemporaryFolder folder;
   const std::string refused = folder.file("no.json", R"({"txt": "new", "ttl": {}, "drc": "rtl"})");
   const std::string taken = folder.file("yes.json", R"({"tt": "later"})");
@@ -132,7 +132,7 @@ TEST(ModelCommand, ReadsStandardInputOnlyOnce) {
   }
 }
 
-TEST(ModelCommand, NamesTheEntryThatHasNoJsonText) {
+TEST(ModelCommand, NamesTheEntryThatJSONCannotRepresent) {
   const ToolRun run = runModel({"OrvantaInAppMessageAction"}, R"({"txt": "a", "ttl": "1e999"})");
   EXPECT_EQ(run.exit, ExitCode::rejected);
   EXPECT_EQ(run.out, "");

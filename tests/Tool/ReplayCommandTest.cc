@@ -8,7 +8,7 @@ namespace {
 
 using tool::ExitCode;
 
-TEST(ReplayCommand, CountsWhatCameOfThePayloads) {
+TEST(ReplayCommand, CountsOutcomes) {
   const std::string lines =
       R"({"aps":{"alert":"a"}})"
       "\n"

@@ -29,8 +29,8 @@ std::string textOf(const fs::path& file) {
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
-/// Each example has the report that the program prints, byte for byte; scripts/update-reports
-/// writes them anew.
+/// Compares each example's report with the program's output, byte for byte. scripts/update-reports
+/// rewrites the reports.
 class ScenarioExamplesTest : public ::testing::TestWithParam<fs::path> {};
 
 TEST_P(ScenarioExamplesTest, PrintsItsReport) {

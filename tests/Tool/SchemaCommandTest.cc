@@ -12,7 +12,7 @@ namespace {
 
 using tool::ExitCode;
 
-/// The entry of one class in `schema CLASS --json`.
+/// Returns the entry of one class in `schema CLASS --json`.
 Dictionary entryOf(const std::string& className) {
   const Value whole = parseJSON(runTool({"schema", className, "--json"}).out);
   const Array* classes =
@@ -64,14 +64,14 @@ TEST(SchemaCommand, PrintsATableForAPerson) {
   EXPECT_NE(push.find("read-only -> OrvantaPushStyle\n"), std::string::npos) << push;
 }
 
-TEST(SchemaCommand, TellsEventsFromOtherClasses) {
+TEST(SchemaCommand, MarksEvents) {
   EXPECT_EQ(entryOf("OrvantaOpenAppEvent")["eventKey"], Value("o:oa"));
   EXPECT_EQ(entryOf("OrvantaOpenAppEvent")["priority"], Value(1));
   EXPECT_EQ(entryOf("OrvantaBaseProductEvent")["eventKey"], Value::null());
   EXPECT_TRUE(entryOf("OrvantaProduct")["eventKey"].isNil());
 }
 
-TEST(SchemaCommand, TellsTheEndpointsOfRequests) {
+TEST(SchemaCommand, ListsTheEndpointsOfRequests) {
   const Value whole = parseJSON(runTool({"schema", "--json"}).out);
   EXPECT_EQ((*whole.dictionary())["endpoints"].array()->size(), 21U);
   EXPECT_EQ((*(*whole.dictionary())["endpoints"].array())[2],

@@ -8,15 +8,15 @@
 
 namespace orvanta::testing {
 
-/// What a run of the program came to.
+/// The result of a run of the program.
 struct ToolRun {
   tool::ExitCode exit;
   std::string out;
   std::string err;
 };
 
-/// Runs the program in this process, with these arguments behind its name and that text as standard
-/// input. It begins at log level 1, and leaves the level as it was.
+/// Runs the program in this process with these arguments (without its name) and this standard
+/// input. Starts at log level 1 and restores the previous level.
 ToolRun runTool(const std::vector<std::string>& arguments, std::string_view standardIn = "");
 
 }  // namespace orvanta::testing
