@@ -22,40 +22,17 @@ std::string stored(std::size_t events, std::string_view identifiers = R"({"iid":
   return line.append(R"(],"ids":)").append(identifiers).append("}\n");
 }
 
-TEST(BatchCommand, FoldsStoredRequests) {
-  const struct {
-    std::vector<std::size_t> lines;
-    std::string_view batches;  // leader, events, ids contained
-  } rows[] = {
-      {{}, ""},
-      {{1, 1, 1}, "1:3[2,3] "},
-      {{95, 10, 1}, "1:100[2] 2:6[3] "},  // what a merge leaves over leads the next batch
-      {{100, 1}, "1:100[] 2:1[] "},
-      {{130, 1}, "1:130[] 2:1[] "},
-      {{1, 250}, "1:100[2] 2:151[] "},
-  };
-  for (const auto& row : rows) {
-    std::string input;
-    for (const std::size_t events : row.lines) input += stored(events);
-    const ToolRun run = runTool({"batch"}, input);
-    EXPECT_EQ(run.exit, ExitCode::done);
-    std::string batches;
-    std::istringstream out(run.out);
-    for (std::string line; std::getline(out, line);) {
-      const Value batch = parseJSON(line);
-      ASSERT_NE(batch.dictionary(), nullptr) << line;
-      batches += describe((*batch.dictionary())["storageId"]) + ":" +
-                 describe((*batch.dictionary())["events"]) +
-                 toJSON((*batch.dictionary())["idsContained"]) + " ";
-    }
-    EXPECT_EQ(batches, row.batches);
-  }
-}
-
-TEST(BatchCommand, KeepsTheIdentifiersOfWhatIsLeftOver) {
+TEST(BatchCommand, PrintsOneLinePerBatch) {
   const ToolRun run = runTool({"batch"}, stored(99) + stored(2, R"({"iid":"i","sid":"2"})"));
-  const std::string second = run.out.substr(run.out.find('\n') + 1);
-  EXPECT_NE(second.find(R"("ids":{"iid":"i","sid":"2"})"), std::string::npos) << second;
+  EXPECT_EQ(run.exit, ExitCode::done);
+  EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '\n'), 2);
+  EXPECT_TRUE(run.out.starts_with(R"({"storageId":1,"idsContained":[2],"events":100,"priority":1,)"
+                                  R"("spec":{"baseURL":null,"path":"/event/fire",)"))
+      << run.out;
+  const std::string rest = run.out.substr(run.out.find('\n') + 1);
+  EXPECT_TRUE(rest.starts_with(R"({"storageId":2,"idsContained":[],"events":1,)")) << rest;
+  EXPECT_NE(rest.find(R"("ids":{"iid":"i","sid":"2"})"), std::string::npos) << rest;
+  EXPECT_EQ(runTool({"batch"}).out, "");
 }
 
 TEST(BatchCommand, NamesTheLinesThatItLeavesOut) {
@@ -94,21 +71,6 @@ TEST(BatchCommand, WarnsAboutAcceptedButSuspiciousLines) {
   EXPECT_NE(run.err.find("standard input:1: warning: the key \"events\" stands twice"),
             std::string::npos);
   EXPECT_NE(run.err.find("1 of \"events\" name no event class"), std::string::npos);
-}
-
-TEST(RequestCommand, PrintsTheCallOfARequest) {
-  const ToolRun run = runTool({"request", "OrvantaFetchCouponRequest"}, R"({"page":2})");
-  EXPECT_EQ(run.exit, ExitCode::done);
-  EXPECT_EQ(
-      toJSON(parseJSON(run.out), {.escapeSlashes = false}),
-      R"({"baseURL":null,"path":"/coupon/fetch","HTTPMethod":"POST","HTTPHeaders":{},)"
-      R"("HTTPBody":{"page":2,"max":0},"timeoutInterval":20,"queuePriority":0,"priority":1})");
-  EXPECT_NE(runTool({"request", "OrvantaFetchCouponRequest", "--text"}, "{}")
-                .out.find("Path : /coupon/fetch\n"),
-            std::string::npos);
-  EXPECT_EQ(runTool({"request", "OrvantaUser"}, "{}").exit, ExitCode::usage);
-  EXPECT_EQ(runTool({"request", "OrvantaFetchCouponRequest"}, R"({"ids":{"iid":1},"max":[]})").exit,
-            ExitCode::rejected);
 }
 
 }  // namespace
