@@ -1,9 +1,7 @@
-#include <unistd.h>
-
 #include <charconv>
 #include <cmath>
 #include <filesystem>
-#include <iostream>
+#include <ostream>
 #include <system_error>
 
 #include "orvanta/Linux/LinuxHost.h"
@@ -16,6 +14,7 @@
 #include "orvanta/Simulator/Report/TextReport.h"
 #include "orvanta/Tool/Commands.h"
 #include "orvanta/Tool/Input.h"
+#include "orvanta/Tool/ProgressBar.h"
 #include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
@@ -67,18 +66,6 @@ Scenario scenarioFrom(const std::string& file, const Streams& streams) {
   }
 }
 
-/// Draws a progress bar on the terminal's last line.
-void drawProgress(std::uint64_t received, std::uint64_t expected) {
-  constexpr std::uint64_t kWidth = 30;
-  std::cerr << "\r  " << received / 1000 << " kB";
-  if (expected >= received && expected != 0) {
-    const std::uint64_t filled = received * kWidth / expected;
-    std::cerr << " of " << expected / 1000 << " kB [" << std::string(filled, '#')
-              << std::string(kWidth - filled, ' ') << "]";
-  }
-  std::cerr << std::flush;
-}
-
 }  // namespace
 
 static ExitCode runNotify(const NotifyOptions& options, const Streams& streams) {
@@ -117,11 +104,13 @@ static ExitCode runNotify(const NotifyOptions& options, const Streams& streams) 
   RecordingLog log(streams.err);
   log.setFilter(rewritePaths);
   machine.log = &log;
-  bool isDrawn = false;
-  if (&streams.err == &std::cerr && isatty(STDERR_FILENO) != 0) {
+  ProgressBar progress(streams.err);
+  if (progress.isVisible()) {
     machine.progress = [&](std::uint64_t received, std::uint64_t expected) {
-      isDrawn = true;
-      drawProgress(received, expected);
+      const bool isKnown = expected != 0 && expected >= received;
+      const std::string total = isKnown ? " of " + std::to_string(expected / 1000) + " kB" : "";
+      progress.update(received, isKnown ? expected : 0,
+                      std::to_string(received / 1000) + " kB" + total);
     };
   }
 
@@ -130,7 +119,7 @@ static ExitCode runNotify(const NotifyOptions& options, const Streams& streams) 
       [] { return std::make_shared<OrvantaNotificationServiceExtension>(); }, host.services(),
       std::move(simulation));
   const SimulationReport report = simulator.run(input.object);
-  if (isDrawn) streams.err << "\r\033[K";
+  progress.erase();
   if (options.json) {
     printJSON(reportAsJSON(report, log.entries(), rewritePaths), streams.out, /*pretty=*/true);
   } else {

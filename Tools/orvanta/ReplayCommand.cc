@@ -1,19 +1,18 @@
-#include <unistd.h>
-
-#include <algorithm>
-#include <condition_variable>
-#include <deque>
 #include <exception>
 #include <filesystem>
+#include <functional>
 #include <iomanip>
-#include <iostream>
-#include <mutex>
+#include <ostream>
+#include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "orvanta/Foundation/Array.h"
+#include "orvanta/Tool/BoundedQueue.h"
 #include "orvanta/Tool/Commands.h"
 #include "orvanta/Tool/LineReader.h"
+#include "orvanta/Tool/ProgressBar.h"
 #include "orvanta/Tool/Replay.h"
 #include "orvanta/Tool/Text.h"
 
@@ -23,134 +22,71 @@ namespace {
 
 using Chunk = std::vector<ReplayLine>;
 
-/// Chunks on their way from the reader to the jobs; the reader waits when there are many. After a
-/// job has failed there are none.
-class Chunks {
+/// A thread that joins in its destructor; std::jthread is missing from some C++ libraries.
+class JoiningThread {
  public:
-  explicit Chunks(std::size_t most) : most_(most) {}
-
-  /// Throws what a job has failed with.
-  void put(Chunk chunk) {
-    std::unique_lock lock(lock_);
-    changed_.wait(lock, [&] { return failure_ || chunks_.size() < most_; });
-    if (failure_) std::rethrow_exception(failure_);
-    chunks_.push_back(std::move(chunk));
-    changed_.notify_all();
-  }
-  void end() {
-    const std::lock_guard lock(lock_);
-    isEnded_ = true;
-    changed_.notify_all();
-  }
-  void fail(std::exception_ptr failure) {
-    const std::lock_guard lock(lock_);
-    if (!failure_) failure_ = std::move(failure);
-    changed_.notify_all();
-  }
-  void rethrowFailure() {
-    const std::lock_guard lock(lock_);
-    if (failure_) std::rethrow_exception(failure_);
-  }
-  bool take(Chunk& chunk) {
-    std::unique_lock lock(lock_);
-    changed_.wait(lock, [&] { return failure_ || isEnded_ || !chunks_.empty(); });
-    if (failure_ || chunks_.empty()) return false;
-    chunk = std::move(chunks_.front());
-    chunks_.pop_front();
-    changed_.notify_all();
-    return true;
+  explicit JoiningThread(std::function<void()> run) : thread_(std::move(run)) {}
+  JoiningThread(JoiningThread&&) = default;
+  JoiningThread& operator=(JoiningThread&&) = delete;
+  ~JoiningThread() {
+    if (thread_.joinable()) thread_.join();
   }
 
  private:
-  std::size_t most_;
-  std::mutex lock_;
-  std::condition_variable changed_;
-  std::deque<Chunk> chunks_;
-  bool isEnded_ = false;
-  std::exception_ptr failure_;
+  std::thread thread_;
 };
 
-/// Bytes that were read, drawn on a terminal now and then.
-class Progress {
- public:
-  explicit Progress(const Streams& streams, std::uint64_t total)
-      : out_(streams.err),
-        total_(total),
-        isShown_(&streams.err == &std::cerr && isatty(STDERR_FILENO) != 0) {}
-  Progress(const Progress&) = delete;
-  Progress& operator=(const Progress&) = delete;
-  ~Progress() {
-    if (isShown_) out_ << "\r\x1B[K" << std::flush;
-  }
-
-  void at(std::uint64_t bytes, std::uint64_t lines) {
-    if (!isShown_) return;
-    constexpr std::uint64_t kWidth = 40;
-    out_ << '\r';
-    if (total_ != 0) {
-      const std::uint64_t done = std::min(kWidth, bytes * kWidth / total_);
-      out_ << '[' << std::string(done, '#') << std::string(kWidth - done, ' ') << "] "
-           << std::min<std::uint64_t>(100, bytes * 100 / total_) << " %, ";
-    }
-    out_ << lines << " lines" << std::flush;
-  }
-
- private:
-  std::ostream& out_;
-  std::uint64_t total_;
-  bool isShown_;
-};
-
-/// Reads everything and hands it on in chunks.
+/// Reads all lines and passes them on in chunks.
 template <class Take>
-void readChunks(LineReader& lines, Progress& progress, Take&& take) {
+void readChunks(LineReader& reader, ProgressBar& progress, std::uint64_t totalBytes, Take&& take) {
   constexpr std::size_t kChunkBytes = std::size_t{1} << 20U;
   Chunk chunk;
-  std::size_t bytes = 0;
-  std::uint64_t allBytes = 0;
-  const auto hand = [&] {
-    allBytes += bytes;
-    bytes = 0;
+  std::size_t chunkBytes = 0;
+  std::uint64_t bytes = 0;
+  const auto passOn = [&] {
+    bytes += chunkBytes;
+    chunkBytes = 0;
     take(std::move(chunk));
     chunk.clear();
-    progress.at(allBytes, lines.number());
+    progress.update(bytes, totalBytes, std::to_string(reader.number()) + " lines");
   };
-  while (lines.next()) {
-    bytes += lines.text().size() + 1;
-    if (lines.text().find_first_not_of(" \t") == std::string::npos) continue;
-    chunk.push_back({lines.number(), lines.location(), lines.text(), lines.isTooLong()});
-    if (bytes >= kChunkBytes) hand();
+  while (reader.next()) {
+    chunkBytes += reader.text().size() + 1;
+    if (reader.text().find_first_not_of(" \t") == std::string::npos) continue;
+    chunk.push_back({reader.number(), reader.location(), reader.text(), reader.isTooLong()});
+    if (chunkBytes >= kChunkBytes) passOn();
   }
-  hand();
+  passOn();
 }
 
-ReplayCounts replayAll(LineReader& lines, Progress& progress, std::uint64_t jobs) {
+ReplayCounts replayAll(LineReader& reader, ProgressBar& progress, std::uint64_t totalBytes,
+                       std::uint64_t jobs) {
   std::vector<Replay> replays(jobs);
   const auto runChunk = [](Replay& replay, const Chunk& chunk) {
     for (const ReplayLine& line : chunk) replay.run(line);
   };
   if (jobs == 1) {
-    readChunks(lines, progress, [&](const Chunk& chunk) { runChunk(replays.front(), chunk); });
+    readChunks(reader, progress, totalBytes,
+               [&](const Chunk& chunk) { runChunk(replays.front(), chunk); });
   } else {
-    Chunks chunks(2 * jobs);
+    BoundedQueue<Chunk> chunks(2 * jobs);
     {
-      std::vector<std::jthread> threads;
-      const struct End {
-        Chunks& chunks;
-        ~End() { chunks.end(); }
-      } end{chunks};
+      std::vector<JoiningThread> threads;
+      const struct Close {  // before the threads are joined
+        BoundedQueue<Chunk>& chunks;
+        ~Close() { chunks.close(); }
+      } close{chunks};
       threads.reserve(replays.size());
       for (Replay& replay : replays) {
         threads.emplace_back([&] {
           try {
-            Chunk chunk;
-            while (chunks.take(chunk)) runChunk(replay, chunk);
+            while (const auto chunk = chunks.pop()) runChunk(replay, *chunk);
           } catch (...) {
             chunks.fail(std::current_exception());
           }
         });
       }
-      readChunks(lines, progress, [&](Chunk chunk) { chunks.put(std::move(chunk)); });
+      readChunks(reader, progress, totalBytes, [&](Chunk chunk) { chunks.push(std::move(chunk)); });
     }
     chunks.rethrowFailure();
   }
@@ -205,13 +141,11 @@ void printText(const ReplayCounts& counts, std::ostream& out) {
 
 ExitCode replay(const ReplayOptions& options, const Streams& streams) {
   std::error_code unknown;
-  const auto total = std::filesystem::file_size(options.file, unknown);
-  LineReader lines({options.file}, streams);
-  ReplayCounts counts;
-  {
-    Progress progress(streams, unknown ? 0 : total);
-    counts = replayAll(lines, progress, options.jobs);
-  }
+  const auto size = std::filesystem::file_size(options.file, unknown);
+  LineReader reader({options.file}, streams);
+  ProgressBar progress(streams.err);
+  const ReplayCounts counts = replayAll(reader, progress, unknown ? 0 : size, options.jobs);
+  progress.erase();
   for (const auto& [number, text] : counts.firstBadLines) {
     streams.err << "orvanta: " << text << '\n';
   }
