@@ -38,6 +38,8 @@ constexpr const char* kFooter =
     "  orvanta device --all --device examples/devices/old-phone.json\n"
     "  orvanta identifier -n 3";
 
+constexpr std::uint64_t kMaxDownloadLimit = 1'000'000'000'000;
+
 /// The platform of commands that do not simulate a device: log, clock and random numbers.
 class LoggingPlatform final : public Platform {
  public:
@@ -82,15 +84,19 @@ CLI::App* addNotify(CLI::App& app, NotifyOptions& options) {
           "--scenario", options.scenario,
           "What the device does: replaced texts, answers, delays, faults, a second request")
       ->option_text("FILE");
-  command
-      ->add_option("--time-budget", options.timeBudget,
-                   "Seconds from the request to the expiry (30)")
-      ->option_text("S")
-      ->check(CLI::Range(0.0, 1e9));
+  command->add_option("--time-budget", options.timeBudget, "Seconds from the request to the expiry")
+      ->type_name("S")
+      ->check(CLI::Range(0.0, 1e9).description(""))
+      ->capture_default_str();
   command->add_flag("--real-time", options.realTime, "Wait as long as the simulated device would");
   command
-      ->add_option("--max-download", options.maxDownload, "End a download beyond this size (256M)")
-      ->option_text("BYTES");
+      ->add_option(
+          "--max-download", options.maxDownload,
+          "End a download beyond this size; k, M, G are powers of 1000, Ki, Mi, Gi of 1024")
+      ->type_name("BYTES")
+      ->transform(CLI::AsSizeValue(/*kb_is_1000=*/true).description(""))
+      ->check(CLI::Range(std::uint64_t{1}, kMaxDownloadLimit).description(""))
+      ->default_val("256M");
   return command;
 }
 
@@ -153,18 +159,20 @@ CLI::App* addReplay(CLI::App& app, ReplayOptions& options) {
       "where everything goes well and nothing is fetched, and count what came of them.");
   command->add_option("FILE", options.file, "JSON lines")->capture_default_str();
   command->add_flag("--json", options.json, "Print JSON");
-  command->add_option("--jobs", options.jobs, "Run on that many threads (1)")
-      ->option_text("N")
-      ->check(CLI::Range(1, 256));
+  command->add_option("--jobs", options.jobs, "Run on that many threads")
+      ->type_name("N")
+      ->check(CLI::Range(1, 256).description(""))
+      ->capture_default_str();
   return command;
 }
 
 CLI::App* addIdentifier(CLI::App& app, IdentifierOptions& options) {
   CLI::App* command =
       app.add_subcommand("identifier", "Make short identifiers, or tell what stands in one.");
-  auto* count = command->add_option("-n", options.count, "How many, up to 1000000 (1)")
-                    ->option_text("N")
-                    ->check(CLI::Range(1, 1000000));
+  auto* count = command->add_option("-n", options.count, "How many, up to 1000000")
+                    ->type_name("N")
+                    ->check(CLI::Range(1, 1000000).description(""))
+                    ->capture_default_str();
   command
       ->add_option("--decode", options.decode,
                    "Show the number of this identifier, and the time and the random part in it")

@@ -22,7 +22,7 @@ struct NotifyOptions {
   std::vector<std::string> mapUrls;
   double timeBudget = 30.0;
   bool realTime = false;
-  std::string maxDownload = "256M";
+  std::uint64_t maxDownload = 0;  // bytes; the parser sets the default
 };
 ExitCode notify(const NotifyOptions& options, const Streams& streams);
 

@@ -1,4 +1,3 @@
-#include <charconv>
 #include <cmath>
 #include <filesystem>
 #include <ostream>
@@ -35,25 +34,6 @@ UrlMapping mappingFrom(const std::string& argument) {
                        escapeForTerminal(mapping.target) + ": no such folder (--map-url)");
   }
   return mapping;
-}
-
-/// Bytes with an optional k, M or G (powers of 1000).
-std::uint64_t bytesFrom(const std::string& argument) {
-  std::uint64_t bytes = 0;
-  const char* end = argument.data() + argument.size();
-  const auto result = std::from_chars(argument.data(), end, bytes);
-  constexpr std::string_view kUnits = "kMG";
-  std::uint64_t factor = 1;
-  if (result.ec == std::errc() && result.ptr + 1 == end) {
-    const auto unit = kUnits.find(*result.ptr);
-    for (std::size_t i = 0; unit != std::string_view::npos && i <= unit; ++i) factor *= 1000;
-  }
-  const bool isWhole = result.ec == std::errc() && (result.ptr == end || factor != 1);
-  if (!isWhole || bytes == 0 || bytes > 1'000'000'000'000U / factor) {
-    throw CommandError(ExitCode::usage, "--max-download \"" + escapeForTerminal(argument) +
-                                            "\": a number of bytes is needed, such as 5M");
-  }
-  return bytes * factor;
 }
 
 Scenario scenarioFrom(const std::string& file, const Streams& streams) {
@@ -93,7 +73,7 @@ static ExitCode runNotify(const NotifyOptions& options, const Streams& streams) 
   for (const std::string& mapping : options.mapUrls) {
     machine.urlMappings.push_back(mappingFrom(mapping));
   }
-  machine.limits.bytes = bytesFrom(options.maxDownload);
+  machine.limits.bytes = options.maxDownload;
 
   const Input input = readInput(options.payload, streams);
   const StateFolder state(options.state);

@@ -59,15 +59,25 @@ TEST(NotifyCommand, NamesTheKeyOfABadScenario) {
   }
 }
 
-TEST(NotifyCommand, RefusesOptionsThatMakeNoSense) {
+TEST(NotifyCommand, RejectsInvalidOptions) {
   const std::vector<std::string> rows[] = {
-      {"--time-budget", "nan"}, {"--time-budget", "-1"}, {"--os-version", "x"},
-      {"--max-download", "5X"}, {"--max-download", "0"}, {"--map-url", "https://m.example.com/"},
+      {"--time-budget", "nan"},
+      {"--time-budget", "-1"},
+      {"--os-version", "x"},
+      {"--map-url", "https://m.example.com/"},
+      {"--max-download", "5X"},
+      {"--max-download", "0"},
+      {"--max-download", "0M"},
+      {"--max-download", "-1"},
+      {"--max-download", "1.5M"},
+      {"--max-download", "2T"},
+      {"--max-download", "99999999999G"},
+      {"--max-download", ""},
   };
   for (const auto& row : rows) {
     const ToolRun run = runTool({"notify", row[0], row[1]}, kMedia);
     EXPECT_EQ(run.exit, ExitCode::usage) << row[0] << ' ' << row[1];
-    EXPECT_NE(run.err, "");
+    EXPECT_NE(run.err.find(row[0]), std::string::npos) << run.err;
   }
 }
 
@@ -94,14 +104,24 @@ TEST(NotifyCommand, ServesMappedUrlsFromTheirFolderAlone) {
 }
 
 TEST(NotifyCommand, EndsADownloadBeyondTheLimit) {
+  const struct {
+    const char* limit;
+    std::uintmax_t bytes;
+  } rows[] = {{"2000", 2000},  {"2k", 2000},     {"2 kB", 2000},    {"2K", 2000},
+              {"1Ki", 1024},   {"1kib", 1024},   {"1M", 1'000'000}, {"1mb", 1'000'000},
+              {"1000b", 1000}, {"1MiB", 1 << 20}};
   const TemporaryFolder folder;
-  folder.file("pic.png", std::string(2000, 'x'));
-  for (const auto& [limit, attached] : {std::pair{"2000", 1U}, std::pair{"1999", 0U}}) {
-    const ToolRun run = runTool({"notify", "--json", "--max-download", limit, "--map-url",
-                                 "https://m.example.com/a/=" + folder.path().string()},
-                                kMedia);
-    EXPECT_EQ(attachmentsShown(run).size(), attached) << limit;
+  const std::string media = folder.file("pic.png", "");
+  for (const auto& row : rows) {
+    for (const std::uintmax_t beyond : {0U, 1U}) {
+      fs::resize_file(media, row.bytes + beyond);
+      const ToolRun run = runTool({"notify", "--json", "--max-download", row.limit, "--map-url",
+                                   "https://m.example.com/a/=" + folder.path().string()},
+                                  kMedia);
+      EXPECT_EQ(attachmentsShown(run).size(), 1 - beyond) << row.limit;
+    }
   }
+  EXPECT_NE(runTool({"notify", "--help"}).out.find("BYTES=256M"), std::string::npos);
 }
 
 TEST(NotifyCommand, KeepsANamedStateFolder) {
