@@ -3,8 +3,8 @@
 #include <cerrno>
 #include <cstddef>
 
-// These stand before the C library's own for the whole process, `operator new` included. The
-// counting is for one thread.
+// These definitions replace the C library's for the whole process, `operator new` included. The
+// counters are not atomic: the benchmark has one thread.
 
 namespace {
 constinit orvanta::benchmarks::Allocations total;

@@ -4,7 +4,7 @@
 
 namespace orvanta::benchmarks {
 
-/// How often memory was asked for since the program's start, by whatever part of it, and how much.
+/// Number and total size of the allocations of the whole process since it started.
 struct Allocations {
   std::int64_t count = 0;
   std::int64_t bytes = 0;

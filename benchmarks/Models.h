@@ -10,9 +10,8 @@
 #include <variant>
 #include <vector>
 
-// The plain structs that somebody would write by hand for the workloads, with a table of fields
-// that saves the peers from naming each of them again. `Tree` is a peer's own type of free-form
-// values.
+// Plain structs for the workloads, as an application would write them by hand, with a table of
+// fields that all peers share. `Tree` is a peer's own type of free-form values.
 
 namespace orvanta::benchmarks {
 
@@ -92,7 +91,7 @@ template <class Tree>
 struct Button {
   std::optional<Tree> actionDictionary, customDictionary;
   Text identifier, title;
-  std::uint64_t activationMode = 0, behaviour = 0;
+  std::uint64_t activationMode = 0, behavior = 0;
   bool destructive = false, authenticationRequired = false;
 };
 template <class Tree>
@@ -168,7 +167,7 @@ struct Batch {
 
 // ---- Tables ---------------------------------------------------------------
 
-/// The key on the wire, the property of the model, and the member.
+/// A wire key, the property of the model, and the struct member.
 template <class Owner, class T>
 struct Field {
   std::string_view key;
@@ -181,7 +180,7 @@ Field(std::string_view, std::string_view, T Owner::*) -> Field<Owner, T>;
 template <class T>
 struct Fields;
 
-/// Calls with each field of a struct.
+/// Calls `visit` with each field of a struct.
 template <class T, class Visit>
 void eachField(Visit&& visit) {
   std::apply([&](const auto&... field) { (visit(field), ...); }, Fields<T>::kAll);
@@ -235,12 +234,12 @@ struct Fields<Button<Tree>> {
       Field{"actM", "activationMode", &M::activationMode},
       Field{"dest", "destructive", &M::destructive},
       Field{"auth", "authenticationRequired", &M::authenticationRequired},
-      Field{"bhv", "behaviour", &M::behaviour}};
+      Field{"bhv", "behaviour", &M::behavior}};
 };
 template <class Tree>
 struct Fields<Push<Tree>> {
   using M = Push<Tree>;
-  /// Those below "aps", and those below "_ov".
+  /// Keys below "aps" and keys below "_ov".
   static constexpr std::tuple kSystem{
       Field{"alert", "alert", &M::alert},
       Field{"category", "interactiveCategoryIdentifier", &M::interactiveCategoryIdentifier},
@@ -347,7 +346,7 @@ struct Fields<ScreenView> {
       Fields<Event>::kAll);
 };
 
-/// What every contender does first with a batch: removes what an event repeats.
+/// The first step of every implementation: removes identifiers that an event shares with its batch.
 inline void strip(Batch& batch) {
   const auto stripOne = [&](Event& event) {
     eachField<Identifiers>([&](const auto& field) {

@@ -20,8 +20,8 @@ std::string textOf(const Value& value) {
   return text;
 }
 
-/// The text with its words moved on, so that no two messages are alike to a branch predictor.
-std::string turned(std::string_view text, int places) {
+/// Rotates the words of a string, so that a branch predictor sees no two equal messages.
+std::string rotated(std::string_view text, int places) {
   std::string result(text);
   for (; places > 0; --places) {
     const auto space = result.find(' ');
@@ -31,22 +31,22 @@ std::string turned(std::string_view text, int places) {
   return result;
 }
 
-Value turned(const Value& value, int places) {
-  if (const auto text = value.string()) return turned(*text, places);
+Value rotated(const Value& value, int places) {
+  if (const auto text = value.string()) return rotated(*text, places);
   if (const Array* array = value.array()) {
     Array result;
-    for (const Value& element : *array) result.append(turned(element, places));
+    for (const Value& element : *array) result.append(rotated(element, places));
     return result;
   }
   if (const Dictionary* dictionary = value.dictionary()) {
     Dictionary result;
-    for (const auto& [key, element] : *dictionary) result.set(key, turned(element, places));
+    for (const auto& [key, element] : *dictionary) result.set(key, rotated(element, places));
     return result;
   }
   return value;
 }
 
-/// The same texts and numbers in every run, on every machine.
+/// Generates the same strings and numbers in every run, on every machine.
 class Source {
  public:
   std::size_t below(std::size_t limit) { return random_() % limit; }
@@ -163,7 +163,7 @@ Batch makeBatch() {
   return batch;
 }
 
-/// Texts of one payload's size, each the worst of its kind, as free-form parameters.
+/// Payloads of one size whose free-form parameters are the worst case of one kind each.
 std::vector<Workloads::Hostile> makeHostile(std::size_t bytes) {
   constexpr std::string_view kFirst = R"({"aps":{"alert":"a"},"_ov":{"prms":)";
   const auto around = [&](std::string_view open, auto&& item, std::string_view close) {
@@ -214,7 +214,7 @@ std::string inboxOf(const std::string& push, int messages) {
   const Value payload = parseJSON(push);
   Array all;
   for (int i = 0; i < messages; ++i) {
-    Dictionary message = *turned(payload, i % 40).dictionary();
+    Dictionary message = *rotated(payload, i % 40).dictionary();
     Dictionary own = *message["_ov"].dictionary();
     own.set("pid", "4616bbe32d3850dd94a8" + std::to_string(1000 + i));
     own.set("sts", 1'717'700'000'000 + std::int64_t{60'000} * i);

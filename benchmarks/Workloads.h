@@ -7,14 +7,14 @@
 
 namespace orvanta::benchmarks {
 
-/// What is read and written; the same in every run.
+/// The inputs of the benchmark, the same in every run.
 struct Workloads {
   Workloads();
 
   std::string push;   // a payload of 3.5 KB
   std::string inbox;  // a reply with 200 messages of that shape
   Batch batch;        // 100 events
-  /// Payloads of 3.4 KB that are slow to read.
+  /// Payloads of 3.4 KB that are slow to parse.
   struct Hostile {
     std::string_view name;
     std::string text;
@@ -22,7 +22,7 @@ struct Workloads {
   std::vector<Hostile> hostile;
 };
 
-/// A reply with that many different messages of the payload's shape.
+/// Returns a reply with that many different messages of the payload's shape.
 std::string inboxOf(const std::string& push, int messages);
 
 }  // namespace orvanta::benchmarks

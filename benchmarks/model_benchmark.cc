@@ -1,5 +1,5 @@
-// Reading and writing models, this project's beside those of its peers. Without arguments of its
-// own a program of Google Benchmark; see scripts/bench for the rest.
+// Measures reading and writing models, this project's and its peers'. A Google Benchmark program,
+// with two commands of its own for scripts/bench: `repeat` and `inbox`.
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
@@ -10,29 +10,29 @@
 #include <string>
 
 #include "Allocations.h"
-#include "Contender.h"
+#include "Implementation.h"
 
 namespace orvanta::benchmarks {
 
 namespace {
 
 struct Row {
-  std::string name;  // "workload/contender"
+  std::string name;  // "workload/implementation"
   Operation operation;
 };
 
 std::vector<Row> rows(const Workloads& workloads) {
   std::vector<Row> all;
-  for (const Contender& contender : contenders()) {
-    for (Operation& operation : contender.operations(workloads)) {
-      all.push_back({std::string(operation.workload).append("/").append(contender.name),
+  for (const Implementation& implementation : implementations()) {
+    for (Operation& operation : implementation.operations(workloads)) {
+      all.push_back({std::string(operation.workload).append("/").append(implementation.name),
                      std::move(operation)});
     }
   }
   return all;
 }
 
-/// Nobody is measured at other work than the rest.
+/// Throws unless all implementations of a workload return the same result.
 void compare(const std::vector<Row>& rows) {
   std::map<std::string_view, Value> results;
   for (const auto& [name, operation] : rows) {
@@ -56,7 +56,7 @@ void measure(benchmark::State& state, const Operation& operation) {
   state.counters["bytes"] = static_cast<double>(after.bytes - before.bytes) / kCounted;
 }
 
-/// One operation a number of times, for counting its instructions.
+/// Runs one operation a number of times, to count its instructions.
 int repeat(const std::vector<Row>& rows, std::string_view wanted, long count) {
   for (const auto& [name, operation] : rows) {
     if (name != wanted) continue;

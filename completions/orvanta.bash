@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # Bash completion for orvanta, and for ./run in a clone of its repository.
 
-# Sets kind to what the value of option $1 is; empty for an option without a value.
+# Sets kind to the kind of value of option $1; empty for an option without a value.
 _orvanta_value_kind() {
   case $1 in
     --log-level) kind=levels ;;
@@ -14,7 +14,7 @@ _orvanta_value_kind() {
   esac
 }
 
-# Sets kind to what stands at place $2, from 0, behind command $1.
+# Sets kind to the kind of argument $2, counted from 0, of command $1.
 _orvanta_argument_kind() {
   case $1:$2 in
     :*) kind=commands ;;
@@ -25,7 +25,7 @@ _orvanta_argument_kind() {
   esac
 }
 
-# _orvanta_classes PATTERN: the classes whose line in the schema matches.
+# _orvanta_classes PATTERN: prints the classes whose line in the schema matches.
 _orvanta_classes() {
   "$program" schema 2>/dev/null </dev/null | sed -n "/^ /d; /$1/ { s/ .*//; p }"
 }
@@ -41,7 +41,7 @@ _orvanta() {
     fi
   fi
 
-  # Bash takes words apart at "=" and ":".
+  # Bash splits words at "=" and ":".
   for word in "${COMP_WORDS[@]:1:COMP_CWORD}"; do
     if ((${#words[@]})) && [[ $word == [:=]* || $last == [:=]* ]]; then
       words[-1]+=$word

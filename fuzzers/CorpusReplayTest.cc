@@ -10,8 +10,7 @@
 
 #include "fuzzer.h"
 
-// Every input of the fuzzers' corpora, and every example, once more; in any build, without
-// libFuzzer.
+// Runs the fuzz targets on their corpora and on every example, in any build, without libFuzzer.
 
 namespace orvanta::testing {
 namespace {
@@ -23,7 +22,7 @@ struct Input {
   std::string text;
 };
 
-/// The files below a folder of the source tree whose names end so, in order.
+/// Reads the files below a folder of the source tree whose names have this ending, sorted by name.
 std::vector<Input> filesIn(const std::string& folder, std::string_view ending) {
   std::vector<Input> inputs;
   for (const auto& entry :
@@ -38,7 +37,7 @@ std::vector<Input> filesIn(const std::string& folder, std::string_view ending) {
   return inputs;
 }
 
-/// A target, and the line that makes an input of an example: of a payload, of a stored event.
+/// A target, and the first line that turns an example payload or stored event into its input.
 struct Target {
   std::string name;
   void (*run)(std::string_view input);
@@ -50,7 +49,7 @@ void PrintTo(const Target& target, std::ostream* out) { *out << target.name; }
 class CorpusReplayTest : public ::testing::TestWithParam<Target> {
  protected:
   static void replay(const std::string& name, const std::string& text) {
-    std::cout << name << std::endl;  // the last one before a crash is the culprit
+    std::cout << name << std::endl;  // the last name before a crash is the input
     try {
       GetParam().run(text);
     } catch (const std::exception& error) {
@@ -59,7 +58,7 @@ class CorpusReplayTest : public ::testing::TestWithParam<Target> {
   }
 };
 
-TEST_P(CorpusReplayTest, HoldsForEveryInput) {
+TEST_P(CorpusReplayTest, AcceptsEveryInput) {
   const std::vector<Input> corpus = filesIn("fuzzers/corpus/" + GetParam().name, "");
   EXPECT_FALSE(corpus.empty());
   EXPECT_LE(corpus.size(), 60U);

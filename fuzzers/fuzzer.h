@@ -5,8 +5,8 @@
 #include <stdexcept>
 #include <string_view>
 
-// What the targets share. A target is a function that takes any bytes and throws when something
-// that always holds did not; libFuzzer runs it from a program of its own, the tests from theirs.
+// Fuzz targets. A target takes arbitrary bytes and throws if an invariant is violated. Each is
+// linked into a libFuzzer program of its own and into the tests.
 
 namespace orvanta::fuzzing {
 
@@ -20,7 +20,7 @@ inline void require(bool holds, const char* promise) {
 
 }  // namespace orvanta::fuzzing
 
-/// Stands once at the end of a target's source.
+/// Defines libFuzzer's entry point; used once, at the end of a target's source.
 #ifdef ORVANTA_LIBFUZZER
 #define ORVANTA_FUZZER(target_)                                                               \
   extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {         \

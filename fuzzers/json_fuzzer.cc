@@ -7,13 +7,13 @@
 #include "orvanta/Foundation/JSON.h"
 #include "orvanta/Model/Mapping/OrvantaJSONSerializer.h"
 
-// The input is a JSON text, or none.
+// The input is JSON or arbitrary bytes.
 
 namespace orvanta::fuzzing {
 
 namespace {
 
-/// Every entry of a tree's dictionaries is found by its key, also through an index.
+/// Requires that every entry of a tree's dictionaries is found by its key, also through an index.
 void requireEntriesFound(const Value& value) {
   if (const Array* array = value.array()) {
     for (const Value& element : *array) requireEntriesFound(element);
@@ -26,7 +26,7 @@ void requireEntriesFound(const Value& value) {
   }
 }
 
-void requireRefused(std::string_view input, const JSONError& error) {
+void requireRejected(std::string_view input, const JSONError& error) {
   require(!error.reason.empty(), "a text is refused for a reason");
   require(error.offset <= input.size(), "an error stands within the text");
   const TextPosition position = TextPosition::of(error.offset, input);
@@ -63,14 +63,14 @@ void requireSerialized(std::string_view input, const Value& value) {
 }  // namespace
 
 void json(std::string_view input) {
-  for (const DuplicateKey& found : findDuplicateKeys(input)) {
-    require(found.firstOffset < found.offset && found.offset < input.size() &&
-                input[found.firstOffset] == '"' && input[found.offset] == '"',
+  for (const DuplicateKey& duplicate : findDuplicateKeys(input)) {
+    require(duplicate.firstOffset < duplicate.offset && duplicate.offset < input.size() &&
+                input[duplicate.firstOffset] == '"' && input[duplicate.offset] == '"',
             "duplicate keys stand in the text, one after the other");
   }
   JSONError error;
   const Value value = parseJSON(input, &error);
-  if (value.isNil()) return requireRefused(input, error);
+  if (value.isNil()) return requireRejected(input, error);
   requireWrittenAndReadBack(value);
   requireSerialized(input, value);
   requireEntriesFound(value);

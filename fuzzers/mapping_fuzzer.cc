@@ -8,17 +8,17 @@
 #include "orvanta/Model/Events/OrvantaWebViewActionEvent.h"
 #include "orvanta/Model/Mapping/RefusalRecorder.h"
 #include "orvanta/Model/Push/OrvantaPushObject.h"
-#include "orvanta/Model/Requests/OrvantaEventRequest.h"
+#include "orvanta/Model/Requests/EventBatchQueue.h"
 #include "orvanta/Model/Responses/OrvantaInboxCountResponse.h"
 
-// The input's first line names a model class (any other text picks one), the rest is the JSON text
-// of a dictionary.
+// The first line of the input names a model class (any other line selects one), the rest is a
+// dictionary as JSON.
 
 namespace orvanta::fuzzing {
 
 namespace {
 
-const Class& pickedClass(std::string_view line) {
+const Class& selectClass(std::string_view line) {
   if (const Class* named = modelClassNamed(line)) return *named;
   const auto classes = modelClasses();
   std::size_t sum = 0;
@@ -26,7 +26,8 @@ const Class& pickedClass(std::string_view line) {
   return *classes[sum % classes.size()];
 }
 
-/// Whether a model that a value holds, at any depth, fits; dictionaries hold none.
+/// Returns whether a model in the value, at any depth, satisfies the predicate. Dictionaries
+/// contain no models.
 template <class Fits>
 bool anyModel(const Value& value, const Fits& fits) {
   if (const Array* array = value.array()) {
@@ -45,14 +46,14 @@ bool anyModel(const Value& value, const Fits& fits) {
   return false;
 }
 
-/// Whether a date is read back as another one: it may lose a millisecond, since it is kept in
-/// seconds and truncated.
+/// Returns whether a date does not survive a round trip: dates are stored in seconds and truncated,
+/// so one can lose a millisecond.
 bool isInexact(const Date& date) {
   return Date::fromMilliseconds(date.milliseconds()).milliseconds() != date.milliseconds();
 }
 
-/// Puts a whole second, or 1970 where that is inexact too, in the place of each inexact date of a
-/// model, so that all the rest of it can be compared.
+/// Replaces each inexact date of a model by a whole second, or by 1970 if that is inexact too, so
+/// that the rest of the model can be compared.
 bool makeDatesExact(OrvantaBaseModel& model) {
   for (const Class* cls = &model.isa(); cls->parent() != nullptr; cls = cls->parent()) {
     for (const Property& property : cls->properties) {
@@ -62,11 +63,10 @@ bool makeDatesExact(OrvantaBaseModel& model) {
       property.assignTo(model, isInexact(second) ? Date{} : second);
     }
   }
-  return false;  // on to the next model
+  return false;  // continue with the next model
 }
 
-/// Whether a property's value is not written though it was read: the marker of an integer that was
-/// not given.
+/// Returns whether a value that was read is not written: the marker of an unset integer.
 bool isLost(const Property& property, const OrvantaBaseModel& model,
             const OrvantaBaseModel& fresh) {
   const Value value = property.valueIn(model);
@@ -74,7 +74,8 @@ bool isLost(const Property& property, const OrvantaBaseModel& model,
   return isUnsetInteger(value) && !isUnsetInteger(initial) && !initial.isNil();
 }
 
-/// Dotted keys are written flat, and an error event reads nothing.
+/// Returns whether writing a model loses data: dotted keys are written flat, error events read
+/// nothing, and unset integers are left out.
 bool isLostInWriting(const OrvantaBaseModel& model) {
   if (model.isKindOf(OrvantaPushObject::classObject()) ||
       model.isKindOf(OrvantaErrorEvent::classObject())) {
@@ -89,12 +90,13 @@ bool isLostInWriting(const OrvantaBaseModel& model) {
   return false;
 }
 
-/// The free fields of a web view's event may name a class that the event is not of.
+/// The free-form fields of a web view event can name a class other than the event's own.
 bool isNamedFreely(const OrvantaBaseModel& model) {
   return model.isKindOf(OrvantaWebViewActionEvent::classObject());
 }
 
-/// A model of a dictionary, nil when that is refused. Only push objects may throw, and one thing.
+/// Reads a model; returns nil if it rejects the dictionary. Only push objects may throw, and only
+/// for an undefined key.
 Ref<OrvantaBaseModel> read(const Class& cls, const Dictionary& dictionary) {
   const RefusalRecorder recorder;
   Ref<OrvantaBaseModel> model;
@@ -127,26 +129,21 @@ void requireReadBackWithClasses(const OrvantaBaseModel& model) {
           "what was read is written the same, with classes");
 }
 
-std::size_t eventCount(const OrvantaEventRequest& request) {
-  const Array* events = request.events().get();
-  return events != nullptr ? events->size() : 0;
-}
-
-/// Folds a request of the same dictionary into the first.
+/// Merges another request that is read from the same dictionary into the first.
 void requireMerged(OrvantaEventRequest& first, const Dictionary& dictionary) {
   const auto second = read(first.isa(), dictionary);
-  auto& folded = static_cast<OrvantaEventRequest&>(*second);
+  auto& merged = static_cast<OrvantaEventRequest&>(*second);
   const std::size_t before = eventCount(first);
   bool limitReached = false;
-  first.mergeEventsFromEventRequest(folded, limitReached);
-  require(eventCount(first) + eventCount(folded) == 2 * before, "no event is lost");
+  first.mergeEventsFromEventRequest(merged, limitReached);
+  require(eventCount(first) + eventCount(merged) == 2 * before, "no event is lost");
   require(limitReached == (eventCount(first) == OrvantaEventRequest::kBatchLimit),
           "a full batch is told");
   first.requestSpec();
   first.priority();
 }
 
-/// What some classes do with what they hold.
+/// Calls what some classes offer beyond reading and writing.
 void use(const Value& value) {
   if (const auto* request = value.as<OrvantaBaseRequest>()) {
     const auto spec = request->requestSpec();
@@ -169,7 +166,7 @@ void mapping(std::string_view input) {
   const Value parsed = parseJSON(input.substr(line + 1));
   const Dictionary* dictionary = parsed.dictionary();
   if (dictionary == nullptr) return;
-  const auto model = read(pickedClass(input.substr(0, line)), *dictionary);
+  const auto model = read(selectClass(input.substr(0, line)), *dictionary);
   if (!model) return;
 
   const Value value(model);

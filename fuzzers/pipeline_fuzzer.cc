@@ -6,19 +6,18 @@
 #include "fuzzer.h"
 #include "orvanta/Foundation/Exception.h"
 #include "orvanta/Foundation/JSON.h"
-#include "orvanta/Simulator/RemoteNotification.h"
-#include "orvanta/Simulator/UniformTypes.h"
 #include "orvanta/Model/Mapping/OrvantaLogger.h"
 #include "orvanta/NotificationService/OrvantaNotificationServiceExtension.h"
+#include "orvanta/Simulator/RemoteNotification.h"
+#include "orvanta/Simulator/UniformTypes.h"
 #include "support/FakePlatform.h"
 
-// The input's first line is a script, the rest the payload as JSON; behind a byte 0x1E may stand a
-// second payload. The script's characters, in their order, let things go wrong and let the next
-// callback come; see step() and the tables. An unknown character does nothing.
+// The first line of the input is a script, the rest the payload as JSON, optionally followed by a
+// byte 0x1E and a second payload. Each character of the script injects a fault or runs a pending
+// callback; see step() and the tables. Unknown characters are ignored.
 //
-// The platform is the tests' double: it keeps its files in memory, so that every path that is
-// written can be seen, holds each callback back, so that they can come in any order, and takes
-// microseconds a run. The content is made of the payload as the Linux host makes it.
+// The platform is the tests' fake: it keeps its files in memory, so that every written path can be
+// checked, queues callbacks, so that they can run in any order, and takes microseconds a run.
 
 namespace orvanta::fuzzing {
 
@@ -56,18 +55,18 @@ constexpr Fault kFaults[] = {
     {'s', [](FakePlatform& p) { p.download.response.statusCode.reset(); }},
     {'u', [](FakePlatform& p) { p.updateError = fault(); }},
 };
-/// Services that a digit takes away; they are there or not from the beginning.
+/// Services that a digit removes, before the first request only.
 constexpr std::string_view kServices[] = {"log",         "clock",  "session", "files", "types",
                                           "attachments", "images", "intents", "bundle"};
 
-/// What came of one request.
+/// The result of one request.
 struct Outcome {
-  bool isHeldBack;  // it has buttons, but there is no center to register them with
+  bool isBlocked;  // it has buttons, but there is no center to register them with
   Dictionary payload;
   std::vector<std::shared_ptr<const UNNotificationContent>> delivered;
 };
 
-/// Whether a push object can be made, and names a category and at least one button.
+/// Returns whether the payload has a push object with a category and at least one button.
 bool hasButtons(const Dictionary& payload) {
   try {
     if (!make<OrvantaPushObject>(payload)) return false;
@@ -92,7 +91,7 @@ class Run {
     if (outcomes_.empty()) receive();
     platform_.runAll();
     if (outcomes_.back()->delivered.empty()) {
-      require(outcomes_.back()->isHeldBack, "only buttons without a center wait for the expiry");
+      require(outcomes_.back()->isBlocked, "only buttons without a center wait for the expiry");
       expire();
     }
     requireOutcomes();
@@ -107,7 +106,7 @@ class Run {
     script_.remove_prefix(1);
     return c;
   }
-  /// The text up to a bar.
+  /// Consumes the script up to the next '|'.
   std::string argument() {
     std::string text(script_.substr(0, script_.find('|')));
     script_.remove_prefix(std::min(text.size() + 1, script_.size()));
@@ -137,7 +136,7 @@ class Run {
       if (platform_.waiting() != 0) platform_.run(c == '>' ? 0 : platform_.waiting() - 1);
     }
   }
-  /// Temporary files have names that a file system takes.
+  /// Sets the name of the temporary file, reduced to one that a file system accepts.
   void setName(std::string name) {
     std::erase_if(name, [](char c) { return c == '/' || c == '\0'; });
     if (!name.empty() && name != "." && name != "..") platform_.download.name = name;
@@ -149,7 +148,7 @@ class Run {
     if (NSBundle* bundle = platform_.mainBundle()) *content = contentForPayload(payload, *bundle);
     content->userInfo = payload;
     auto outcome = std::make_shared<Outcome>();
-    outcome->isHeldBack = platform_.currentNotificationCenter() == nullptr && hasButtons(payload);
+    outcome->isBlocked = platform_.currentNotificationCenter() == nullptr && hasButtons(payload);
     outcome->payload = payload;
     outcomes_.push_back(outcome);
     extension_->didReceiveNotificationRequest(
@@ -167,7 +166,7 @@ class Run {
   void requireOutcomes() {
     for (const auto& outcome : outcomes_) {
       const auto& delivered = outcome->delivered;
-      require(!delivered.empty() || outcome->isHeldBack, "content is delivered");
+      require(!delivered.empty() || outcome->isBlocked, "content is delivered");
       require(delivered.empty() || delivered.front() != nullptr, "the first delivery has content");
       require(delivered.size() <= 1 + expiries_ + (platform_.updateError ? 1U : 0U),
               "the steps deliver once, and once more after a failed update");

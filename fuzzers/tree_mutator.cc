@@ -10,10 +10,11 @@
 #include "orvanta/Foundation/KeyPath.h"
 #include "orvanta/Model/Mapping/Class.h"
 
-// How libFuzzer changes an input of a line and a JSON text: now and then in its bytes, else in the
-// text's tree, so that most inputs get past the JSON reader. Keys are those of the tables.
+// libFuzzer's mutator for inputs of a line and a JSON text. It mostly changes the parsed tree, so
+// that most inputs pass the JSON reader, and sometimes the bytes. Keys are taken from the class
+// tables.
 
-extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t mostSize);
+extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
 
 namespace orvanta::fuzzing {
 
@@ -90,13 +91,13 @@ class TreeMutator {
 
 }  // namespace
 
-static std::size_t mutate(std::uint8_t* data, std::size_t size, std::size_t mostSize,
+static std::size_t mutate(std::uint8_t* data, std::size_t size, std::size_t maxSize,
                           unsigned seed) {
   TreeMutator mutator(seed);
   const std::string input(reinterpret_cast<const char*>(data), size);
   const std::size_t line = input.find('\n');
   if (line == std::string::npos || mutator.below(8) == 0) {
-    return LLVMFuzzerMutate(data, size, mostSize);
+    return LLVMFuzzerMutate(data, size, maxSize);
   }
   std::string head = input.substr(0, line);
   std::string text = input.substr(line + 1);
@@ -115,10 +116,10 @@ static std::size_t mutate(std::uint8_t* data, std::size_t size, std::size_t most
     text.clear();
     writeJSON(mutator.mutated(tree), text);
   } else {
-    return LLVMFuzzerMutate(data, size, mostSize);
+    return LLVMFuzzerMutate(data, size, maxSize);
   }
   const std::string result = head + '\n' + text + tail;
-  if (result.size() > mostSize) return LLVMFuzzerMutate(data, size, mostSize);
+  if (result.size() > maxSize) return LLVMFuzzerMutate(data, size, maxSize);
   std::copy(result.begin(), result.end(), data);
   return result.size();
 }
@@ -126,6 +127,6 @@ static std::size_t mutate(std::uint8_t* data, std::size_t size, std::size_t most
 }  // namespace orvanta::fuzzing
 
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
-                                               std::size_t mostSize, unsigned int seed) {
-  return orvanta::fuzzing::mutate(data, size, mostSize, seed);
+                                               std::size_t maxSize, unsigned int seed) {
+  return orvanta::fuzzing::mutate(data, size, maxSize, seed);
 }

@@ -2,17 +2,17 @@
 
 #include <memory>
 
-#include "Contender.h"
-#include "Facts.h"
+#include "Implementation.h"
+#include "Snapshot.h"
 #include "orvanta/Foundation/JSON.h"
 
 namespace orvanta::benchmarks {
 
-/// The operations of a peer that reads into a document first, and writes from one.
+/// The operations of a peer that reads into, and writes from, a document. It defines:
 ///
 ///     Peer::Tree                          its free-form value
-///     Peer::Reading<T>(text)              reads a text into `object`, a T
-///     Peer::write(batch, out)             strips the batch, and writes its body
+///     Peer::Reading<T>(text)              parses JSON into `object`, a T
+///     Peer::write(batch, out)             strips the batch and writes its body
 template <class Peer, class T>
 Operation documentReading(std::string_view workload, const std::string& text) {
   using Reading = typename Peer::template Reading<T>;
@@ -21,7 +21,7 @@ Operation documentReading(std::string_view workload, const std::string& text) {
             const Reading reading(text);
             return (reading.object.*std::get<0>(Fields<T>::kAll).member).has_value();
           },
-          [&text] { return factOf(Reading(text).object); }};
+          [&text] { return snapshotOf(Reading(text).object); }};
 }
 
 template <class Peer>

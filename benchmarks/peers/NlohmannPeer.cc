@@ -1,4 +1,4 @@
-// nlohmann's library: a document both ways, structs filled from it by hand.
+// nlohmann's library: reads into and writes from a document; structs are filled from it directly.
 #include <nlohmann/json.hpp>
 
 #include "peers/DocumentPeer.h"
@@ -36,8 +36,8 @@ template <class T, class... F>
 void readFields(T& to, const Tree& from, const std::tuple<F...>& fields) {
   const auto readOne = [&](const auto& field) {
     if (field.key.empty()) return;
-    const auto found = from.find(field.key);
-    if (found != from.end()) read(to.*field.member, *found);
+    const auto entry = from.find(field.key);
+    if (entry != from.end()) read(to.*field.member, *entry);
   };
   std::apply([&](const auto&... field) { (readOne(field), ...); }, fields);
 }
@@ -93,15 +93,15 @@ Tree treeOf(const T& object);
 template <class T>
 void putFields(const T& object, Tree& tree) {
   eachField<T>([&](const auto& field) {
-    const auto& held = object.*field.member;
+    const auto& value = object.*field.member;
     const std::string key(field.key);
-    if constexpr (requires { *held; }) {
-      if (held) tree[key] = treeOf(*held);
+    if constexpr (requires { *value; }) {
+      if (value) tree[key] = treeOf(*value);
     } else if constexpr (std::same_as<T, ProductView> &&
-                         requires { static_cast<const Product&>(held); }) {
-      putFields(held, tree);
+                         requires { static_cast<const Product&>(value); }) {
+      putFields(value, tree);
     } else {
-      tree[key] = treeOf(held);
+      tree[key] = treeOf(value);
     }
   });
 }

@@ -1,5 +1,5 @@
-// RapidJSON: a document both ways, structs filled from it by hand. An object's free-form values
-// have a pool of their own, which outlives the document.
+// RapidJSON: reads into and writes from a document; structs are filled from it directly. An
+// object's free-form values are copied to a pool of its own, which outlives the document.
 #include <rapidjson/document.h>
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
@@ -80,8 +80,8 @@ struct Reader {
     const auto readOne = [&](const auto& field) {
       if (field.key.empty()) return;
       const Tree key(rapidjson::StringRef(field.key.data(), field.key.size()));
-      const auto found = from.FindMember(key);
-      if (found != from.MemberEnd()) read(to.*field.member, found->value);
+      const auto entry = from.FindMember(key);
+      if (entry != from.MemberEnd()) read(to.*field.member, entry->value);
     };
     std::apply([&](const auto&... field) { (readOne(field), ...); }, fields);
   }
@@ -89,7 +89,7 @@ struct Reader {
 
 // ---- Writing --------------------------------------------------------------
 
-/// Makes a document that refers to the texts of a batch.
+/// Builds a document that refers to the strings of a batch without copying them.
 struct Builder {
   Pool& pool;
 
@@ -129,14 +129,14 @@ struct Builder {
   template <class T>
   void putFields(const T& source, Tree& object) {
     eachField<T>([&](const auto& field) {
-      const auto& held = source.*field.member;
-      if constexpr (requires { *held; }) {
-        if (held) object.AddMember(reference(field.key), tree(*held), pool);
+      const auto& value = source.*field.member;
+      if constexpr (requires { *value; }) {
+        if (value) object.AddMember(reference(field.key), tree(*value), pool);
       } else if constexpr (std::same_as<T, ProductView> &&
-                           requires { static_cast<const Product&>(held); }) {
-        putFields(held, object);
+                           requires { static_cast<const Product&>(value); }) {
+        putFields(value, object);
       } else {
-        object.AddMember(reference(field.key), tree(held), pool);
+        object.AddMember(reference(field.key), tree(value), pool);
       }
     });
   }

@@ -1,13 +1,13 @@
-// The reference: simdjson's on-demand reader with hand-written structs, and a writer of our own
-// beside it, straight from the structs to the text.
+// The reference: simdjson's on-demand reader filling hand-written structs, and a writer of our own
+// that goes straight from the structs to JSON.
 #include <simdjson.h>
 
 #include <bit>
 #include <charconv>
 #include <cstring>
 
-#include "Contender.h"
-#include "Facts.h"
+#include "Implementation.h"
+#include "Snapshot.h"
 #include "orvanta/Foundation/JSON.h"
 
 namespace orvanta::benchmarks {
@@ -20,7 +20,7 @@ struct Entry;
 struct Tree {
   using List = std::vector<Tree>;
   using Map = std::vector<Entry>;
-  std::variant<std::monostate, bool, std::int64_t, double, std::string, List, Map> held;
+  std::variant<std::monostate, bool, std::int64_t, double, std::string, List, Map> data;
 };
 struct Entry {
   std::string key;
@@ -32,29 +32,29 @@ struct Entry {
 template <>
 Value valueOf(const Tree& tree) {
   return std::visit(
-      []<class T>(const T& held) -> Value {
+      []<class T>(const T& data) -> Value {
         if constexpr (std::same_as<T, std::monostate>) {
           return Value::null();
         } else if constexpr (std::same_as<T, Tree::List>) {
           Array array;
-          for (const Tree& element : held) array.append(valueOf(element));
+          for (const Tree& element : data) array.append(valueOf(element));
           return array;
         } else if constexpr (std::same_as<T, Tree::Map>) {
           Dictionary dictionary;
-          for (const auto& [key, element] : held) dictionary.set(key, valueOf(element));
+          for (const auto& [key, element] : data) dictionary.set(key, valueOf(element));
           return dictionary;
         } else {
-          return held;
+          return data;
         }
       },
-      tree.held);
+      tree.data);
 }
 
 namespace {
 
 // ---- Reading --------------------------------------------------------------
 
-/// A key of up to eight characters as one number.
+/// Packs a key of up to eight characters into one integer.
 constexpr std::uint64_t keyWord(std::string_view key) {
   std::uint64_t word = 0;
   for (std::size_t i = 0; i < key.size(); ++i) {
@@ -161,9 +161,9 @@ void readAll(Push<Tree>& to, od::object object) {
   if (!to.alert) to.alert.emplace();
   to.action.emplace();
   if (!to.defaultActionDictionary) return;
-  if (const auto* map = std::get_if<Tree::Map>(&to.defaultActionDictionary->held)) {
+  if (const auto* map = std::get_if<Tree::Map>(&to.defaultActionDictionary->data)) {
     for (const auto& [name, uri] : *map) {
-      if (name == "uri") to.action = ClickAction::of(std::get<std::string>(uri.held));
+      if (name == "uri") to.action = ClickAction::of(std::get<std::string>(uri.data));
     }
   }
 }
@@ -200,7 +200,7 @@ T readText(const simdjson::padded_string& text) {
 
 // ---- Writing --------------------------------------------------------------
 
-/// Text with room at its end for the next item.
+/// An output buffer that keeps room for the next item.
 class Writer {
  public:
   std::string_view text() const { return {text_.data(), used_}; }
@@ -256,10 +256,10 @@ class Writer {
   void value(T number) { digits(number); }
   void value(double number) {
     room(32);
-    // An amount has three decimals at most, and many are not given.
+    // Most amounts are unset or have at most three decimals.
     if (number == kNoAmount) return raw("9223372036854775808");
     if (number >= 0 && number < 1e12) {
-      // NOLINTNEXTLINE(bugprone-incorrect-roundings): what is rounded wrongly is found out
+      // NOLINTNEXTLINE(bugprone-incorrect-roundings): a wrong result is detected below
       const auto thousandths = static_cast<std::uint64_t>(number * 1000 + 0.5);
       if (static_cast<double>(thousandths) / 1000 == number) {
         digits(thousandths / 1000);
@@ -305,14 +305,14 @@ class Writer {
   template <class T>
   void fields(const T& object) {
     eachField<T>([&](const auto& field) {
-      const auto& held = object.*field.member;
-      if constexpr (requires { *held; }) {
-        if (held) key(field.key), value(*held);
+      const auto& property = object.*field.member;
+      if constexpr (requires { *property; }) {
+        if (property) key(field.key), value(*property);
       } else if constexpr (std::same_as<T, ProductView> &&
-                           requires { static_cast<const Product&>(held); }) {
-        fields(held);
+                           requires { static_cast<const Product&>(property); }) {
+        fields(property);
       } else {
-        key(field.key), value(held);
+        key(field.key), value(property);
       }
     });
   }
@@ -373,7 +373,7 @@ Operation reading(std::string_view workload, const std::string& text) {
             const T read = readText<T>(*padded);
             return (read.*std::get<0>(Fields<T>::kAll).member).has_value();
           },
-          [padded] { return factOf(readText<T>(*padded)); }};
+          [padded] { return snapshotOf(readText<T>(*padded)); }};
 }
 
 std::vector<Operation> operations(const Workloads& workloads) {

@@ -5,8 +5,8 @@
 
 namespace orvanta::benchmarks {
 
-/// A line of this process's status in KiB, -1 when it cannot be told: "VmRSS:" is the resident
-/// size, "VmHWM:" the highest so far.
+/// Returns a field of /proc/self/status in KiB, or -1 if it cannot be read: "VmRSS:" is the
+/// resident size, "VmHWM:" its peak.
 inline long statusKiB(const char* name) {
   long size = -1;
   char line[256];

@@ -1,4 +1,4 @@
-// Nothing, or with an argument the resident size of nothing.
+// Does nothing; with an argument it prints its peak resident size.
 #include "ProcessFigures.h"
 
 int main(int argc, char** /*argv*/) {

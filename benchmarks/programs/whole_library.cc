@@ -1,12 +1,12 @@
 // The extension and all classes in an otherwise empty program:
 //
 //     whole_library               does nothing
-//     whole_library all           makes the extension and an object of every class, so that the
+//     whole_library all           creates the extension and an object of every class, so that the
 //                                 linker keeps the classes and what they reach
-//     whole_library resident      the resident size of doing nothing, in KiB
-//     whole_library push FILE     nanoseconds of CPU that a process's first push takes
-//     whole_library inbox FILE    what an inbox reply adds to the resident size, in KiB; the text
-//                                 itself does not count
+//     whole_library resident      prints the peak resident size of doing nothing, in KiB
+//     whole_library push FILE     prints the CPU time of a process's first push, in nanoseconds
+//     whole_library inbox FILE    prints what an inbox reply adds to the resident size, in KiB, not
+//                                 counting the JSON text itself
 #include <ctime>
 #include <string>
 
@@ -43,23 +43,23 @@ bool read(const std::string& text) {
   return parsed.dictionary() != nullptr && orvanta::make<M>(*parsed.dictionary());
 }
 
-bool makeAll() {
-  bool made = true;
+bool createAll() {
+  bool succeeded = true;
   for (const orvanta::Class* cls : orvanta::modelClasses()) {
     const auto model = orvanta::makeModel(*cls, nullptr);
     std::string text;
-    made = model && orvanta::writeJSON(model->dictionaryValue(), text) && made;
+    succeeded = model && orvanta::writeJSON(model->dictionaryValue(), text) && succeeded;
   }
   orvanta::OrvantaNotificationServiceExtension extension;
   extension.serviceExtensionTimeWillExpire();
-  return made;
+  return succeeded;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   using orvanta::benchmarks::statusKiB;
-  if (argc == 2 && std::strcmp(argv[1], "all") == 0) return makeAll() ? 0 : 1;
+  if (argc == 2 && std::strcmp(argv[1], "all") == 0) return createAll() ? 0 : 1;
   if (argc == 2) std::printf("%ld\n", statusKiB("VmHWM:"));
   if (argc != 3) return 0;
   const std::string text = contentsOf(argv[2]);

@@ -15,7 +15,7 @@ BENCHMARK = os.path.join(BUILD, "model_benchmark")
 RECORDED = os.path.join(ROOT, "benchmarks/recorded.json")
 PROJECT, REFERENCE = "orvanta", "simdjson"
 
-# Those that all contenders run, and the parts of them that only the project is measured at.
+# Those that all implementations run, and their parts, which are measured for the project only.
 WORKLOADS = ["push", "inbox", "events"]
 PARTS = ["text to dictionary", "dictionary to push", "push to dictionary", "push to text",
          "events to dictionary"]
@@ -38,9 +38,9 @@ def instructions(row):
     return (counts[1] - counts[0]) / (many - few)
 
 
-def measured(names, *options, contender=""):
+def measured(names, *options, implementation=""):
     """Row to its figures: nanoseconds (the median), allocations and bytes asked."""
-    pattern = "^(" + "|".join(names) + ")/" + contender
+    pattern = "^(" + "|".join(names) + ")/" + implementation
     done = run(BENCHMARK, "--benchmark_format=json", "--benchmark_filter=" + pattern, *options)
     figures = {}
     for entry in json.loads(done.stdout)["benchmarks"]:
@@ -64,7 +64,7 @@ def timed(names):
 
 def counted():
     """What --record keeps and --check compares: the figures that do not depend on the moment."""
-    rows = measured(WORKLOADS + PARTS, "--benchmark_min_time=0.001", contender=PROJECT)
+    rows = measured(WORKLOADS + PARTS, "--benchmark_min_time=0.001", implementation=PROJECT)
     return {
         row.split("/")[0]: {
             "instructions": round(instructions(row)),
@@ -123,7 +123,7 @@ def print_workloads(names):
             lines.append((workload, row.split("/")[1], f"{values['ns'] / 1e3:.2f}", ratio("ns"),
                           f"{values['instructions']:.0f}", ratio("instructions"),
                           f"{values['allocations']:.0f}", f"{values['bytes']:.0f}"))
-    table(("workload", "contender", "µs", "x ref", "instructions", "x ref", "allocations",
+    table(("workload", "implementation", "µs", "x ref", "instructions", "x ref", "allocations",
            "bytes asked"), lines)
 
 

@@ -1,6 +1,6 @@
 #include <stdexcept>
 
-#include "Contender.h"
+#include "Implementation.h"
 #include "orvanta/Foundation/JSON.h"
 #include "orvanta/Model/Commerce/OrvantaLineItem.h"
 #include "orvanta/Model/Commerce/OrvantaProductViewEvent.h"
@@ -32,21 +32,21 @@ struct Unwrapped<std::optional<T>> : Unwrapped<T> {};
 template <class T>
 struct Unwrapped<std::vector<T>> : Unwrapped<T> {};
 
-/// The facts of a model, by the properties that the peers' struct has.
+/// Converts a model to a dictionary of the properties that the peers' struct has.
 template <class T>
-Value factsOf(const Value& value) {
+Value snapshotOf(const Value& value) {
   if constexpr (requires { Fields<T>::kAll; }) {
     if (const auto* model = value.as<OrvantaBaseModel>()) {
-      Dictionary facts;
+      Dictionary snapshot;
       eachField<T>([&]<class Owner, class Member>(const Field<Owner, Member>& field) {
-        facts.set(field.property,
-                  factsOf<typename Unwrapped<Member>::Type>(model->valueForKey(field.property)));
+        snapshot.set(field.property, snapshotOf<typename Unwrapped<Member>::Type>(
+                                         model->valueForKey(field.property)));
       });
-      return facts;
+      return snapshot;
     }
     if (const Array* array = value.array()) {
       Array all;
-      for (const Value& element : *array) all.append(factsOf<T>(element));
+      for (const Value& element : *array) all.append(snapshotOf<T>(element));
       return all;
     }
   }
@@ -75,11 +75,11 @@ Value valueOf(const Identifiers& identifiers);
 Value valueOf(const Product& product);
 Value valueOf(const std::vector<LineItem>& items);
 template <class T>
-Value valueOf(const std::optional<T>& held) {
-  return held ? valueOf(*held) : Value();
+Value valueOf(const std::optional<T>& optional) {
+  return optional ? valueOf(*optional) : Value();
 }
 
-/// A model whose properties have the struct's values.
+/// Creates a model with the struct's values.
 template <class M, class T>
 Ref<M> modelOf(const T& source) {
   auto model = make<M>();
@@ -114,7 +114,7 @@ Ref<OrvantaEventRequest> requestOf(const Batch& batch) {
 template <class M, class T>
 Operation reading(std::string_view workload, const std::string& text) {
   return {workload, [&text] { return static_cast<bool>(read<M>(text)); },
-          [&text] { return factsOf<T>(read<M>(text)); }};
+          [&text] { return snapshotOf<T>(read<M>(text)); }};
 }
 
 std::vector<Operation> operations(const Workloads& workloads) {
