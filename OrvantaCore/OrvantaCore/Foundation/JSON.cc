@@ -6,6 +6,7 @@
 
 #include "orvanta/Foundation/Array.h"
 #include "orvanta/Foundation/Dictionary.h"
+#include "orvanta/Foundation/internal/JSONReader.h"
 
 namespace orvanta {
 

@@ -4,10 +4,25 @@
 #include <string_view>
 #include <vector>
 
-#include "orvanta/Foundation/JSONReader.h"
 #include "orvanta/Foundation/Value.h"
 
 namespace orvanta {
+
+/// Containers nested deeper than this are refused, in reading and in writing.
+inline constexpr std::size_t kJSONDepthLimit = 512;
+
+/// Line and column of a byte of a text, both from 1; columns count characters, not bytes.
+struct TextPosition {
+  std::size_t line = 1;
+  std::size_t column = 1;
+  static TextPosition of(std::size_t offset, std::string_view text);
+};
+
+/// Why and where (offset in bytes) a text is no JSON.
+struct JSONError {
+  std::string_view reason;
+  std::size_t offset = 0;
+};
 
 /// Builds the value of a JSON text: dictionaries keep the text's order, and of a key that stands
 /// twice the last value wins at the first one's place. Nil when the text is no JSON; `error`, when

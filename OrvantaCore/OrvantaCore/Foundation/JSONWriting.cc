@@ -7,7 +7,8 @@
 #include "orvanta/Foundation/Array.h"
 #include "orvanta/Foundation/Dictionary.h"
 #include "orvanta/Foundation/JSON.h"
-#include "orvanta/Foundation/TextScan.h"
+#include "orvanta/Foundation/Number.h"
+#include "orvanta/Foundation/internal/TextScan.h"
 
 namespace orvanta {
 

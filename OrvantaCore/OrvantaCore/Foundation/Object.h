@@ -6,7 +6,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "orvanta/Foundation/Node.h"
+#include "orvanta/Foundation/internal/Node.h"
 
 namespace orvanta {
 

@@ -13,7 +13,7 @@
 
 #include "orvanta/Foundation/Date.h"
 #include "orvanta/Foundation/Object.h"
-#include "orvanta/Foundation/TextScan.h"
+#include "orvanta/Foundation/internal/TextScan.h"
 
 namespace orvanta {
 

@@ -5,7 +5,7 @@
 #include "orvanta/Foundation/Exception.h"
 #include "orvanta/Foundation/KeyPath.h"
 #include "orvanta/Foundation/Number.h"
-#include "orvanta/Model/Mapping/MappingPlan.h"
+#include "orvanta/Model/Mapping/internal/MappingPlan.h"
 #include "orvanta/Model/Mapping/OrvantaBaseModel.h"
 
 namespace orvanta {

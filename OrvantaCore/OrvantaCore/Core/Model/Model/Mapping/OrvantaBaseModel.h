@@ -6,7 +6,7 @@
 
 #include "orvanta/Foundation/AttributedString.h"
 #include "orvanta/Foundation/Exception.h"
-#include "orvanta/Model/Mapping/MappingPlan.h"
+#include "orvanta/Model/Mapping/internal/MappingPlan.h"
 #include "orvanta/Model/Mapping/OrvantaSerializableModel.h"
 #include "orvanta/Model/Mapping/Property.h"
 

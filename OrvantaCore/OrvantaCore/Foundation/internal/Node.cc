@@ -1,4 +1,4 @@
-#include "orvanta/Foundation/Node.h"
+#include "orvanta/Foundation/internal/Node.h"
 
 #include <algorithm>
 #include <new>

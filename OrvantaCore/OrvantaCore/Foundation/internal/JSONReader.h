@@ -8,26 +8,12 @@
 #include <string>
 #include <string_view>
 
+#include "orvanta/Foundation/JSON.h"
 #include "orvanta/Foundation/Number.h"
-#include "orvanta/Foundation/TextScan.h"
+#include "orvanta/Foundation/internal/TextScan.h"
+#include "orvanta/Foundation/internal/UTF8.h"
 
 namespace orvanta {
-
-/// Containers nested deeper than this are refused, in reading and in writing.
-inline constexpr std::size_t kJSONDepthLimit = 512;
-
-/// Line and column of a byte of a text, both from 1; columns count characters, not bytes.
-struct TextPosition {
-  std::size_t line = 1;
-  std::size_t column = 1;
-  static TextPosition of(std::size_t offset, std::string_view text);
-};
-
-/// Why and where (offset in bytes) a text is no JSON.
-struct JSONError {
-  std::string_view reason;
-  std::size_t offset = 0;
-};
 
 /// Reads JSON text, strictly by RFC 8259 (a byte-order mark is accepted), and tells a client what
 /// it finds. The client is any class with
@@ -84,7 +70,6 @@ class JSONReader {
   /// Skips characters that stand for themselves, checking UTF-8.
   bool skipPlain();
   bool skipMultibyte();
-  void appendUTF8(std::uint32_t code);
 
   Client& client_;
   const char* start_;
@@ -327,17 +312,8 @@ bool JSONReader<Client>::skipPlain() {
 
 template <class Client>
 bool JSONReader<Client>::skipMultibyte() {
-  const auto lead = static_cast<unsigned char>(*at_);
-  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-  // The second byte's bounds exclude overlong forms, surrogates and what lies beyond U+10FFFF.
-  const unsigned char lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-  const unsigned char highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-  bool valid = lead >= 0xC2 && lead <= 0xF4 && static_cast<std::size_t>(end_ - at_) >= length;
-  for (std::size_t i = 1; valid && i < length; ++i) {
-    const auto byte = static_cast<unsigned char>(at_[i]);
-    valid = byte >= (i == 1 ? lowest : 0x80) && byte <= (i == 1 ? highest : 0xBF);
-  }
-  if (!valid) return fail("text that is not UTF-8", at_);
+  const std::size_t length = utf8CharacterLength({at_, static_cast<std::size_t>(end_ - at_)});
+  if (length == 0) return fail("text that is not UTF-8", at_);
   at_ += length;
   return true;
 }
@@ -382,7 +358,7 @@ bool JSONReader<Client>::readEscape() {
     if (!paired) return fail("half of a surrogate pair", backslash);
     code = 0x10000 + ((code - 0xD800) << 10U) + (low - 0xDC00);
   }
-  appendUTF8(code);
+  appendUTF8(unescaped_, code);
   return true;
 }
 
@@ -393,21 +369,6 @@ bool JSONReader<Client>::readHex(std::uint32_t& unit) {
   if (result.ptr != at_ + 4) return false;
   at_ += 4;
   return true;
-}
-
-template <class Client>
-void JSONReader<Client>::appendUTF8(std::uint32_t code) {
-  const auto byte = [this](std::uint32_t bits) { unescaped_ += static_cast<char>(bits); };
-  if (code < 0x80) {
-    byte(code);
-  } else if (code < 0x800) {
-    byte(0xC0U | code >> 6U), byte(0x80U | (code & 0x3FU));
-  } else if (code < 0x10000) {
-    byte(0xE0U | code >> 12U), byte(0x80U | (code >> 6U & 0x3FU)), byte(0x80U | (code & 0x3FU));
-  } else {
-    byte(0xF0U | code >> 18U), byte(0x80U | (code >> 12U & 0x3FU));
-    byte(0x80U | (code >> 6U & 0x3FU)), byte(0x80U | (code & 0x3FU));
-  }
 }
 
 }  // namespace orvanta
