@@ -6,11 +6,14 @@
 
 #include "orvanta/Foundation/AttributedString.h"
 #include "orvanta/Foundation/Exception.h"
-#include "orvanta/Model/Mapping/internal/MappingPlan.h"
 #include "orvanta/Model/Mapping/OrvantaSerializableModel.h"
 #include "orvanta/Model/Mapping/Property.h"
 
 namespace orvanta {
+
+struct MappingEntry;
+struct MappingPlan;
+enum class Converter : std::uint8_t;
 
 /// Root of every data class: fills an object's properties from a JSON-shaped dictionary, and writes
 /// them back, by the tables that the class declares.
@@ -114,10 +117,10 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
   static const Class kClass;
 
   /// Reads a key path of a payload outside the update's catch: the undefined-key exception passes.
-  Value readByHand(const Dictionary& dictionary, std::span<const Value> keyPath,
-                   std::string_view property) const;
+  Value readKeyPath(const Dictionary& dictionary, std::span<const Value> keyPath,
+                    std::string_view property) const;
   /// Tells a recorder that a model which this one needs refused its dictionary.
-  void recordRefusedModel(std::string_view keyPath, std::string_view property) const;
+  void recordFailedModel(std::string_view keyPath, std::string_view property) const;
 
   /// For a property whose model is no entry of its own but flattened: its keys stand among this
   /// object's. Makes the model of the whole dictionary; false when it refuses, and is nil then.
@@ -129,14 +132,17 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
  private:
   struct OwnTables;
 
-  /// Whether there is something in the value to make a model of; `made` is then what stands for it.
-  static bool component(const Value& value, const Class* declared, Value& made);
-  Value componentOf(const Value& value, std::string_view property) const;
+  /// Converts nested dictionaries to models. Returns false if there were none; otherwise stores the
+  /// result in `converted`.
+  static bool convertNested(const Value& value, const Class* declared, Value& converted);
+  Value valueForComponent(const Value& value, std::string_view property) const;
   static bool convert(Value& value, Converter converter);
-  /// The plan of tables that were set on this object; empty when the class's own counts.
-  std::shared_ptr<const MappingPlan> ownPlan() const;
-  bool apply(const MappingEntry& entry, const Value& found);
-  [[gnu::cold]] void recordRefusal(const MappingEntry& entry, const Dictionary& dictionary) const;
+  /// The plan of the tables set on this object; empty if those of the class apply.
+  std::shared_ptr<const MappingPlan> ownPlan() const {
+    return ownTables_ != nullptr ? planOfOwnTables() : nullptr;
+  }
+  [[gnu::cold]] std::shared_ptr<const MappingPlan> planOfOwnTables() const;
+  bool apply(const MappingEntry& entry, const Value& input);
   Value readForWriting(const MappingEntry& entry) const;
 
   mutable std::recursive_mutex writeLock_;
@@ -169,7 +175,7 @@ template <class M>
 bool OrvantaBaseModel::updateFlattened(Held<M>& model, std::string_view property,
                                        const Dictionary* dictionary) {
   model = make<M>(&M::initWithDictionary, dictionary);
-  if (!model) recordRefusedModel("", property);
+  if (!model) recordFailedModel("", property);
   return bool(model);
 }
 

@@ -4,6 +4,7 @@
 #include "orvanta/Foundation/Description.h"
 #include "orvanta/Foundation/KeyPath.h"
 #include "orvanta/Model/Mapping/OrvantaBaseModel.h"
+#include "orvanta/Model/Mapping/internal/MappingPlan.h"
 
 namespace orvanta {
 

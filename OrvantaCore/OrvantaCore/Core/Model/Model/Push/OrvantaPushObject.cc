@@ -12,7 +12,7 @@ bool OrvantaPushObject::updateWithDictionary(const Dictionary* dictionary) {
   static const std::vector<Value> kAlertPath = splitKeyPath("aps.alert");
   static const std::vector<Value> kActionPath = splitKeyPath("_ov.act");
   const auto read = [&](std::span<const Value> keyPath, std::string_view property) {
-    return dictionary != nullptr ? readByHand(*dictionary, keyPath, property) : Value();
+    return dictionary != nullptr ? readKeyPath(*dictionary, keyPath, property) : Value();
   };
   alert_ = make<OrvantaPushObjectAlert>(&OrvantaPushObjectAlert::initWithValue,
                                         read(kAlertPath, "alert"));
@@ -27,7 +27,7 @@ bool OrvantaPushObject::updateWithDictionary(const Dictionary* dictionary) {
   if (alert_) {
     updated = Super::updateWithDictionary(dictionary);
   } else {
-    recordRefusedModel("aps.alert", "alert");
+    recordFailedModel("aps.alert", "alert");
   }
   actionDictionary_ = defaultActionDictionary_;
   return updated;

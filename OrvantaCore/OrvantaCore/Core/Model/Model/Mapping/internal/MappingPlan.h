@@ -23,10 +23,10 @@ struct MappingEntry {
   std::size_t objectOffset;  // of a property that is no scalar and read from its field, else 0
   Converter converter;
   KeyDepth depth;
-  bool takesText;     // text is assigned as it comes, to the field
-  bool sharesParent;  // the entry before has the same parent
-  Value parent;       // the first name of a path of several, else nil
-  Value child;        // and what follows it
+  bool storesStrings;  // text is assigned as it comes, to the field
+  bool sharesParent;   // the entry before has the same parent
+  Value parent;        // the first name of a path of several, else nil
+  Value child;         // and what follows it
   Value propertyName;
 
   /// Whether the property's name is a path of several.
