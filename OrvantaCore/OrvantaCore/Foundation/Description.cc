@@ -107,7 +107,7 @@ class Describer {
     indent();
     out_ += bracket;
   }
-  void indent() { out_.append(4 * std::min(level_, kMostIndents), ' '); }
+  void indent() { out_.append(4 * std::min(level_, kMaxIndents), ' '); }
 
   /// Appends a text, in quotes unless it has letters and digits only.
   void quote(std::string_view text) {

@@ -15,7 +15,7 @@ namespace orvanta {
 ///         };
 ///     }
 ///
-/// They are indented no deeper than kMostIndents levels.
+/// They are indented no deeper than kMaxIndents levels.
 std::string describe(const Value& value);
 /// The same, cut after `most` bytes where it is longer; " …" then stands for the rest, which takes
 /// no time.

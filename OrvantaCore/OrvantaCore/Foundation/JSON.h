@@ -40,10 +40,10 @@ std::vector<DuplicateKey> findDuplicateKeys(std::string_view text);
 
 /// Text for people is indented no deeper than this: a deep and wide value would otherwise become a
 /// thousand times its size.
-inline constexpr std::size_t kMostIndents = 32;
+inline constexpr std::size_t kMaxIndents = 32;
 
 struct JSONStyle {
-  /// Two spaces a level (no more than kMostIndents levels), one entry a line, " : " behind a key.
+  /// Two spaces a level (no more than kMaxIndents levels), one entry a line, " : " behind a key.
   bool pretty = false;
   /// "/" is written "\/".
   bool escapeSlashes = true;

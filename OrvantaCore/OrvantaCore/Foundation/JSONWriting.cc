@@ -107,7 +107,7 @@ class JSONWriter {
 
   char* breakLine(char* to) {
     *to++ = '\n';
-    for (std::size_t i = 0; i < std::min(depth_, kMostIndents); ++i) to = append(room(to, 2), "  ");
+    for (std::size_t i = 0; i < std::min(depth_, kMaxIndents); ++i) to = append(room(to, 2), "  ");
     return to;
   }
 

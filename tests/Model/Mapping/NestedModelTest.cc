@@ -94,7 +94,7 @@ TEST(NestedModel, AnElementThatFailsEndsTheUpdate) {
 }
 
 TEST(NestedModel, NestingIsLimitedAndOmitsOnlyTheInnermostModels) {
-  constexpr auto kMost = OrvantaBaseModel::kMostNestedModels;
+  constexpr auto kMost = OrvantaBaseModel::kMaxNestedModels;
   for (const std::size_t models : {kMost, kMost + 1}) {
     RecordingPlatform platform;
     const auto outermost =
@@ -110,7 +110,7 @@ TEST(NestedModel, NestingIsLimitedAndOmitsOnlyTheInnermostModels) {
 }
 
 TEST(NestedModel, TheNumberOfModelsInOneDictionaryIsLimited) {
-  constexpr auto kMost = OrvantaBaseModel::kMostModels;
+  constexpr auto kMost = OrvantaBaseModel::kMaxModels;
   for (const std::size_t models : {kMost, kMost + 1}) {
     RecordingPlatform platform;
     Array leaves;
@@ -130,7 +130,7 @@ TEST(NestedModel, TheNumberOfModelsInOneDictionaryIsLimited) {
 // Each push object reads its action twice, so every level doubles the work: without a limit a
 // payload of 4 KB takes ten seconds, one of 240 KB minutes.
 TEST(NestedModel, PushesInsideActionsTakeBoundedTime) {
-  for (const std::size_t elements : {std::size_t{1}, OrvantaBaseModel::kMostElements / 1000}) {
+  for (const std::size_t elements : {std::size_t{1}, OrvantaBaseModel::kMaxArrayElements / 1000}) {
     RecordingPlatform platform;
     std::string text = R"({"klazz":"OrvantaPushObject","_ov":[[)";
     for (std::size_t i = 0; i < elements; ++i) text += "{},";
@@ -141,7 +141,7 @@ TEST(NestedModel, PushesInsideActionsTakeBoundedTime) {
           text + "}}}";
     }
     modelFromJSON<OrvantaPushObject>(text);
-    EXPECT_LT(platform.log.size(), 3 * OrvantaBaseModel::kMostNamedModels) << elements;
+    EXPECT_LT(platform.log.size(), 3 * OrvantaBaseModel::kMaxModelsNamedByPayload) << elements;
   }
 }
 

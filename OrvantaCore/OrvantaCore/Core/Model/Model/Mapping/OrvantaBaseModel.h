@@ -47,20 +47,20 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
 
   // ---- Reading ----
 
-  static constexpr std::size_t kMostNestedModels = 128;
-  static constexpr std::size_t kMostModels = 100'000;
-  static constexpr std::size_t kMostNamedModels = 10'000;
-  static constexpr std::size_t kMostElements = 10'000'000;
+  static constexpr std::size_t kMaxNestedModels = 128;
+  static constexpr std::size_t kMaxModels = 100'000;
+  static constexpr std::size_t kMaxModelsNamedByPayload = 10'000;
+  static constexpr std::size_t kMaxArrayElements = 10'000'000;
 
   /// For each entry of the merged key table, in its order: looks the key path up, makes models of
   /// nested dictionaries, converts, and assigns. A missing key leaves its property alone.
   ///
   /// Answers NO for a value that a converter refuses and for an undefined key, silently; for any
   /// other error after an error line in the log. std::bad_alloc passes. In one outermost update,
-  /// models nested deeper than kMostNestedModels, more than kMostModels, more than kMostNamedModels
-  /// whose class a "klazz" names, or more than kMostElements array elements to look at (each counts
-  /// as often as it is looked at) are such an error. The lines of an update and of those inside it
-  /// show 64 KB of dictionaries in all.
+  /// models nested deeper than kMaxNestedModels, more than kMaxModels, more than
+  /// kMaxModelsNamedByPayload whose class a "klazz" names, or more than kMaxArrayElements array
+  /// elements to look at (each counts as often as it is looked at) are such an error. The lines of
+  /// an update and of those inside it show 64 KB of dictionaries in all.
   bool updateWithDictionary(const Dictionary* dictionary) override;
 
   /// A nested dictionary as a model: of the class declared for the property, else of the one that

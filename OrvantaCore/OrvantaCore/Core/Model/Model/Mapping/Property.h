@@ -207,7 +207,7 @@ struct Line {};
 /// Collects what the macros declare in the body of a class. The declarations are told apart by
 /// their line, which is the same wherever the header is included.
 struct Reflect {
-  static constexpr int kMostLines = 160;
+  static constexpr int kMaxLines = 160;
 
   struct Row {
     Property property;
@@ -239,7 +239,7 @@ struct Reflect {
   }
 
   template <class M>
-  static constexpr auto kLines = declaringLines<M>(std::make_integer_sequence<int, kMostLines>());
+  static constexpr auto kLines = declaringLines<M>(std::make_integer_sequence<int, kMaxLines>());
 
   template <class M, std::size_t... kIndex>
   static consteval auto rows(std::index_sequence<kIndex...> /*all*/) {
@@ -314,12 +314,12 @@ struct Reflect {
   _Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Winvalid-offsetof\"")
 #define ORVANTA_OFFSETS_END_ _Pragma("GCC diagnostic pop")
 
-#define ORVANTA_ROW_(key_, name_, model_, ...)                                         \
-  ORVANTA_OFFSETS_BEGIN_                                                               \
-  static consteval Reflect::Row declared(Line<__LINE__ - kFirstLine>) {                \
-    static_assert(__LINE__ - kFirstLine < Reflect::kMostLines, "class body too long"); \
-    return {__VA_ARGS__, key_, model_};                                                \
-  }                                                                                    \
+#define ORVANTA_ROW_(key_, name_, model_, ...)                                        \
+  ORVANTA_OFFSETS_BEGIN_                                                              \
+  static consteval Reflect::Row declared(Line<__LINE__ - kFirstLine>) {               \
+    static_assert(__LINE__ - kFirstLine < Reflect::kMaxLines, "class body too long"); \
+    return {__VA_ARGS__, key_, model_};                                               \
+  }                                                                                   \
   ORVANTA_OFFSETS_END_
 
 #define ORVANTA_STORED_(key_, ownership_, type_, name_, readOnly_, get_, set_, ...)        \

@@ -50,10 +50,10 @@ class UpdateBudget {
     }
   }
   static bool isExhausted() {
-    return depth_ > OrvantaBaseModel::kMostNestedModels ||
-           (depth_ != 0 && (spent_.models > OrvantaBaseModel::kMostModels ||
-                            spent_.namedModels > OrvantaBaseModel::kMostNamedModels ||
-                            spent_.elements > OrvantaBaseModel::kMostElements));
+    return depth_ > OrvantaBaseModel::kMaxNestedModels ||
+           (depth_ != 0 && (spent_.models > OrvantaBaseModel::kMaxModels ||
+                            spent_.namedModels > OrvantaBaseModel::kMaxModelsNamedByPayload ||
+                            spent_.elements > OrvantaBaseModel::kMaxArrayElements));
   }
   /// Throws the invalid-argument exception if a limit is exceeded.
   static void check() {
