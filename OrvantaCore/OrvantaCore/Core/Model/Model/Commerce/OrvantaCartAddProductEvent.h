@@ -11,7 +11,7 @@ class OrvantaCartAddProductEvent : public OrvantaBaseProductEvent {
   ORVANTA_PROPERTY("ec", assign, std::uint64_t, count, setCount)
   ORVANTA_PROPERTY("er", assign, double, basketTotal, setBasketTotal)
 
-  ORVANTA_SUBSTITUTING_INITIALISER(initWithProduct, eventWithProduct, (product), eventWithProduct,
+  ORVANTA_SUBSTITUTING_INITIALIZER(initWithProduct, eventWithProduct, (product), eventWithProduct,
                                    (count, basketTotal))
 };
 

@@ -10,7 +10,7 @@ class OrvantaCartRemoveProductEvent : public OrvantaBaseProductEvent {
 
   ORVANTA_PROPERTY("ec", assign, std::uint64_t, count, setCount)
 
-  ORVANTA_SUBSTITUTING_INITIALISER(initWithProduct, eventWithProduct, (product), eventWithProduct,
+  ORVANTA_SUBSTITUTING_INITIALIZER(initWithProduct, eventWithProduct, (product), eventWithProduct,
                                    (count))
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvanta/Model/Mapping/Initialiser.h"
+#include "orvanta/Model/Mapping/Initializer.h"
 #include "orvanta/Model/Mapping/OrvantaBaseModel.h"
 
 namespace orvanta {
@@ -18,7 +18,7 @@ class OrvantaContent : public OrvantaBaseModel {
   ORVANTA_PROPERTY("ee", copy, String, provider, setProvider)
   ORVANTA_PROPERTY("eg", strong, Array, keywords, setKeywords)
 
-  ORVANTA_INITIALISER(initWithId, init, contentId, contentName, contentType)
+  ORVANTA_INITIALIZER(initWithId, init, contentId, contentName, contentType)
   ORVANTA_FACTORY(contentWithId, initWithId, contentId, contentName, contentType)
 };
 

@@ -10,7 +10,7 @@ class OrvantaContentRateEvent : public OrvantaBaseContentEvent {
 
   ORVANTA_PROPERTY("eo", assign, std::uint64_t, rating, setRating)
 
-  ORVANTA_SUBSTITUTING_INITIALISER(initWithContent, eventWithContent, (content), eventWithContent,
+  ORVANTA_SUBSTITUTING_INITIALIZER(initWithContent, eventWithContent, (content), eventWithContent,
                                    (rating))
 };
 

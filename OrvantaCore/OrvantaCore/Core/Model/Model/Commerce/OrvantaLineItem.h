@@ -11,7 +11,7 @@ class OrvantaLineItem : public OrvantaProduct {
   ORVANTA_PROPERTY("ec", assign, std::uint64_t, count, setCount)
   ORVANTA_PROPERTY("ge", copy, String, campaignId, setCampaignId)
 
-  ORVANTA_SUBSTITUTING_INITIALISER(initWithId, productWithId, (productId, productName, price),
+  ORVANTA_SUBSTITUTING_INITIALIZER(initWithId, productWithId, (productId, productName, price),
                                    itemWithId, (count))
 };
 

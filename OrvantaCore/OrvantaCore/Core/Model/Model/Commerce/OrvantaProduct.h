@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvanta/Model/Mapping/Initialiser.h"
+#include "orvanta/Model/Mapping/Initializer.h"
 #include "orvanta/Model/Mapping/OrvantaBaseModel.h"
 
 namespace orvanta {
@@ -19,7 +19,7 @@ class OrvantaProduct : public OrvantaBaseModel {
   ORVANTA_PROPERTY("ei", copy, String, variant, setVariant)
   ORVANTA_PROPERTY("eg", strong, Array, keywords, setKeywords)
 
-  ORVANTA_INITIALISER(initWithId, init, productId, productName, price)
+  ORVANTA_INITIALIZER(initWithId, init, productId, productName, price)
   ORVANTA_FACTORY(productWithId, initWithId, productId, productName, price)
 };
 

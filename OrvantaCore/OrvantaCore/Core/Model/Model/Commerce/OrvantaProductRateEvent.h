@@ -10,7 +10,7 @@ class OrvantaProductRateEvent : public OrvantaBaseProductEvent {
 
   ORVANTA_PROPERTY("eo", assign, std::uint64_t, rating, setRating)
 
-  ORVANTA_SUBSTITUTING_INITIALISER(initWithProduct, eventWithProduct, (product), eventWithProduct,
+  ORVANTA_SUBSTITUTING_INITIALIZER(initWithProduct, eventWithProduct, (product), eventWithProduct,
                                    (rating))
 };
 

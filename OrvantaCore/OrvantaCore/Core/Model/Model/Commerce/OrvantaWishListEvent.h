@@ -10,7 +10,7 @@ class OrvantaWishListEvent : public OrvantaBaseProductEvent {
 
   ORVANTA_PROPERTY("ge", copy, String, campaignId, setCampaignId)
 
-  ORVANTA_SUBSTITUTING_INITIALISER(initWithProduct, eventWithProduct, (product), eventWithProduct,
+  ORVANTA_SUBSTITUTING_INITIALIZER(initWithProduct, eventWithProduct, (product), eventWithProduct,
                                    (campaignId))
 };
 

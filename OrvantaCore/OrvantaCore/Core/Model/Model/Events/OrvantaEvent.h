@@ -1,7 +1,7 @@
 #pragma once
 
 #include "orvanta/Model/Identity/OrvantaIdentifiers.h"
-#include "orvanta/Model/Mapping/Initialiser.h"
+#include "orvanta/Model/Mapping/Initializer.h"
 
 namespace orvanta {
 
@@ -44,7 +44,7 @@ class OrvantaEvent : public OrvantaBaseModel {
 /// Declares an initializer that stores its arguments, and the class method that creates an event
 /// with it.
 #define ORVANTA_EVENT_INITIALIZER(init_, factory_, ...) \
-  ORVANTA_INITIALISER(init_, initInternal, __VA_ARGS__) \
+  ORVANTA_INITIALIZER(init_, initInternal, __VA_ARGS__) \
   ORVANTA_FACTORY(factory_, init_, __VA_ARGS__)
 
 /// The same for an initializer that copies the properties of these names from an object of another

@@ -86,7 +86,7 @@ struct Class : ClassObject {
   std::span<const Property> properties;
   KeyTable keyPathPropertySelectorMapping;
   ClassTable keyPathClassMapping;
-  /// A new object, not initialised yet.
+  /// A new object, not initialized yet.
   OrvantaBaseModel* (*alloc)();
 
   constexpr Class(std::string_view className, const Class* parent,

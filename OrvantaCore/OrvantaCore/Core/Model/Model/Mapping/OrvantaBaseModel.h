@@ -31,7 +31,7 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
 
   // ---- Making ----
 
-  OrvantaBaseModel();  // and then an initialiser, see make
+  OrvantaBaseModel();  // and then an initializer, see make
   ~OrvantaBaseModel() override;
 
   /// initWithDictionary: without one.
@@ -41,7 +41,7 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
   bool initWithDictionary(const Dictionary* dictionary) override {
     return updateWithDictionary(dictionary);
   }
-  /// A new object of the same class, initialised from this one's dictionary; nil when that
+  /// A new object of the same class, initialized from this one's dictionary; nil when that
   /// refuses. Since dotted wire keys are written flat, their properties do not come along.
   Ref<OrvantaBaseModel> copyWithZone() const;
 
@@ -152,7 +152,7 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
 /// Makes a model of a class that is known at run time; nil when it refuses the dictionary.
 Ref<OrvantaBaseModel> makeModel(const Class& cls, const Dictionary* dictionary);
 
-/// Makes an M and initialises it with one of its initialisers, `init` unless another is named; nil
+/// Makes an M and initializes it with one of its initializers, `init` unless another is named; nil
 /// when that answers false:
 ///
 ///     auto push = make<OrvantaPushObject>(&OrvantaPushObject::initWithDictionary, &payload);
@@ -162,9 +162,9 @@ Ref<M> make() {
   return model->init() ? model : nullptr;
 }
 template <class M, class Base, class... Parameters, class... Arguments>
-Ref<M> make(bool (Base::*initialiser)(Parameters...), Arguments&&... arguments) {
+Ref<M> make(bool (Base::*initializer)(Parameters...), Arguments&&... arguments) {
   auto model = Ref<M>::adopt(new M);
-  return ((*model).*initialiser)(std::forward<Arguments>(arguments)...) ? model : nullptr;
+  return ((*model).*initializer)(std::forward<Arguments>(arguments)...) ? model : nullptr;
 }
 template <class M>
 Ref<M> make(const Dictionary& dictionary) {

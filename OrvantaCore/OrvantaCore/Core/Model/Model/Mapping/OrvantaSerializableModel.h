@@ -9,7 +9,7 @@ class OrvantaSerializableModel {
  public:
   virtual ~OrvantaSerializableModel() = default;
 
-  /// Initialises a new object from a dictionary, nullptr for none. False: there is no object.
+  /// Initializes a new object from a dictionary, nullptr for none. False: there is no object.
   virtual bool initWithDictionary(const Dictionary* dictionary) = 0;
   /// Applies a dictionary, nullptr for none, to the object. False when something was refused; what
   /// had been assigned before stays assigned.

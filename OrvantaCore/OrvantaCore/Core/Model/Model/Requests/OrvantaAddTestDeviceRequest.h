@@ -11,7 +11,7 @@ class OrvantaAddTestDeviceRequest : public OrvantaBaseRequest {
 
   ORVANTA_PROPERTY("prms", copy, String, params, setParams)
 
-  ORVANTA_INITIALISER(initWithQueryParameters, init, params)
+  ORVANTA_INITIALIZER(initWithQueryParameters, init, params)
 };
 
 }  // namespace orvanta

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "orvanta/Model/Identity/OrvantaIdentifiers.h"
-#include "orvanta/Model/Mapping/Initialiser.h"
+#include "orvanta/Model/Mapping/Initializer.h"
 #include "orvanta/Model/Mapping/OrvantaPersistenceModel.h"
 #include "orvanta/Model/Requests/OrvantaRequestPathType.h"
 #include "orvanta/Model/Requests/OrvantaRequestSpec.h"
@@ -63,7 +63,7 @@ class OrvantaBaseRequest : public OrvantaBaseModel, public OrvantaPersistenceMod
 /// and fails if that fails.
 #define ORVANTA_FILTER(Filter_)                                         \
   ORVANTA_PROPERTY(kUnmapped, strong, Filter_, filter, setFilter)       \
-  ORVANTA_INITIALISER(initWithFilter, init, filter)                     \
+  ORVANTA_INITIALIZER(initWithFilter, init, filter)                     \
   bool updateWithDictionary(const Dictionary* dictionary) override {    \
     return updateFlattened(filter_, "filter", dictionary) &&            \
            Super::updateWithDictionary(dictionary);                     \

@@ -14,7 +14,7 @@ class OrvantaDeviceInfoRequest : public OrvantaBaseRequest {
   ORVANTA_PROPERTY("device", strong, OrvantaAppAllDeviceInfo, info, setInfo,
                    OrvantaAppAllDeviceInfo)
 
-  ORVANTA_INITIALISER(initWithDeviceInfo, init, info)
+  ORVANTA_INITIALIZER(initWithDeviceInfo, init, info)
 };
 
 }  // namespace orvanta

@@ -11,7 +11,7 @@ class OrvantaRegisterPushRequest : public OrvantaBaseRequest {
 
   ORVANTA_PROPERTY("token", copy, String, deviceToken, setDeviceToken)
 
-  ORVANTA_INITIALISER(initWithDeviceToken, init, deviceToken)
+  ORVANTA_INITIALIZER(initWithDeviceToken, init, deviceToken)
 };
 
 }  // namespace orvanta

@@ -12,7 +12,7 @@ class OrvantaRemoteConfigRequest : public OrvantaBaseRequest {
 
   ORVANTA_PROPERTY("rcv", copy, String, remoteConfigVersion, setRemoteConfigVersion)
 
-  ORVANTA_INITIALISER(initWithRemoteConfigVersion, init, remoteConfigVersion)
+  ORVANTA_INITIALIZER(initWithRemoteConfigVersion, init, remoteConfigVersion)
 };
 
 }  // namespace orvanta

@@ -14,8 +14,8 @@ class OrvantaSetInboxStatusRequest : public OrvantaBaseRequest {
   ORVANTA_PROPERTY("all", assign, bool, allObjects, setAllObjects)
   ORVANTA_PROPERTY("cats", strong, Array, categories, setCategories)
 
-  ORVANTA_INITIALISER(initWithPushInstanceIds, init, pushInstanceIds, status)
-  ORVANTA_INITIALISER(initWithPushCategories, init, categories, status)
+  ORVANTA_INITIALIZER(initWithPushInstanceIds, init, pushInstanceIds, status)
+  ORVANTA_INITIALIZER(initWithPushCategories, init, categories, status)
   /// Changes all messages.
   bool initWithForAllObjectStatus(std::uint64_t status);
 };

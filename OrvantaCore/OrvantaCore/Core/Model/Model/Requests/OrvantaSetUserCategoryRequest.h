@@ -12,7 +12,7 @@ class OrvantaSetUserCategoryRequest : public OrvantaBaseRequest {
   ORVANTA_PROPERTY("ctid", assign, std::int64_t, categoryId, setCategoryId)
   ORVANTA_PROPERTY("cte", assign, bool, categoryEnabled, setCategoryEnabled)
 
-  ORVANTA_INITIALISER(initWithUserCategoryId, init, categoryId, categoryEnabled)
+  ORVANTA_INITIALIZER(initWithUserCategoryId, init, categoryId, categoryEnabled)
 };
 
 }  // namespace orvanta

@@ -11,7 +11,7 @@ class OrvantaUpdateDeviceRequest : public OrvantaBaseRequest {
 
   ORVANTA_PROPERTY("adid", copy, String, advertisingId, setAdvertisingId)
 
-  ORVANTA_INITIALISER(initWithAdvertisingId, init, advertisingId)
+  ORVANTA_INITIALIZER(initWithAdvertisingId, init, advertisingId)
 };
 
 }  // namespace orvanta

@@ -4,7 +4,7 @@
 
 #include "orvanta/Model/Mapping/OrvantaBaseModel.h"
 
-// How a model declares initialisers that store their arguments, and the class methods that make an
+// How a model declares initializers that store their arguments, and the class methods that make an
 // object with one. Parameters are written as the names of the properties that they fill, in the
 // order of the arguments; their types are those of the properties.
 
@@ -23,15 +23,15 @@
 #define ORVANTA_STORE_(name_) this->name_##_ = ORVANTA_ARGUMENT_(name_)
 #define ORVANTA_STORE_MADE_(name_) made->name_##_ = ORVANTA_ARGUMENT_(name_)
 
-/// An initialiser: runs another one without arguments, then stores its own.
-#define ORVANTA_INITIALISER(init_, first_, ...)                \
+/// An initializer: runs another one without arguments, then stores its own.
+#define ORVANTA_INITIALIZER(init_, first_, ...)                \
   bool init_(ORVANTA_EACH_(ORVANTA_PARAMETER_, __VA_ARGS__)) { \
     if (!first_()) return false;                               \
     ORVANTA_EACH_(ORVANTA_STORE_, __VA_ARGS__);                \
     return true;                                               \
   }
 
-/// A class method that makes an object with an initialiser; nil when that answers false.
+/// A class method that makes an object with an initializer; nil when that answers false.
 #define ORVANTA_FACTORY(factory_, init_, ...)                                            \
   static ::orvanta::Ref<Self> factory_(ORVANTA_EACH_(ORVANTA_PARAMETER_, __VA_ARGS__)) { \
     auto made = ::orvanta::Ref<Self>::adopt(new Self);                                   \
@@ -40,11 +40,11 @@
 
 #define ORVANTA_BARE_(...) __VA_ARGS__
 
-/// An initialiser that leaves its receiver as it is: it answers a new object of the receiver's
-/// class, made with the initialiser of the same name that the superclass has for the properties in
+/// An initializer that leaves its receiver as it is: it answers a new object of the receiver's
+/// class, made with the initializer of the same name that the superclass has for the properties in
 /// the first pair of parentheses, and given those in the second. The two class methods make an
 /// object with the one and with the other.
-#define ORVANTA_SUBSTITUTING_INITIALISER(init_, inheritedFactory_, inherited_, factory_, own_) \
+#define ORVANTA_SUBSTITUTING_INITIALIZER(init_, inheritedFactory_, inherited_, factory_, own_) \
   using Super::init_;                                                                          \
   ::orvanta::Ref<Self> init_(                                                                  \
       ORVANTA_EACH_(ORVANTA_PARAMETER_, ORVANTA_BARE_ inherited_, ORVANTA_BARE_ own_)) const { \
