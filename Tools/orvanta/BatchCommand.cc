@@ -82,8 +82,8 @@ void warn(const LineReader& reader, const OrvantaEventRequest& request, std::ost
 }
 
 void printBatch(const OrvantaEventRequest& batch, std::ostream& out) {
-  printJSON(Dictionary{{"storageId", batch.storageId().value()},
-                       {"idsContained", batch.idsContained().value()},
+  printJSON(Dictionary{{"storageId", batch.storageId().raw()},
+                       {"idsContained", batch.idsContained().raw()},
                        {"events", eventCount(batch)},
                        {"priority", batch.priority().value_or(0)},
                        {"spec", specDictionary(*batch.requestSpec())}},

@@ -9,7 +9,7 @@ ClassMetadata::ClassMetadata(const Class& cls) {
   const Value model = makeModel(cls, nullptr);
   if (const auto* event = model.as<OrvantaEvent>()) {
     isEvent = true;
-    const Held<String> code = event->eventKey();
+    const PropertyValue<String> code = event->eventKey();
     if (code.get()) eventCode.emplace(*code.get());
     priority = event->priority();
   }

@@ -9,7 +9,9 @@
 namespace orvanta::tool {
 
 Dictionary specDictionary(const OrvantaRequestSpec& spec) {
-  const auto orNull = [](const Held<String>& text) { return text ? text.value() : Value::null(); };
+  const auto orNull = [](const PropertyValue<String>& text) {
+    return text.isPresent() ? text.raw() : Value::null();
+  };
   return {{"baseURL", orNull(spec.baseURL)},
           {"path", orNull(spec.path)},
           {"HTTPMethod", orNull(spec.HTTPMethod)},

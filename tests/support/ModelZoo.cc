@@ -20,7 +20,7 @@ ORVANTA_IMPLEMENTATION(DefaultsModel)
 ORVANTA_IMPLEMENTATION(PushHolderModel)
 ORVANTA_IMPLEMENTATION(UntouchedModel)
 
-void SetterModel::setText(Held<String> text) {
+void SetterModel::setText(PropertyValue<String> text) {
   if (text.get() == "known") throw Exception(Exception::kInvalidArgument, "known trouble");
   if (text.get() == "unknown key") throw Exception::undefinedKey("SetterModel", "x", true);
   if (text.get() == "standard") throw std::runtime_error("standard trouble");

@@ -83,7 +83,7 @@ class DescendantModel : public AncestorModel {
   ORVANTA_PROPERTY("own", copy, String, own, setOwn)
   ORVANTA_PROPERTY("k", copy, String, overruled, setOverruled)
   ORVANTA_PROPERTY(kUnmapped, strong, Date, stamp, setStamp)
-  Held<String> code() const override { return "overridden"; }
+  PropertyValue<String> code() const override { return "overridden"; }
 };
 
 /// A custom setter. It throws the exception that the string names: "known", "unknown key",

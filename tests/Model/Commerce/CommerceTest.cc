@@ -95,7 +95,7 @@ TEST(CommerceEvents, AreReadFromTheFlatDictionary) {
   const LogLevel quiet(0);
   EXPECT_FALSE(event->updateWithDictionary(&invalid));
   EXPECT_EQ(event->count(), 3U);
-  EXPECT_FALSE(event->product());
+  EXPECT_FALSE(event->product().isPresent());
 }
 
 TEST(OrvantaPurchaseEvent, CountsItsLineItems) {
@@ -103,7 +103,7 @@ TEST(OrvantaPurchaseEvent, CountsItsLineItems) {
     return OrvantaLineItem::itemWithId("p", "n", 1.0, count);
   };
   const struct {
-    Held<Array> items;
+    PropertyValue<Array> items;
     std::uint64_t itemCount;
     std::uint64_t productCount;
   } rows[] = {
@@ -133,7 +133,7 @@ TEST(OrvantaPurchaseEvent, CountsItsLineItems) {
                       R"("ep":3.0,"el":4.0,"ek":"AUTUMN"})"));
   EXPECT_EQ(written["items"], parseJSON(R"([{"ec":2,"ea":"p","eb":"n","eq":1.0}])"));
   // Items that are read stay dictionaries.
-  EXPECT_EQ(make<OrvantaPurchaseEvent>(written)->lineItems().value(), written["items"]);
+  EXPECT_EQ(make<OrvantaPurchaseEvent>(written)->lineItems().raw(), written["items"]);
 }
 
 }  // namespace

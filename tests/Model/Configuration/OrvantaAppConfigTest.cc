@@ -19,7 +19,7 @@ TEST(OrvantaAppConfig, AnUpdateResetsTenPropertiesAndKeepsTheRest) {
       R"("ife":true,"ipe":true,"exe":true,"itd":true,"ept":2,"appKey":"k","ep":0,"oep":false})");
   EXPECT_TRUE(config->updateWithDictionary(all.dictionary()));
   EXPECT_EQ(config->interactiveCategories().get()->size(), 2U);
-  EXPECT_EQ(config->geofences().value(), parseJSON(R"([{"a":1}])"));
+  EXPECT_EQ(config->geofences().raw(), parseJSON(R"([{"a":1}])"));
   const Dictionary nothing;
   EXPECT_TRUE(config->updateWithDictionary(&nothing));
   Dictionary left = config->dictionaryValue();

@@ -16,8 +16,8 @@ template <class Fact>
 std::string fact(const std::string& profile, Fact (*read)()) {
   SimulatedDevice device(DeviceProfile::fromDictionary(dictionaryFromJSON(profile)));
   const PlatformOverride override(device);
-  if constexpr (std::is_same_v<Fact, Held<String>>) {
-    return read() ? toJSON(Array{read().value()}) : "nil";
+  if constexpr (std::is_same_v<Fact, PropertyValue<String>>) {
+    return read().isPresent() ? toJSON(Array{read().raw()}) : "nil";
   } else {
     return toJSON(Array{read()});
   }
@@ -91,7 +91,7 @@ struct Faulty final : Platform, CTTelephonyNetworkInfo {
 TEST(DeviceInfo, ReturnsTheFirstOfSeveralCarriersFromVersion12) {
   Faulty platform;
   platform.version = {11, 4, 1};
-  EXPECT_FALSE(Util::carrierName());
+  EXPECT_FALSE(Util::carrierName().isPresent());
   platform.version = {12, 0, 0};
   EXPECT_EQ(Util::carrierName().get(), "first");
 }

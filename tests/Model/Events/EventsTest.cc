@@ -132,8 +132,8 @@ TEST(OrvantaErrorEvent, ReferencesWeaklyWhatItReports) {
   EXPECT_TRUE(OrvantaErrorEvent::eventWithErrorMessage(nullptr, nullptr));
 
   message.reset();
-  EXPECT_FALSE(event->errorMessage());
-  EXPECT_TRUE(event->eventArray());
+  EXPECT_FALSE(event->errorMessage().isPresent());
+  EXPECT_TRUE(event->eventArray().isPresent());
   events.reset();
   EXPECT_EQ(event->dictionaryValue().size(), 2U);  // "code" and "revenue"
 
@@ -141,7 +141,7 @@ TEST(OrvantaErrorEvent, ReferencesWeaklyWhatItReports) {
   event->setErrorMessage(message);
   const Dictionary read{{"msg", "from a dictionary"}, {"evs", Array{1}}};
   EXPECT_TRUE(event->updateWithDictionary(&read));
-  EXPECT_FALSE(event->errorMessage());
+  EXPECT_FALSE(event->errorMessage().isPresent());
 }
 
 TEST(OrvantaWebViewActionEvent, ItsDataOverridesItsFields) {

@@ -33,13 +33,13 @@ TEST(ClassTables, AModelsOwnClassTableDecidesTheNestedClasses) {
   model->setValueForKey(table, "keyPathClassDictionary");
   EXPECT_EQ(model->valueForKey("keyPathClassDictionary"), Value(table));
   EXPECT_TRUE(updateFromJSON(*model, R"({"free": {"name": "a"}, "leaf": {}, "list": [{}]})"));
-  EXPECT_NE(model->free().value().as<LeafModel>(), nullptr);
-  EXPECT_NE(model->leaf().value().dictionary(), nullptr);
-  EXPECT_EQ(model->list().value(), Value(Array({Dictionary()})));
+  EXPECT_NE(model->free().raw().as<LeafModel>(), nullptr);
+  EXPECT_NE(model->leaf().raw().dictionary(), nullptr);
+  EXPECT_EQ(model->list().raw(), Value(Array({Dictionary()})));
 
   model->setValueForKey(Value(), "keyPathClassDictionary");
   EXPECT_TRUE(updateFromJSON(*model, R"({"free": {}, "leaf": {}})"));
-  EXPECT_NE(model->free().value().dictionary(), nullptr);
+  EXPECT_NE(model->free().raw().dictionary(), nullptr);
   EXPECT_NE(model->leaf().get(), nullptr);
 }
 

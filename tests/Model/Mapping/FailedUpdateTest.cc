@@ -30,7 +30,7 @@ TEST(FailedUpdate, KeepsEarlierAssignmentsAndStopsReading) {
     const Dictionary payload{{"after", "c"}, {"text", exception}, {"before", "a"}};
     EXPECT_FALSE(model->updateWithDictionary(&payload)) << exception;
     EXPECT_EQ(model->before().get(), "a") << exception;
-    EXPECT_FALSE(model->after()) << exception;
+    EXPECT_FALSE(model->after().isPresent()) << exception;
   }
 }
 

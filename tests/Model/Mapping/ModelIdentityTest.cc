@@ -47,7 +47,7 @@ TEST(ModelIdentity, ACopyOmitsDottedKeysAndUnmappedProperties) {
       modelFromJSON<DottedModel>(R"({"aps": {"sound": "s", "badge": 3}, "title": "t"})");
   const Value copy = original->copyWithZone();
   const auto* dotted = copy.as<DottedModel>();
-  EXPECT_FALSE(dotted->sound());
+  EXPECT_FALSE(dotted->sound().isPresent());
   EXPECT_EQ(dotted->badge(), 0);
   EXPECT_EQ(dotted->title().get(), "t");
 
@@ -76,7 +76,7 @@ TEST(KeyValueStoreObject, StoresAValueAndItsCreationTime) {
   platform.now = 1'500'000'000'123'456'789;
   const auto holder = OrvantaKeyValueStoreObject::objectWithValue(Array({1}));
   EXPECT_EQ(holder->creationDate().get(), Date{1500000000.123456789});
-  EXPECT_EQ(holder->value().value(), Value(Array({1})));
+  EXPECT_EQ(holder->value().raw(), Value(Array({1})));
   EXPECT_EQ(toJSON(holder->dictionaryValue()), R"({"date":1500000000123,"value":[1]})");
   EXPECT_EQ(Value(holder->copyWithZone()), Value(holder));
 }
@@ -90,7 +90,7 @@ TEST(KeyValueStoreObject, DefaultsToADateIn1970) {
   EXPECT_TRUE(updateFromJSON(*holder, R"({"date": 2000})"));
   EXPECT_TRUE(updateFromJSON(*holder, "{}"));
   EXPECT_EQ(holder->creationDate().get(), Date{2});
-  EXPECT_EQ(holder->value().value(), Value("v"));
+  EXPECT_EQ(holder->value().raw(), Value("v"));
 }
 
 TEST(KeyValueStoreObject, NeedsNoClock) {

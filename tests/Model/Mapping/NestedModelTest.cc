@@ -69,12 +69,12 @@ TEST(NestedModel, AModelThatFailsToUpdateBecomesNil) {
   const auto model = modelFromJSON<NestingModel>(R"({"leaf": {"name": "old"}, "deeper": {}})");
   RecordingPlatform platform;
   EXPECT_TRUE(updateFromJSON(*model, R"({"leaf": {"size": null}, "list": [1]})"));
-  EXPECT_FALSE(model->leaf());
+  EXPECT_FALSE(model->leaf().isPresent());
   EXPECT_EQ(platform.log.size(), 1U);  // of the leaf
-  EXPECT_TRUE(model->list());
+  EXPECT_TRUE(model->list().isPresent());
 
   EXPECT_TRUE(updateFromJSON(*model, R"({"deeper": {"leaves": [{"size": null}]}})"));
-  EXPECT_FALSE(model->deeper());
+  EXPECT_FALSE(model->deeper().isPresent());
 }
 
 TEST(NestedModel, AnElementThatFailsEndsTheUpdate) {
@@ -83,9 +83,9 @@ TEST(NestedModel, AnElementThatFailsEndsTheUpdate) {
   ASSERT_TRUE(model);
   EXPECT_FALSE(
       updateFromJSON(*model, R"({"leaves": [{}, {"size": null}], "free": 1, "leaf": {}})"));
-  EXPECT_TRUE(model->leaf());
-  EXPECT_FALSE(model->leaves());
-  EXPECT_FALSE(model->free());
+  EXPECT_TRUE(model->leaf().isPresent());
+  EXPECT_FALSE(model->leaves().isPresent());
+  EXPECT_FALSE(model->free().isPresent());
   ASSERT_EQ(platform.log.size(), 2U);  // of the element, then of its owner
   EXPECT_NE(platform.log[0].find("to class 'LeafModel'"), std::string::npos);
   EXPECT_NE(platform.log[1].find("to class 'NestingModel' : "
@@ -150,10 +150,10 @@ TEST(NestedModel, AnUndefinedKeyInAnInitializerFailsTheOwnerSilently) {
   const auto holder = make<PushHolderModel>();
   ASSERT_TRUE(holder);
   EXPECT_FALSE(updateFromJSON(*holder, R"({"push": {"aps": 1}, "after": "x"})"));
-  EXPECT_FALSE(holder->after());
+  EXPECT_FALSE(holder->after().isPresent());
   EXPECT_TRUE(platform.log.empty());
   EXPECT_TRUE(updateFromJSON(*holder, R"({"push": {"_ov": {"mu": 5}}, "after": "x"})"));
-  EXPECT_FALSE(holder->push());
+  EXPECT_FALSE(holder->push().isPresent());
 }
 
 }  // namespace

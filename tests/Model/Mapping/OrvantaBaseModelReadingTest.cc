@@ -132,14 +132,14 @@ TEST(Reading, DefaultsSetBeforeTheUpdateHoldForMissingKeys) {
 TEST(Reading, ASuperclassKeyWinsOverASubclassKey) {
   const auto model = modelFromJSON<DescendantModel>(R"({"k": "a", "own": "b"})");
   EXPECT_EQ(model->inherited().get(), "a");
-  EXPECT_FALSE(model->overruled());
+  EXPECT_FALSE(model->overruled().isPresent());
   EXPECT_EQ(model->own().get(), "b");
 }
 
 TEST(Reading, ASuperclassTypeCodeAppliesToARedeclaredProperty) {
   const auto model = modelFromJSON<DescendantModel>(R"({"s": 1000})");
-  EXPECT_EQ(model->stamp().value(), Value(1000));  // in the descendant's storage, not made a date
-  EXPECT_FALSE(model->AncestorModel::stamp());
+  EXPECT_EQ(model->stamp().raw(), Value(1000));  // in the descendant's storage, not made a date
+  EXPECT_FALSE(model->AncestorModel::stamp().isPresent());
 }
 
 TEST(Reading, AssignsComputedPropertiesOnlyThroughTheirSetter) {
@@ -155,7 +155,7 @@ TEST(Reading, ADottedPropertyPathAssignsInsideANestedObject) {
   const auto model = make<NestingModel>();
   model->setKeyPathPropertyDictionary({{"n", "leaf.name"}, {"l", "leaf"}});
   EXPECT_TRUE(updateFromJSON(*model, R"({"n": "nobody there"})"));
-  EXPECT_FALSE(model->leaf());
+  EXPECT_FALSE(model->leaf().isPresent());
 
   model->setLeaf(make<LeafModel>());
   EXPECT_TRUE(updateFromJSON(*model, R"({"n": "reached"})"));
@@ -175,7 +175,7 @@ TEST(Reading, ADottedPropertyPathConvertsLikeTheNestedObject) {
   model->setFree(make<ObjectModel>());
   model->setKeyPathPropertyDictionary({{"u", "free.url"}});
   EXPECT_TRUE(updateFromJSON(*model, R"({"u": "https://shop.example.com/"})"));
-  EXPECT_NE(model->free().value().as<ObjectModel>()->url().get(), nullptr);
+  EXPECT_NE(model->free().raw().as<ObjectModel>()->url().get(), nullptr);
   EXPECT_FALSE(updateFromJSON(*model, R"({"u": 5})"));
 }
 
@@ -191,9 +191,9 @@ TEST(Reading, UpdatesFromADictionaryThatTheModelOwns) {
   ASSERT_TRUE(model);
   updateFromJSON(*model,
                  R"({"any": {"any": {"x": "the last holder of this dictionary"}, "leaf": 1}})");
-  ASSERT_TRUE(model->updateWithDictionary(model->any().value().dictionary()));
-  EXPECT_EQ(model->any().value(), Value(Dictionary({{"x", "the last holder of this dictionary"}})));
-  EXPECT_EQ(model->leaf().value(), Value(1));
+  ASSERT_TRUE(model->updateWithDictionary(model->any().raw().dictionary()));
+  EXPECT_EQ(model->any().raw(), Value(Dictionary({{"x", "the last holder of this dictionary"}})));
+  EXPECT_EQ(model->leaf().raw(), Value(1));
 }
 
 TEST(Reading, AReplacedKeyTableAppliesFromTheNextUpdate) {

@@ -20,9 +20,9 @@ TEST(OrvantaPushObjectAction, PercentEncodesTheDeepLinkAsAHost) {
     const auto action =
         make<OrvantaPushObjectAction>(&OrvantaPushObjectAction::initWithValue, dictionary);
     ASSERT_TRUE(action);
-    EXPECT_FALSE(action->deeplinkURL());  // only on request
+    EXPECT_FALSE(action->deeplinkURL().isPresent());  // only on request
     action->setDeeplinkURLAsURL();
-    EXPECT_EQ(action->deeplinkURLString().value(), uri);
+    EXPECT_EQ(action->deeplinkURLString().raw(), uri);
     ASSERT_EQ(action->deeplinkURL().get() != nullptr, url.has_value()) << describe(uri);
     if (url) {
       EXPECT_EQ(action->deeplinkURL().get()->absoluteString(), *url);
@@ -33,10 +33,10 @@ TEST(OrvantaPushObjectAction, PercentEncodesTheDeepLinkAsAHost) {
 TEST(OrvantaPushObjectAction, ClearsTheUrlOfAnEarlierString) {
   const auto action = modelFromJSON<OrvantaPushObjectAction>(R"({"uri": "a"})");
   action->setDeeplinkURLAsURL();
-  EXPECT_TRUE(action->deeplinkURL());
+  EXPECT_TRUE(action->deeplinkURL().isPresent());
   action->setDeeplinkURLString(nullptr);
   action->setDeeplinkURLAsURL();
-  EXPECT_FALSE(action->deeplinkURL());
+  EXPECT_FALSE(action->deeplinkURL().isPresent());
 }
 
 }  // namespace

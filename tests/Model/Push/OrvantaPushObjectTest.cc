@@ -26,13 +26,13 @@ TEST(OrvantaPushObject, ReadsAPayload) {
   EXPECT_EQ(push->badge(), 18U);
   EXPECT_EQ(push->mediaAttachmentURL().get()->absoluteString(),
             "https://example.com/a.jpg?w=1&q=80");
-  EXPECT_EQ(push->customDictionary().value(), parseJSON(R"({"vip": true, "none": null})"));
+  EXPECT_EQ(push->customDictionary().raw(), parseJSON(R"({"vip": true, "none": null})"));
   EXPECT_EQ(push->inAppMessage().get()->timeToLive(), 30.0);
-  EXPECT_EQ(push->defaultActionDictionary().value(), parseJSON(R"({"uri": "shop://sale"})"));
-  EXPECT_EQ(push->actionDictionary().value(), push->defaultActionDictionary().value());
+  EXPECT_EQ(push->defaultActionDictionary().raw(), parseJSON(R"({"uri": "shop://sale"})"));
+  EXPECT_EQ(push->actionDictionary().raw(), push->defaultActionDictionary().raw());
   EXPECT_EQ(push->action().get()->deeplinkURLString().get(), "shop://sale");
   EXPECT_EQ(push->action().get()->deeplinkURL().get()->absoluteString(), "shop:%2F%2Fsale");
-  EXPECT_EQ(push->carousel().value(), parseJSON(R"([{"id": "1"}])"));
+  EXPECT_EQ(push->carousel().raw(), parseJSON(R"([{"id": "1"}])"));
   const auto* button = (*push->interactiveActions().get())[0].as<OrvantaUserNotificationAction>();
   ASSERT_NE(button, nullptr);
   EXPECT_EQ(button->title().get(), "Buy");
@@ -54,8 +54,8 @@ TEST(OrvantaPushObject, AnEmptyPayloadGivesAnEmptyAlertAndActionAndNoBadge) {
         << json;
   }
   const auto bare = make<OrvantaPushObject>();
-  EXPECT_TRUE(bare->alert());
-  EXPECT_TRUE(bare->action());
+  EXPECT_TRUE(bare->alert().isPresent());
+  EXPECT_TRUE(bare->action().isPresent());
   EXPECT_EQ(bare->badge(), kNoBadge);
 }
 
@@ -101,11 +101,11 @@ TEST(OrvantaPushObject, AnAlertThatFailsSkipsTheTable) {
       R"({"aps": {"sound": "old", "badge": 1}, "_ov": {"act": {"uri": "b"}}})");
   push->setActionDictionary(nullptr);
   EXPECT_FALSE(updateFromJSON(*push, json));
-  EXPECT_FALSE(push->alert());
+  EXPECT_FALSE(push->alert().isPresent());
   EXPECT_EQ(push->sound().get(), "old");
   EXPECT_EQ(push->badge(), kNoBadge);
   EXPECT_EQ(push->action().get()->deeplinkURLString().get(), "a");
-  EXPECT_EQ(push->actionDictionary().value(), Value(Dictionary({{"uri", "b"}})));
+  EXPECT_EQ(push->actionDictionary().raw(), Value(Dictionary({{"uri", "b"}})));
 }
 
 TEST(OrvantaPushObject, AnUpdateResetsAlertActionAndBadge) {
@@ -116,7 +116,7 @@ TEST(OrvantaPushObject, AnUpdateResetsAlertActionAndBadge) {
   EXPECT_FALSE(push->action().get()->deeplinkURLString());
   EXPECT_EQ(push->badge(), kNoBadge);
   EXPECT_EQ(push->sound().get(), "s");  // the table does not change missing keys
-  EXPECT_EQ(push->actionDictionary().value(), Value(Dictionary({{"uri", "a"}})));
+  EXPECT_EQ(push->actionDictionary().raw(), Value(Dictionary({{"uri", "a"}})));
 }
 
 // ---- The action in force ----
@@ -132,7 +132,7 @@ Value uri(const char* text) { return Dictionary({{"uri", text}}); }
 
 TEST(OrvantaPushObject, AnIdentifierSelectsTheFirstButtonThatHasIt) {
   const struct {
-    std::vector<Held<String>> identifiers;  // set in this order
+    std::vector<PropertyValue<String>> identifiers;  // set in this order
     Value selected;
   } rows[] = {
       {{}, uri("default")},
@@ -141,15 +141,15 @@ TEST(OrvantaPushObject, AnIdentifierSelectsTheFirstButtonThatHasIt) {
       {{"unknown"}, uri("default")},
       {{"a", nullptr}, uri("default")},
       {{"bare"}, Value()},
-      {{"a", Held<String>::any(Value::null())}, uri("first")},
+      {{"a", PropertyValue<String>::any(Value::null())}, uri("first")},
   };
   for (const auto& row : rows) {
     const auto push = pushWithButtons();
-    for (const Held<String>& identifier : row.identifiers) {
+    for (const PropertyValue<String>& identifier : row.identifiers) {
       push->setInteractiveActionIdentifier(identifier);
-      EXPECT_EQ(push->interactiveActionIdentifier().value(), identifier.value());
+      EXPECT_EQ(push->interactiveActionIdentifier().raw(), identifier.raw());
     }
-    EXPECT_EQ(push->actionDictionary().value(), row.selected);
+    EXPECT_EQ(push->actionDictionary().raw(), row.selected);
   }
 }
 

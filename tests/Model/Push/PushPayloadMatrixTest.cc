@@ -152,8 +152,8 @@ TEST(PushPayloadMatrix, AlertAndClickActionExistForEveryValue) {
   for (const Cell& cell : kCells) {
     const Value value = parseJSON(cell.json);
     const auto push = make<OrvantaPushObject>(Dictionary{{"aps", Dictionary{{"alert", value}}}});
-    ASSERT_TRUE(push && push->alert() && push->action()) << cell.json;
-    EXPECT_EQ(push->alert().get()->body().value(), value.isString() ? value : Value());
+    ASSERT_TRUE(push && push->alert().isPresent() && push->action().isPresent()) << cell.json;
+    EXPECT_EQ(push->alert().get()->body().raw(), value.isString() ? value : Value());
     Dictionary written = unread(push->isa());
     if (value.isString()) written.set("body", value);
     EXPECT_EQ(push->dictionaryValue(), written) << cell.json;
@@ -162,10 +162,10 @@ TEST(PushPayloadMatrix, AlertAndClickActionExistForEveryValue) {
     const auto clicked = make<OrvantaPushObject>(Dictionary{{"_ov", Dictionary{{"act", value}}}});
     ASSERT_EQ(!clicked, outcome(cell, "@", nullptr).rejectedWithLines.has_value()) << cell.json;
     if (!clicked) continue;
-    ASSERT_TRUE(clicked->alert() && clicked->action()) << cell.json;
+    ASSERT_TRUE(clicked->alert().isPresent() && clicked->action().isPresent()) << cell.json;
     const Value uri = value.dictionary() ? (*value.dictionary())["uri"] : Value();
-    EXPECT_EQ(clicked->action().get()->deeplinkURLString().value(), uri) << cell.json;
-    EXPECT_EQ(clicked->actionDictionary().value(), clicked->defaultActionDictionary().value());
+    EXPECT_EQ(clicked->action().get()->deeplinkURLString().raw(), uri) << cell.json;
+    EXPECT_EQ(clicked->actionDictionary().raw(), clicked->defaultActionDictionary().raw());
     EXPECT_TRUE(uri.isString() || !clicked->action().get()->deeplinkURL()) << cell.json;
   }
 }

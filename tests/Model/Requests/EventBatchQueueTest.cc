@@ -16,8 +16,8 @@ Ref<OrvantaEventRequest> stored(std::uint64_t storageId, std::size_t events) {
 
 /// "STORAGE ID:EVENTS[IDS CONTAINED] ".
 std::string summary(const OrvantaEventRequest& batch) {
-  return describe(batch.storageId().value()) + ":" + std::to_string(eventCount(batch)) +
-         toJSON(batch.idsContained().value()) + " ";
+  return describe(batch.storageId().raw()) + ":" + std::to_string(eventCount(batch)) +
+         toJSON(batch.idsContained().raw()) + " ";
 }
 
 TEST(EventBatchQueue, CompletesABatchAtTheLimit) {

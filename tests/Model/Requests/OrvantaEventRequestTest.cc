@@ -37,7 +37,7 @@ TEST(OrvantaEventRequest, MergesEventsUpToTheLimit) {
     EXPECT_EQ(countOf(own), row.ownAfter);
     EXPECT_EQ(countOf(other), row.theirsAfter);
     EXPECT_EQ(limitReached, row.limitReached) << row.own << " " << row.theirs;
-    EXPECT_EQ(own->idsContained().value(), Value(Array{42}));
+    EXPECT_EQ(own->idsContained().raw(), Value(Array{42}));
   }
   const auto own = batchOf(2);
   const auto other = batchOf(2);
@@ -45,7 +45,7 @@ TEST(OrvantaEventRequest, MergesEventsUpToTheLimit) {
   bool limitReached = false;
   own->mergeEventsFromEventRequest(*other, limitReached);
   EXPECT_EQ((*own->events().get())[2].as<OrvantaLoginEvent>()->userId().get(), "first");
-  EXPECT_EQ(own->idsContained().value(), Value(Array{}));  // the other was never stored
+  EXPECT_EQ(own->idsContained().raw(), Value(Array{}));  // the other was never stored
   own->setEvents(nullptr);
   own->mergeEventsFromEventRequest(*batchOf(1), limitReached);
   EXPECT_EQ(countOf(own), 1U);

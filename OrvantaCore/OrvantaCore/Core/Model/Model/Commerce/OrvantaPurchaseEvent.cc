@@ -7,7 +7,7 @@ namespace orvanta {
 ORVANTA_IMPLEMENTATION(OrvantaPurchaseEvent)
 
 bool OrvantaPurchaseEvent::initWithSubTotal(double subTotal, double grandTotal,
-                                            Held<Array> lineItems) {
+                                            PropertyValue<Array> lineItems) {
   if (!initInternal()) return false;
   subTotal_ = subTotal;
   grandTotal_ = grandTotal;
@@ -27,7 +27,7 @@ bool OrvantaPurchaseEvent::initWithSubTotal(double subTotal, double grandTotal,
 
 Ref<OrvantaPurchaseEvent> OrvantaPurchaseEvent::eventWithSubTotal(double subTotal,
                                                                   double grandTotal,
-                                                                  Held<Array> lineItems) {
+                                                                  PropertyValue<Array> lineItems) {
   return make<Self>(&Self::initWithSubTotal, subTotal, grandTotal, std::move(lineItems));
 }
 

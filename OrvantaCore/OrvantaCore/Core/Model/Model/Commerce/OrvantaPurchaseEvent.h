@@ -21,8 +21,9 @@ class OrvantaPurchaseEvent : public OrvantaEvent {
 
   /// Sets `itemCount` to the number of line items, `productCount` to the sum of their quantities
   /// (modulo 2^64), and shipping cost and discount to kNoAmount.
-  bool initWithSubTotal(double subTotal, double grandTotal, Held<Array> lineItems);
-  static Ref<Self> eventWithSubTotal(double subTotal, double grandTotal, Held<Array> lineItems);
+  bool initWithSubTotal(double subTotal, double grandTotal, PropertyValue<Array> lineItems);
+  static Ref<Self> eventWithSubTotal(double subTotal, double grandTotal,
+                                     PropertyValue<Array> lineItems);
 };
 
 }  // namespace orvanta

@@ -50,8 +50,8 @@ std::int32_t connectionTypeFor(std::string_view technology) {
   return kCellular;
 }
 
-Held<String> stringOrNil(const std::optional<std::string>& string) {
-  return string ? Held<String>(*string) : nullptr;
+PropertyValue<String> stringOrNil(const std::optional<std::string>& string) {
+  return string ? PropertyValue<String>(*string) : nullptr;
 }
 
 std::uint64_t mebibytes(std::uint64_t bytes) {
@@ -114,41 +114,41 @@ Dictionary OrvantaAppDeviceInfoUtil::infoDictionary() {
   return bundle != nullptr ? bundle->infoDictionary() : Dictionary();
 }
 
-Held<String> OrvantaAppDeviceInfoUtil::applicationVersion() {
-  return Held<String>::any(infoDictionary()["CFBundleShortVersionString"]);
+PropertyValue<String> OrvantaAppDeviceInfoUtil::applicationVersion() {
+  return PropertyValue<String>::any(infoDictionary()["CFBundleShortVersionString"]);
 }
 
-Held<String> OrvantaAppDeviceInfoUtil::appBuild() {
-  return Held<String>::any(infoDictionary()["CFBundleVersion"]);
+PropertyValue<String> OrvantaAppDeviceInfoUtil::appBuild() {
+  return PropertyValue<String>::any(infoDictionary()["CFBundleVersion"]);
 }
 
-Held<String> OrvantaAppDeviceInfoUtil::locale() {
+PropertyValue<String> OrvantaAppDeviceInfoUtil::locale() {
   NSBundle* const bundle = Platform::current().mainBundle();
   if (bundle == nullptr) return nullptr;
   const std::vector<std::string> preferred = bundle->preferredLocalizations();
-  return preferred.empty() ? nullptr : Held<String>(preferred.front());
+  return preferred.empty() ? nullptr : PropertyValue<String>(preferred.front());
 }
 
-Held<String> OrvantaAppDeviceInfoUtil::operatingSystemVersion() {
+PropertyValue<String> OrvantaAppDeviceInfoUtil::operatingSystemVersion() {
   UIDevice* const device = Platform::current().currentDevice();
-  return device != nullptr ? Held<String>(device->systemVersion()) : nullptr;
+  return device != nullptr ? PropertyValue<String>(device->systemVersion()) : nullptr;
 }
 
-Held<String> OrvantaAppDeviceInfoUtil::deviceModel() {
+PropertyValue<String> OrvantaAppDeviceInfoUtil::deviceModel() {
   SystemCalls* const calls = Platform::current().systemCalls();
   return calls != nullptr ? stringOrNil(calls->uname()) : nullptr;
 }
 
-Held<String> OrvantaAppDeviceInfoUtil::device() { return stringOrNil(machineName()); }
+PropertyValue<String> OrvantaAppDeviceInfoUtil::device() { return stringOrNil(machineName()); }
 
-Held<String> OrvantaAppDeviceInfoUtil::architecture() {
+PropertyValue<String> OrvantaAppDeviceInfoUtil::architecture() {
   const std::optional<std::int32_t> type = processorType();
   if (type == kARM64) return "arm64";
   if (type == kARM) return architectureOfARM(machineName().value_or(""));
   return nullptr;
 }
 
-Held<String> OrvantaAppDeviceInfoUtil::resolution() {
+PropertyValue<String> OrvantaAppDeviceInfoUtil::resolution() {
   UIScreen* const screen = Platform::current().mainScreen();
   if (screen == nullptr) return nullptr;
   const CGSize points = screen->boundsSize();
@@ -156,7 +156,7 @@ Held<String> OrvantaAppDeviceInfoUtil::resolution() {
   return shortDecimal(points.width * scale) + "x" + shortDecimal(points.height * scale);
 }
 
-Held<String> OrvantaAppDeviceInfoUtil::density() {
+PropertyValue<String> OrvantaAppDeviceInfoUtil::density() {
   UIScreen* const screen = Platform::current().mainScreen();
   if (screen == nullptr) return nullptr;
   return "@" + std::to_string(truncated(screen->scale())) + "x";
@@ -217,7 +217,7 @@ Ref<CTCarrier> OrvantaAppDeviceInfoUtil::getCarrier() {
   return carriers.empty() ? nullptr : carriers.front();
 }
 
-Held<String> OrvantaAppDeviceInfoUtil::carrierName() {
+PropertyValue<String> OrvantaAppDeviceInfoUtil::carrierName() {
   const Ref<CTCarrier> carrier = getCarrier();
   return carrier ? stringOrNil(carrier->carrierName()) : nullptr;
 }

@@ -21,26 +21,26 @@ class OrvantaAppDeviceInfoUtil {
   /// Info.plist of the main bundle; empty if there is none.
   static Dictionary infoDictionary();
   /// "CFBundleShortVersionString" and "CFBundleVersion", also if they are not strings.
-  static Held<String> applicationVersion();
-  static Held<String> appBuild();
+  static PropertyValue<String> applicationVersion();
+  static PropertyValue<String> appBuild();
   /// The first of the main bundle's preferred localizations.
-  static Held<String> locale();
+  static PropertyValue<String> locale();
 
   // ---- System and hardware ----
 
-  static Held<String> operatingSystemVersion();
+  static PropertyValue<String> operatingSystemVersion();
   static std::string_view operatingSystemName() { return "iOS"; }
   static std::string_view manufacturer() { return "Apple"; }
   /// "iPhone15,2", from uname.
-  static Held<String> deviceModel();
+  static PropertyValue<String> deviceModel();
   /// The same, from sysctl "hw.machine".
-  static Held<String> device();
+  static PropertyValue<String> device();
   /// "arm64", "armv7s" or "armv7"; nil for other processors.
-  static Held<String> architecture();
+  static PropertyValue<String> architecture();
   /// In pixels, width first: "1170x2532", each with up to six significant digits.
-  static Held<String> resolution();
+  static PropertyValue<String> resolution();
   /// Pixels per point, truncated to an integer: "@3x".
-  static Held<String> density();
+  static PropertyValue<String> density();
   // NOLINTNEXTLINE(readability-identifier-naming): named as the property
   static std::string_view OpenGLESversion() { return ""; }
   /// Percent; 100 if the level is unknown. Enables battery monitoring and leaves it enabled.
@@ -66,7 +66,7 @@ class OrvantaAppDeviceInfoUtil {
   static Ref<CTCarrier> getCarrier();
   /// The same carrier, in spite of the name.
   static Ref<CTCarrier> currentServiceTechnology() { return getCarrier(); }
-  static Held<String> carrierName();
+  static PropertyValue<String> carrierName();
   /// 0 not connected; 1 Wi-Fi ("en0" has an IPv4 address); cellular ("pdp_ip0" has one): 2 unknown
   /// technology, 3 GPRS, EDGE or CDMA 1x, 4 third generation, 5 LTE. An Exception
   /// of a platform service is logged as an error; the type determined so far is returned.

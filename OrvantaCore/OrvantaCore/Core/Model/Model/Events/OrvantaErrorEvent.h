@@ -13,22 +13,22 @@ namespace orvanta {
 class OrvantaErrorEvent : public OrvantaEvent {
   ORVANTA_EVENT(OrvantaErrorEvent, OrvantaEvent, "o:err")
 
-  Held<Array> eventArray() const { return ownedElsewhere<Array>(eventArray_); }
+  PropertyValue<Array> eventArray() const { return ownedElsewhere<Array>(eventArray_); }
   void setEventArray(const std::shared_ptr<const Array>& eventArray) { eventArray_ = eventArray; }
   ORVANTA_COMPUTED(
       "evs", weak, "@\"NSArray\"", eventArray,
-      [](const OrvantaBaseModel& o) { return static_cast<const Self&>(o).eventArray().value(); },
+      [](const OrvantaBaseModel& o) { return static_cast<const Self&>(o).eventArray().raw(); },
       [](OrvantaBaseModel& o, const Value& /*unowned*/) {
         static_cast<Self&>(o).setEventArray({});
       })
 
-  Held<String> errorMessage() const { return ownedElsewhere<String>(errorMessage_); }
+  PropertyValue<String> errorMessage() const { return ownedElsewhere<String>(errorMessage_); }
   void setErrorMessage(const std::shared_ptr<const std::string>& errorMessage) {
     errorMessage_ = errorMessage;
   }
   ORVANTA_COMPUTED(
       "msg", weak, "@\"NSString\"", errorMessage,
-      [](const OrvantaBaseModel& o) { return static_cast<const Self&>(o).errorMessage().value(); },
+      [](const OrvantaBaseModel& o) { return static_cast<const Self&>(o).errorMessage().raw(); },
       [](OrvantaBaseModel& o, const Value& /*unowned*/) {
         static_cast<Self&>(o).setErrorMessage({});
       })
@@ -40,9 +40,9 @@ class OrvantaErrorEvent : public OrvantaEvent {
 
  private:
   template <class T, class Owned>
-  static Held<T> ownedElsewhere(const std::weak_ptr<const Owned>& handle) {
+  static PropertyValue<T> ownedElsewhere(const std::weak_ptr<const Owned>& handle) {
     const auto owned = handle.lock();
-    return owned != nullptr ? Held<T>(*owned) : nullptr;
+    return owned != nullptr ? PropertyValue<T>(*owned) : nullptr;
   }
   std::weak_ptr<const Array> eventArray_;
   std::weak_ptr<const std::string> errorMessage_;

@@ -39,7 +39,7 @@ class OrvantaEvent : public OrvantaBaseModel {
   ORVANTA_FACTORY(event, initInternal)
 #define ORVANTA_EVENT(Self_, Super_, code_) \
   ORVANTA_ABSTRACT_EVENT(Self_, Super_)     \
-  Held<String> eventKey() const override { return std::string_view(code_); }
+  PropertyValue<String> eventKey() const override { return std::string_view(code_); }
 
 /// Declares an initializer that stores its arguments, and the class method that creates an event
 /// with it.

@@ -19,8 +19,9 @@ Ref<OrvantaPushOpenedEvent> OrvantaPushOpenedEvent::eventWithPushObject(
   return make<Self>(&Self::initWithPushObject, pushObject);
 }
 
-bool OrvantaPushOpenedEvent::initWithPushId(Held<String> pushId, Held<String> pushInstanceId,
-                                            Held<String> interactiveActionIdentifier) {
+bool OrvantaPushOpenedEvent::initWithPushId(PropertyValue<String> pushId,
+                                            PropertyValue<String> pushInstanceId,
+                                            PropertyValue<String> interactiveActionIdentifier) {
   if (!initInternal()) return false;
   pushId_ = std::move(pushId);
   pushInstanceId_ = std::move(pushInstanceId);
@@ -29,7 +30,8 @@ bool OrvantaPushOpenedEvent::initWithPushId(Held<String> pushId, Held<String> pu
 }
 
 Ref<OrvantaPushOpenedEvent> OrvantaPushOpenedEvent::eventWithPushId(
-    Held<String> pushId, Held<String> pushInstanceId, Held<String> interactiveActionId) {
+    PropertyValue<String> pushId, PropertyValue<String> pushInstanceId,
+    PropertyValue<String> interactiveActionId) {
   return make<Self>(&Self::initWithPushId, std::move(pushId), std::move(pushInstanceId),
                     std::move(interactiveActionId));
 }

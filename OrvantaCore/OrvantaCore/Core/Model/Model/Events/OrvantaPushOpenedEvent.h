@@ -17,10 +17,11 @@ class OrvantaPushOpenedEvent : public OrvantaEvent {
   /// Copies the identifiers, the identifier of the tapped button and the text that the user typed.
   bool initWithPushObject(const OrvantaPushObject* pushObject);
   static Ref<Self> eventWithPushObject(const OrvantaPushObject* pushObject);
-  bool initWithPushId(Held<String> pushId, Held<String> pushInstanceId,
-                      Held<String> interactiveActionIdentifier);
-  static Ref<Self> eventWithPushId(Held<String> pushId, Held<String> pushInstanceId,
-                                   Held<String> interactiveActionId);
+  bool initWithPushId(PropertyValue<String> pushId, PropertyValue<String> pushInstanceId,
+                      PropertyValue<String> interactiveActionIdentifier);
+  static Ref<Self> eventWithPushId(PropertyValue<String> pushId,
+                                   PropertyValue<String> pushInstanceId,
+                                   PropertyValue<String> interactiveActionId);
   std::int64_t priority() const override { return 1; }
 };
 

@@ -5,7 +5,7 @@ namespace orvanta {
 ORVANTA_IMPLEMENTATION(OrvantaWebViewActionEvent)
 
 bool OrvantaWebViewActionEvent::updateWithDictionary(const Dictionary* dictionary) {
-  eventData_ = dictionary != nullptr ? Held<Dictionary>(*dictionary) : nullptr;
+  eventData_ = dictionary != nullptr ? PropertyValue<Dictionary>(*dictionary) : nullptr;
   return Super::updateWithDictionary(dictionary);
 }
 

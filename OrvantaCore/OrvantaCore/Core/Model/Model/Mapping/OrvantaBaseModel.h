@@ -7,7 +7,7 @@
 #include "orvanta/Foundation/AttributedString.h"
 #include "orvanta/Foundation/Exception.h"
 #include "orvanta/Model/Mapping/OrvantaSerializableModel.h"
-#include "orvanta/Model/Mapping/Property.h"
+#include "orvanta/Model/Mapping/PropertyMacros.h"
 
 namespace orvanta {
 
@@ -125,7 +125,8 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
   /// For a property whose model is no entry of its own but flattened: its keys stand among this
   /// object's. Makes the model of the whole dictionary; false when it refuses, and is nil then.
   template <class M>
-  bool updateFlattened(Held<M>& model, std::string_view property, const Dictionary* dictionary);
+  bool updateFlattened(PropertyValue<M>& model, std::string_view property,
+                       const Dictionary* dictionary);
   /// The model's dictionary with this object's own entries over it, "klazz" among them.
   static Dictionary flattened(const OrvantaBaseModel* model, bool classInfo, const Dictionary& own);
 
@@ -172,11 +173,11 @@ Ref<M> make(const Dictionary& dictionary) {
 }
 
 template <class M>
-bool OrvantaBaseModel::updateFlattened(Held<M>& model, std::string_view property,
+bool OrvantaBaseModel::updateFlattened(PropertyValue<M>& model, std::string_view property,
                                        const Dictionary* dictionary) {
   model = make<M>(&M::initWithDictionary, dictionary);
-  if (!model) recordFailedModel("", property);
-  return bool(model);
+  if (!model.isPresent()) recordFailedModel("", property);
+  return model.isPresent();
 }
 
 }  // namespace orvanta

@@ -21,7 +21,7 @@ bool OrvantaKeyValueStoreObject::initWithValue(const Value& value) {
 
 bool OrvantaKeyValueStoreObject::updateWithDictionary(const Dictionary* dictionary) {
   const bool updated = Super::updateWithDictionary(dictionary);
-  if (!creationDate_) creationDate_ = Date{0.0};
+  if (!creationDate_.isPresent()) creationDate_ = Date{0.0};
   return updated;
 }
 

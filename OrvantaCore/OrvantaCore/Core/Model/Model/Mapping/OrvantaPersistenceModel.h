@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvanta/Model/Mapping/Property.h"
+#include "orvanta/Model/Mapping/PropertyValue.h"
 
 namespace orvanta {
 
@@ -10,11 +10,11 @@ class OrvantaPersistenceModel {
   virtual ~OrvantaPersistenceModel() = default;
 
   /// The key of the stored record.
-  virtual const Held<Number>& storageId() const = 0;
-  virtual void setStorageId(Held<Number> storageId) = 0;
+  virtual const PropertyValue<Number>& storageId() const = 0;
+  virtual void setStorageId(PropertyValue<Number> storageId) = 0;
   /// The keys of the records that this one carries.
-  virtual const Held<MutableArray>& idsContained() const = 0;
-  virtual void setIdsContained(Held<MutableArray> idsContained) = 0;
+  virtual const PropertyValue<MutableArray>& idsContained() const = 0;
+  virtual void setIdsContained(PropertyValue<MutableArray> idsContained) = 0;
 };
 
 }  // namespace orvanta

@@ -24,7 +24,7 @@ bool OrvantaPushObject::updateWithDictionary(const Dictionary* dictionary) {
   if (auto* action = action_.get()) action->setDeeplinkURLAsURL();
 
   bool updated = false;
-  if (alert_) {
+  if (alert_.isPresent()) {
     updated = Super::updateWithDictionary(dictionary);
   } else {
     recordFailedModel("aps.alert", "alert");
@@ -33,9 +33,9 @@ bool OrvantaPushObject::updateWithDictionary(const Dictionary* dictionary) {
   return updated;
 }
 
-void OrvantaPushObject::setInteractiveActionIdentifier(Held<String> identifier) {
+void OrvantaPushObject::setInteractiveActionIdentifier(PropertyValue<String> identifier) {
   interactiveActionIdentifier_ = std::move(identifier);
-  if (!interactiveActionIdentifier_) {
+  if (!interactiveActionIdentifier_.isPresent()) {
     actionDictionary_ = defaultActionDictionary_;
     return;
   }

@@ -15,7 +15,7 @@ void OrvantaPushObjectAction::setDeeplinkURLAsURL() {
   static constexpr CharacterSet kAllowed = CharacterSet::urlHostAllowed();
   const auto string = deeplinkURLString_.get();
   const auto url = string ? Url::parse(percentEncoded(*string, kAllowed)) : std::nullopt;
-  deeplinkURL_ = url ? Held<Url>(*url) : nullptr;
+  deeplinkURL_ = url ? PropertyValue<Url>(*url) : nullptr;
 }
 
 }  // namespace orvanta

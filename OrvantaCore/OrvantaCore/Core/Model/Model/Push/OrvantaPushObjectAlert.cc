@@ -6,7 +6,7 @@ ORVANTA_IMPLEMENTATION(OrvantaPushObjectAlert)
 
 bool OrvantaPushObjectAlert::initWithString(const Value& body) {
   if (!init()) return false;
-  body_ = Held<String>::any(body);
+  body_ = PropertyValue<String>::any(body);
   return true;
 }
 

@@ -8,8 +8,8 @@ ORVANTA_IMPLEMENTATION(OrvantaBaseRequest)
 
 namespace {
 
-Held<String> stringOrNil(std::optional<std::string_view> string) {
-  return string ? Held<String>(*string) : nullptr;
+PropertyValue<String> stringOrNil(std::optional<std::string_view> string) {
+  return string ? PropertyValue<String>(*string) : nullptr;
 }
 
 }  // namespace
@@ -38,9 +38,9 @@ Ref<OrvantaRequestSpec> OrvantaBaseRequest::requestSpec() const {
 }
 
 std::string OrvantaBaseRequest::description() const {
-  return formatted("Spec : %@\nStorage Id : %@\nContained Ids : %@",
-                   {requestSpec()->description(), describe(storageId_.value()),
-                    describe(idsContained_.value())});
+  return formatted(
+      "Spec : %@\nStorage Id : %@\nContained Ids : %@",
+      {requestSpec()->description(), describe(storageId_.raw()), describe(idsContained_.raw())});
 }
 
 }  // namespace orvanta

@@ -29,11 +29,12 @@ void OrvantaEventRequest::mergeEventsFromEventRequest(OrvantaEventRequest& other
   const auto taken = static_cast<std::size_t>(std::min<std::uint64_t>(room, theirs.size()));
   for (std::size_t i = 0; i < taken; ++i) {
     auto* event = theirs[i].as<OrvantaEvent>();
-    if (event != nullptr && !event->identifiers()) event->setIdentifiers(other.identifiers_);
+    if (event != nullptr && !event->identifiers().isPresent())
+      event->setIdentifiers(other.identifiers_);
     own.append(theirs[i]);
   }
   if (taken != 0) other.editEvents().removeFirst(taken);
-  if (other.storageId_) editIdsContained().append(other.storageId_.value());
+  if (other.storageId_.isPresent()) editIdsContained().append(other.storageId_.raw());
   limitReached = own.size() == kBatchLimit;
 }
 

@@ -21,7 +21,7 @@ std::string OrvantaRequestSpec::description() const {
   return formatted(
       "\nBase URL : %@\nPath : %@\nMethod : %@\nHeaders : %@\nBody : %@\nTimeout : %@\nPriority : "
       "%@",
-      {describe(baseURL.value()), describe(path.value()), describe(HTTPMethod.value()),
+      {describe(baseURL.raw()), describe(path.raw()), describe(HTTPMethod.raw()),
        describe(HTTPHeaders), describe(HTTPBody), fixedPoint(timeoutInterval),
        std::to_string(queuePriority)});
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvanta/Model/Mapping/Property.h"
+#include "orvanta/Model/Mapping/PropertyValue.h"
 
 namespace orvanta {
 
@@ -11,9 +11,9 @@ class OrvantaRequestSpec final : public Object {
   static constexpr const ClassObject& classObject() { return kClass; }
   const ClassObject& isa() const override { return kClass; }
 
-  Held<String> baseURL;
-  Held<String> path;
-  Held<String> HTTPMethod;
+  PropertyValue<String> baseURL;
+  PropertyValue<String> path;
+  PropertyValue<String> HTTPMethod;
   Dictionary HTTPHeaders;        // strings to strings
   Dictionary HTTPBody;           // can be written as JSON
   double timeoutInterval = 0.0;  // seconds
