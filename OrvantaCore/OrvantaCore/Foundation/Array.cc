@@ -32,21 +32,21 @@ void Array::reserve(std::size_t capacity) {
   if (capacity > size()) detach(capacity);
 }
 
-static void refuseNil(const Value& element) {
+static void requireNotNil(const Value& element) {
   if (!element.isNil()) return;
   throw Exception(Exception::kInvalidArgument,
                   "*** -[__NSArrayM insertObject:atIndex:]: object cannot be nil");
 }
 
 void Array::append(Value element) {
-  refuseNil(element);
+  requireNotNil(element);
   const bool full = node_ == nullptr || size() == node_->capacity();
   detach(full ? std::max<std::size_t>(4, 2 * size()) : size() + 1);
   const_cast<ArrayNode*>(node_)->push(std::move(element));
 }
 
 void Array::set(std::size_t index, Value element) {
-  refuseNil(element);
+  requireNotNil(element);
   detach(size());
   const_cast<ArrayNode*>(node_)->elements()[index] = std::move(element);
 }

@@ -8,7 +8,7 @@ namespace orvanta {
 
 class ArrayNode;
 
-/// An ordered list of values. A copy shares the elements until one side is changed.
+/// An ordered list of values, none of which is nil. Copies share the elements until one is changed.
 class Array {
  public:
   Array() noexcept = default;
@@ -25,15 +25,15 @@ class Array {
   bool empty() const noexcept { return size() == 0; }
   const Value* begin() const noexcept;
   const Value* end() const noexcept { return begin() + size(); }
-  /// The element, which must exist.
+  /// The element at an index below size().
   const Value& operator[](std::size_t index) const noexcept { return begin()[index]; }
 
   void reserve(std::size_t capacity);
-  /// Appends a value. A nil throws the invalid-argument exception.
+  /// Appends a value; throws the invalid-argument exception for nil.
   void append(Value element);
-  /// Replaces an element that exists; a nil throws as well.
+  /// Replaces the element at an index below size(); throws like append.
   void set(std::size_t index, Value element);
-  /// Removes that many elements (all, when there are fewer) from the front.
+  /// Removes the first `count` elements, or all if there are fewer.
   void removeFirst(std::size_t count);
 
   friend bool operator==(const Array& a, const Array& b);
@@ -42,17 +42,17 @@ class Array {
  private:
   friend class Value;
   friend class TreeBuilder;
-  /// Makes the elements this array's own, with room for that many.
+  /// Moves to an unshared node with room for `capacity` elements, unless it has one.
   void detach(std::size_t capacity);
 
   const ArrayNode* node_ = nullptr;
 };
 
-/// The elements behind an array; they follow the header.
+/// The shared contents of an array. The elements follow the header in memory.
 class ArrayNode : public Node {
  public:
   static ArrayNode* create(std::size_t capacity, Arena* arena);
-  /// Destroys the elements and frees a heap node.
+  /// Destroys the elements and frees the node, which is on the heap.
   void destroy() const noexcept;
 
   std::size_t size() const noexcept { return size_; }

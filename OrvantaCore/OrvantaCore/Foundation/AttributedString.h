@@ -7,10 +7,10 @@
 
 namespace orvanta {
 
-/// The platform's text styles that descriptions use.
+/// Those of the platform's text styles that descriptions use.
 enum class TextStyle : std::uint8_t { none, headline, body };
 
-/// A text whose runs carry attributes.
+/// A string with attributes per run.
 struct AttributedString {
   struct Run {
     std::string text;

@@ -13,7 +13,7 @@ class CharacterSet {
   static constexpr CharacterSet alphanumerics() {
     return CharacterSet("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789");
   }
-  /// The characters that a URL's host may hold.
+  /// The characters allowed in the host of a URL.
   static constexpr CharacterSet urlHostAllowed() {
     return alphanumerics().with("!$&'()*+,-.:;=[]_~");
   }
@@ -35,9 +35,9 @@ class CharacterSet {
   bool members_[256] = {};
 };
 
-/// Writes every byte outside the set as "%" and two upper-case hex digits.
-std::string percentEncoded(std::string_view text, const CharacterSet& allowed);
-/// Replaces every "%" and two hex digits by the byte; a "%" without them stays.
-std::string percentDecoded(std::string_view text);
+/// Returns a copy with '%' and two uppercase hex digits for each byte outside the set.
+std::string percentEncoded(std::string_view string, const CharacterSet& allowed);
+/// Returns a copy with the byte for each '%' and two hex digits. A '%' without them stays.
+std::string percentDecoded(std::string_view string);
 
 }  // namespace orvanta

@@ -17,7 +17,7 @@ std::string Date::description() const {
   std::int64_t days = seconds / 86400;
   std::int64_t rest = seconds % 86400;
   if (rest < 0) rest += 86400, --days;
-  // std::chrono's calendar covers the years -32767 to 32767; dates beyond it print their seconds.
+  // std::chrono's calendar covers the years -32767 to 32767; other dates are printed in seconds.
   constexpr std::int64_t kLastDay = 11'000'000;
   if (days < -kLastDay || days > kLastDay) return std::to_string(seconds) + " s since 1970";
   const std::chrono::year_month_day date{

@@ -11,13 +11,13 @@ struct Date {
 
   friend bool operator==(const Date&, const Date&) = default;
 
-  /// The date that many whole milliseconds after 1970: divided by 1000.0, nothing rounded.
+  /// The date `milliseconds` after 1970: the quotient by 1000.0, not rounded further.
   static Date fromMilliseconds(std::int64_t milliseconds) {
     return {static_cast<double>(milliseconds) / 1000.0};
   }
-  /// Seconds times 1000.0, truncated toward zero, clamped to the 64-bit range; a NaN is 0.
+  /// Milliseconds since 1970, truncated toward zero and clamped to 64 bits; 0 for NaN.
   std::int64_t milliseconds() const;
-  /// "2017-07-14 02:40:00 +0000": always UTC, the fraction dropped.
+  /// Such as "2017-07-14 02:40:00 +0000": in UTC, without the fraction of a second.
   std::string description() const;
 };
 

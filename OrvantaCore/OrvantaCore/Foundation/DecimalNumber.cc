@@ -7,14 +7,14 @@ namespace orvanta {
 
 namespace {
 
-constexpr int kLowestExponent = -128;
-constexpr int kHighestExponent = 127;
+constexpr int kMinExponent = -128;
+constexpr int kMaxExponent = 127;
 constexpr std::uint64_t kHalfLimit = 10'000'000'000'000'000'000U;  // 10^19
 
 bool isDigit(char c) noexcept { return c >= '0' && c <= '9'; }
 bool isSpace(char c) noexcept { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-/// Takes a sign off the front; true for a minus.
+/// Removes a sign from the start of a string; returns true for a minus.
 bool takeSign(std::string_view& text) noexcept {
   if (text.empty() || (text.front() != '-' && text.front() != '+')) return false;
   const bool negative = text.front() == '-';
@@ -22,7 +22,8 @@ bool takeSign(std::string_view& text) noexcept {
   return negative;
 }
 
-/// The power of ten behind a number, 0 for anything but "e", an optional sign and digits.
+/// Reads "e", an optional sign and digits; 0 for anything else. Clamped, so that it cannot
+/// overflow.
 std::int64_t exponentReading(std::string_view text) noexcept {
   if (text.empty() || (text.front() != 'e' && text.front() != 'E')) return 0;
   text.remove_prefix(1);
@@ -48,11 +49,11 @@ DecimalNumber DecimalNumber::notANumber() noexcept {
 
 DecimalNumber DecimalNumber::make(bool negative, Mantissa mantissa,
                                   std::int64_t exponent) noexcept {
-  for (; mantissa >= kLimit || (mantissa != 0 && exponent < kLowestExponent); ++exponent) {
+  for (; mantissa >= kLimit || (mantissa != 0 && exponent < kMinExponent); ++exponent) {
     mantissa /= 10;
   }
   for (; mantissa != 0 && mantissa % 10 == 0; ++exponent) mantissa /= 10;
-  for (; mantissa != 0 && exponent > kHighestExponent; --exponent) {
+  for (; mantissa != 0 && exponent > kMaxExponent; --exponent) {
     if (mantissa >= kLimit / 10) return notANumber();
     mantissa *= 10;
   }
@@ -99,7 +100,8 @@ DecimalNumber DecimalNumber::subtracting(const DecimalNumber& other) const noexc
   DecimalNumber b = other;
   b.negative_ = !b.negative_;
   if (a.mantissa_ == 0) return b;
-  // One exponent for both: the larger one falls as far as 38 digits go, then the other one rises.
+  // Give both the same exponent: lower the larger one as far as 38 digits allow, then raise the
+  // smaller one, which truncates.
   DecimalNumber& high = a.exponent_ > b.exponent_ ? a : b;
   DecimalNumber& low = a.exponent_ > b.exponent_ ? b : a;
   for (; high.exponent_ > low.exponent_ && high.mantissa_ < kLimit / 10; --high.exponent_) {
@@ -113,7 +115,8 @@ DecimalNumber DecimalNumber::subtracting(const DecimalNumber& other) const noexc
 
 DecimalNumber DecimalNumber::multiplyingBy(const DecimalNumber& other) const noexcept {
   if (nan_ || other.nan_) return notANumber();
-  // By limbs of 19 digits, the lowest first.
+  // Multiply limbs of 19 digits, the lowest first: the product has up to 76 digits, and the partial
+  // products fit in 128 bits.
   const Mantissa a[] = {mantissa_ % kHalfLimit, mantissa_ / kHalfLimit};
   const Mantissa b[] = {other.mantissa_ % kHalfLimit, other.mantissa_ / kHalfLimit};
   Mantissa product[4] = {};
@@ -150,7 +153,7 @@ DecimalNumber DecimalNumber::dividingByRoundingDown(const DecimalNumber& divisor
   Mantissa rest = mantissa_ % divisor.mantissa_;
   bool exact = true;
   for (; exponent > 0 && rest != 0 && quotient < kLimit / 10; --exponent) {
-    // The next digit: ten times the rest, added up because it need not fit.
+    // The next digit of ten times the rest, by addition because the product may not fit.
     Mantissa sum = 0;
     unsigned digit = 0;
     for (int i = 0; i < 10; ++i) {
@@ -177,7 +180,7 @@ std::int64_t DecimalNumber::longLongValue() const noexcept {
 
 std::string DecimalNumber::stringValue() const {
   if (nan_) return "NaN";
-  std::string digits(static_cast<std::size_t>(std::max(exponent_, 0)), '0');  // last one first
+  std::string digits(static_cast<std::size_t>(std::max(exponent_, 0)), '0');  // in reverse
   Mantissa left = mantissa_;
   for (int place = std::min(exponent_, 0); left != 0 || place <= 0; ++place) {
     if (place == 0 && exponent_ < 0) digits += '.';
@@ -195,7 +198,7 @@ std::strong_ordering operator<=>(const DecimalNumber& a, const DecimalNumber& b)
     return x.mantissa_ == 0 ? 0 : x.negative_ ? -1 : 1;
   };
   if (sign(a) != sign(b) || sign(a) == 0) return sign(a) <=> sign(b);
-  // Digits written out to 38 compare like the numbers once the exponents agree.
+  // With all mantissas at 38 digits, exponents compare first and mantissas second.
   const auto full = [](DecimalNumber x) {
     for (; x.mantissa_ < DecimalNumber::kLimit / 10; --x.exponent_) x.mantissa_ *= 10;
     return x;

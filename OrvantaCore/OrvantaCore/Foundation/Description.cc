@@ -17,7 +17,7 @@ bool isAlphanumeric(char c) {
   return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-/// The character at the front of valid UTF-8, which is taken off; a stray byte counts as itself.
+/// Removes and returns the first character of a UTF-8 string. A stray byte counts as a character.
 char32_t takeCharacter(std::string_view& text) {
   const auto lead = static_cast<unsigned char>(text.front());
   const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
@@ -35,10 +35,10 @@ char32_t takeCharacter(std::string_view& text) {
 
 class Describer {
  public:
-  explicit Describer(std::size_t most = std::string::npos) : most_(most) {}
+  explicit Describer(std::size_t maxBytes = std::string::npos) : maxBytes_(maxBytes) {}
 
   std::string take() {
-    if (isFull()) out_.replace(most_, std::string::npos, " …");
+    if (isFull()) out_.replace(maxBytes_, std::string::npos, " …");
     return std::move(out_);
   }
 
@@ -60,8 +60,9 @@ class Describer {
     entries.reserve(dictionary.size());
     for (const Dictionary::Entry& entry : dictionary) entries.push_back(&entry);
     const auto byKey = [](const auto* a, const auto* b) { return a->key() < b->key(); };
-    constexpr std::size_t kShortestEntry = 8;  // so no more than these are shown
-    if (const std::size_t shown = most_ / kShortestEntry + 1; shown < entries.size()) {
+    // Sort only what can be shown, so that the work is bounded like the output.
+    constexpr std::size_t kMinEntryBytes = 8;
+    if (const std::size_t shown = maxBytes_ / kMinEntryBytes + 1; shown < entries.size()) {
       const auto last = entries.begin() + static_cast<std::ptrdiff_t>(shown);
       std::nth_element(entries.begin(), last, entries.end(), byKey);
       entries.erase(last, entries.end());
@@ -90,7 +91,7 @@ class Describer {
   }
 
  private:
-  bool isFull() const { return out_.size() > most_; }
+  bool isFull() const { return out_.size() > maxBytes_; }
 
   void nested(const Value& value) {
     if (value.dictionary() != nullptr || value.array() != nullptr) indent();
@@ -109,9 +110,9 @@ class Describer {
   }
   void indent() { out_.append(4 * std::min(level_, kMaxIndents), ' '); }
 
-  /// Appends a text, in quotes unless it has letters and digits only.
+  /// Appends a string, in quotes unless it has ASCII letters and digits only.
   void quote(std::string_view text) {
-    text = text.substr(0, most_);
+    text = text.substr(0, maxBytes_);
     if (!text.empty() && std::all_of(text.begin(), text.end(), isAlphanumeric)) {
       out_ += text;
       return;
@@ -138,13 +139,14 @@ class Describer {
     }
   }
 
+  /// Appends one UTF-16 code unit as "\\Uxxxx", the way old-style property lists escape.
   void unit(char32_t code) {
     out_ += "\\U";
     for (unsigned shift = 16; shift != 0; shift -= 4) out_ += digit(code >> (shift - 4) & 15U);
   }
   static char digit(char32_t value) { return "0123456789abcdef"[value]; }
 
-  std::size_t most_;
+  std::size_t maxBytes_;
   std::string out_;
   std::size_t level_ = 0;
 };
@@ -153,7 +155,7 @@ class Describer {
 
 std::string describe(const Value& value) {
   switch (value.kind()) {
-    case Kind::nil:
+    case Kind::none:
       return "(null)";
     case Kind::null:
       return "<null>";
@@ -182,8 +184,8 @@ std::string describe(const Value& value) {
   return describer.take();
 }
 
-std::string describe(const Dictionary& dictionary, std::size_t most) {
-  Describer describer(most);
+std::string describe(const Dictionary& dictionary, std::size_t maxBytes) {
+  Describer describer(maxBytes);
   describer.describe(dictionary);
   return describer.take();
 }

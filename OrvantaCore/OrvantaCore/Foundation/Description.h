@@ -6,8 +6,9 @@
 
 namespace orvanta {
 
-/// What "%@" prints of a value: "(null)" for nil, "<null>", booleans 1 and 0, a text as it stands,
-/// an object's own description, and collections as old-style property lists with sorted keys:
+/// Returns what "%@" prints for a value: "(null)" for nil, "<null>", 1 and 0 for booleans, a string
+/// unchanged, an object's own description, and a collection as an old-style property list with
+/// sorted keys:
 ///
 ///     {
 ///         alert =     {
@@ -15,13 +16,12 @@ namespace orvanta {
 ///         };
 ///     }
 ///
-/// They are indented no deeper than kMaxIndents levels.
+/// Indentation ends at kMaxIndents levels.
 std::string describe(const Value& value);
-/// The same, cut after `most` bytes where it is longer; " …" then stands for the rest, which takes
-/// no time.
-std::string describe(const Dictionary& dictionary, std::size_t most);
+/// The same, truncated to `maxBytes` and marked with " …"; the work is bounded by `maxBytes`.
+std::string describe(const Dictionary& dictionary, std::size_t maxBytes);
 
-/// Replaces each "%@" of a format, in order, by the arguments' texts; there are as many.
+/// Replaces each "%@" in a format by the next of the arguments, of which there are as many.
 std::string formatted(std::string_view format, std::initializer_list<std::string_view> arguments);
 
 }  // namespace orvanta

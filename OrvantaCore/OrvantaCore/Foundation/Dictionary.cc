@@ -12,8 +12,9 @@ namespace {
 
 constinit const Value kNil;
 
-/// SipHash-1-3 under a key that differs from process to process: nobody can choose keys that
-/// collide. Nothing that is printed depends on it.
+/// SipHash-1-3 with a secret of the process. Payload keys come from outside, and with a known hash
+/// a sender could choose keys that collide, so that a dictionary takes quadratic time. No output
+/// depends on the hash, since entries keep the order of insertion.
 class KeyedHash {
  public:
   static std::uint64_t of(std::string_view text) noexcept {
@@ -27,7 +28,7 @@ class KeyedHash {
       std::random_device device;
       for (std::uint64_t& word : key_) word = std::uint64_t{device()} << 32 | device();
     } catch (const std::exception&) {
-      key_[0] = std::bit_cast<std::uint64_t>(this);  // at least the address is not known outside
+      key_[0] = std::bit_cast<std::uint64_t>(this);  // an address, at least not known outside
     }
   }
 
@@ -106,7 +107,7 @@ void Dictionary::detach(std::size_t capacity) {
   };
   std::unique_ptr<DictionaryNode, Destroy> own(
       DictionaryNode::create(std::max(capacity, size()), nullptr));
-  if (size() >= DictionaryNode::kIndexedSize) own->makeIndex();  // nothing is moved if that fails
+  if (size() >= DictionaryNode::kIndexedSize) own->buildIndex();  // may throw, so before any move
   for (const Entry& entry : *this) {
     Value value = isOwn ? std::move(const_cast<Value&>(entry.value)) : Value(entry.value);
     own->push(entry.keyValue, std::move(value));
@@ -121,10 +122,10 @@ void Dictionary::reserve(std::size_t capacity) {
 
 void Dictionary::set(const Value& key, Value value) {
   if (value.isNil()) return remove(*key.string());
-  const Entry* found = node_ == nullptr ? nullptr : node_->find(key);
-  if (found != nullptr) {
-    const auto position = found - begin();
-    detach(size());
+  const Entry* entry = node_ == nullptr ? nullptr : node_->find(key);
+  if (entry != nullptr) {
+    const auto position = entry - begin();
+    detach(size());  // may replace the node that `entry` points into
     const_cast<DictionaryNode*>(node_)->entries()[position].value = std::move(value);
     return;
   }
@@ -138,16 +139,16 @@ void Dictionary::appendWithRoom(Value key, Value&& value) {
 }
 
 void Dictionary::remove(std::string_view key) {
-  const Entry* found = node_ == nullptr ? nullptr : node_->find(Value(key));
-  if (found == nullptr) return;
-  const auto position = found - begin();
+  const Entry* entry = node_ == nullptr ? nullptr : node_->find(Value(key));
+  if (entry == nullptr) return;
+  const auto position = entry - begin();
   detach(size());
   auto* node = const_cast<DictionaryNode*>(node_);
   node->erase(node->entries() + position);
 }
 
 void Dictionary::addEntries(const Dictionary& other) {
-  // The other one may lie in this one's entries.
+  // `other` may be a value in this dictionary.
   const Dictionary added = other;  // NOLINT(performance-unnecessary-copy-initialization)
   reserve(size() + added.size());
   for (const Entry& entry : added) set(entry.keyValue, entry.value);
@@ -162,7 +163,7 @@ bool operator==(const Dictionary& a, const Dictionary& b) {
 }
 
 std::size_t Dictionary::hash() const {
-  std::size_t sum = size();  // entries in any order have the same sum
+  std::size_t sum = size();  // a sum, since equality ignores the order
   for (const Entry& entry : *this) sum += entry.keyValue.hash() * 31 ^ entry.value.hash();
   return sum;
 }
@@ -190,6 +191,7 @@ std::uint64_t DictionaryNode::keyHash(const Value& key) noexcept {
 const DictionaryNode::Entry* DictionaryNode::find(const Value& key) const noexcept {
   if (!index_.empty()) return findIndexed(key);
   if (key.isShared()) return findLong(key);
+  // Equal inline strings have equal bits, so two words decide.
   const Value::Bits wanted = key.bits();
   const Entry* const last = entries() + size_;
   for (const Entry* entry = entries(); entry != last; ++entry) {
@@ -218,15 +220,15 @@ const DictionaryNode::Entry* DictionaryNode::findIndexed(const Value& key) const
   }
 }
 
-void DictionaryNode::enterNewest() {
+void DictionaryNode::indexNewest() {
   if (index_.empty() || size_ == kIndexedSize) {
-    makeIndex();
+    buildIndex();
   } else {
-    enterInIndex(size_);
+    addToIndex(size_);
   }
 }
 
-void DictionaryNode::makeIndex() {
+void DictionaryNode::buildIndex() {
   if (index_.empty()) {
     const std::size_t slots = std::bit_ceil(2 * capacity_);
     void* memory = arena() != nullptr ? arena()->allocate(slots * sizeof(std::uint32_t))
@@ -234,10 +236,10 @@ void DictionaryNode::makeIndex() {
     index_ = {static_cast<std::uint32_t*>(memory), slots};
   }
   std::fill(index_.begin(), index_.end(), 0);
-  for (std::size_t position = 1; position <= size_; ++position) enterInIndex(position);
+  for (std::size_t position = 1; position <= size_; ++position) addToIndex(position);
 }
 
-void DictionaryNode::enterInIndex(std::size_t position) noexcept {
+void DictionaryNode::addToIndex(std::size_t position) noexcept {
   const std::size_t mask = index_.size() - 1;
   std::size_t slot = keyHash(entries()[position - 1].keyValue) & mask;
   while (index_[slot] != 0) slot = (slot + 1) & mask;
@@ -249,7 +251,7 @@ void DictionaryNode::erase(Entry* entry) noexcept {
   --size_;
   std::destroy_at(entries() + size_);
   if (index_.empty()) return;
-  if (size_ >= kIndexedSize) return makeIndex();
+  if (size_ >= kIndexedSize) return buildIndex();
   delete[] index_.data();
   index_ = {};
 }

@@ -10,9 +10,14 @@ namespace orvanta {
 
 class DictionaryNode;
 
-/// A map from text to values that keeps the order of insertion; replacing a key's value keeps its
-/// place. A copy shares the entries until one side is changed. Looking a key up takes constant
-/// time however the keys were chosen.
+/// A map from strings to values that keeps the order of insertion; a replaced value keeps its
+/// place. Copies share the entries until one is changed. Lookup takes constant time whatever keys
+/// an attacker chooses.
+///
+///     Dictionary payload{{"id", 7}, {"tags", Array{"a", "b"}}};
+///     payload.set("id", "seven");
+///     for (const Dictionary::Entry& entry : payload) use(entry.key(), entry.value);
+///     if (const Array* tags = payload["tags"].array()) …   // nil, not an exception, if absent
 class Dictionary {
  public:
   struct Entry {
@@ -36,29 +41,29 @@ class Dictionary {
   const Entry* begin() const noexcept;
   const Entry* end() const noexcept { return begin() + size(); }
 
-  /// The value of a key, nil when there is none; the reference lives as long as the dictionary
-  /// stays as it is.
+  /// The value for a key, nil if there is none. The reference is valid until the dictionary
+  /// changes.
   const Value& operator[](std::string_view key) const noexcept;
-  /// The same for a key that is at hand as a string value; faster.
+  /// The same for a key that is a string value already, which is faster.
   const Value& valueForKey(const Value& key) const noexcept;
-  /// The same, looking first where the hint says, which moves on behind what was found: for
-  /// looking up many keys in about the order of the entries. Begin with 0.
+  /// The same, looking at the entry number `hint` first; `hint` becomes the number after the entry
+  /// with the key. For looking up many keys in about the order of the entries, starting with 0.
   const Value& valueForKey(const Value& key, std::size_t& hint) const noexcept;
   bool contains(std::string_view key) const noexcept { return !(*this)[key].isNil(); }
 
   void reserve(std::size_t capacity);
-  /// Stores a value; a nil removes the key.
+  /// Stores a value, or removes the key if the value is nil.
   void set(const Value& key, Value value);
-  /// Stores a value that is not nil under a key that is known to be new; faster.
+  /// Stores a value that is not nil under a key that is not in the dictionary; not checked.
   inline void append(const Value& key, Value&& value);
-  /// The same with room that `reserve` made just now, in a dictionary without a copy.
+  /// The same, right after `reserve` made room and before the dictionary is copied.
   template <class V>
   inline void appendInReserve(const Value& key, V&& value);
   void remove(std::string_view key);
-  /// Stores every entry of the other dictionary over this one's.
+  /// Stores every entry of the other dictionary, replacing values of the same keys.
   void addEntries(const Dictionary& other);
 
-  /// Same keys with equal values, in whatever order.
+  /// Same keys with equal values; the order is irrelevant.
   friend bool operator==(const Dictionary& a, const Dictionary& b);
   std::size_t hash() const;
 
@@ -71,8 +76,8 @@ class Dictionary {
   const DictionaryNode* node_ = nullptr;
 };
 
-/// The entries behind a dictionary; they follow the header. From kIndexedSize entries on a hash
-/// index with a key of its own per process finds them.
+/// The shared contents of a dictionary. The entries follow the header in memory. Fewer than
+/// kIndexedSize entries are searched; more have a hash index, keyed by a secret of the process.
 class DictionaryNode : public Node {
  public:
   using Entry = Dictionary::Entry;
@@ -89,28 +94,29 @@ class DictionaryNode : public Node {
   Entry* find(const Value& key) noexcept {
     return const_cast<Entry*>(static_cast<const DictionaryNode*>(this)->find(key));
   }
-  /// Appends an entry whose key is known to be new.
+  /// Appends an entry whose key the node does not have; there is room.
   template <class Key, class V>
   void push(Key&& key, V&& value) {
     new (entries() + size_) Entry{Value(std::forward<Key>(key)), Value(std::forward<V>(value))};
-    if (++size_ >= kIndexedSize) enterNewest();
+    if (++size_ >= kIndexedSize) indexNewest();
   }
   void erase(Entry* entry) noexcept;
-  /// Makes the hash index, or makes it anew.
-  void makeIndex();
+  /// Builds or rebuilds the hash index.
+  void buildIndex();
 
  private:
   DictionaryNode(std::size_t capacity, Arena* arena) noexcept : Node(arena), capacity_(capacity) {}
   const Entry* findLong(const Value& key) const noexcept;
   const Entry* findIndexed(const Value& key) const noexcept;
-  void enterNewest();
-  void enterInIndex(std::size_t position) noexcept;
+  void indexNewest();
+  void addToIndex(std::size_t position) noexcept;
   static std::uint64_t keyHash(const Value& key) noexcept;
 
   std::size_t size_ = 0;
   std::size_t capacity_;
-  std::span<std::uint32_t> index_;  // position + 1, 0 = free; a power of two of at least twice
-                                    // the capacity; from the arena or the heap like the node
+  // Open addressing over 1 + the number of an entry, 0 where free. The size is a power of two, at
+  // least twice the capacity. Allocated where the node is: in the arena or on the heap.
+  std::span<std::uint32_t> index_;
 };
 
 inline std::size_t Dictionary::size() const noexcept {
@@ -135,15 +141,15 @@ inline void Dictionary::appendInReserve(const Value& key, V&& value) {
 
 inline const Value& Dictionary::valueForKey(const Value& key, std::size_t& hint) const noexcept {
   if (hint < size() && begin()[hint].keyValue.hasSameBits(key)) return begin()[hint++].value;
-  const Value& found = valueForKey(key);
-  if (!found.isNil()) {
-    // Values stand in entries, so the place of one tells that of the other.
-    hint = static_cast<std::size_t>(reinterpret_cast<const std::byte*>(&found) -
+  const Value& value = valueForKey(key);
+  if (!value.isNil()) {
+    // The value is a member of its entry, so its address gives the entry's number.
+    hint = static_cast<std::size_t>(reinterpret_cast<const std::byte*>(&value) -
                                     reinterpret_cast<const std::byte*>(begin())) /
                sizeof(Entry) +
            1;
   }
-  return found;
+  return value;
 }
 
 inline const Dictionary* Value::dictionary() const noexcept {

@@ -7,13 +7,13 @@
 
 namespace orvanta {
 
-/// An error inside the component, under the platform's exception name. None crosses the
-/// component's entry points; headers name the calls that let one pass.
+/// An error inside the component, named like the platform's exception. The component's entry points
+/// catch it; every call that can throw it says so in its header.
 class Exception : public std::exception {
  public:
-  /// A key that the object does not have, or a key path through a value that has no keys.
+  /// The object does not have the key, or a key path goes through a value that has no keys.
   static constexpr std::string_view kUndefinedKey = "NSUnknownKeyException";
-  /// A value that the operation cannot take.
+  /// The operation does not accept the value.
   static constexpr std::string_view kInvalidArgument = "NSInvalidArgumentException";
 
   Exception(std::string_view name, std::string reason) : name_(name), reason_(std::move(reason)) {}
@@ -23,8 +23,7 @@ class Exception : public std::exception {
   const std::string& reason() const noexcept { return reason_; }
   const char* what() const noexcept override { return reason_.c_str(); }
 
-  /// "[<Class> valueForUndefinedKey:]: …" or, for a write, "[<Class> setValue:forUndefinedKey:]:
-  /// …".
+  /// "[<Class> valueForUndefinedKey:]: …"; for a write "[<Class> setValue:forUndefinedKey:]: …".
   static Exception undefinedKey(std::string_view className, std::string_view key, bool writing);
   /// "-[Class selector]: unrecognized selector sent to instance".
   static Exception unrecognizedSelector(std::string_view className, std::string_view selector);

@@ -8,55 +8,65 @@
 
 namespace orvanta {
 
-/// Containers nested deeper than this are refused, in reading and in writing.
+/// Containers may be nested this deep, in reading and in writing.
 inline constexpr std::size_t kJSONDepthLimit = 512;
 
-/// Line and column of a byte of a text, both from 1; columns count characters, not bytes.
+/// Line and column of a byte in a string, from 1. Columns count characters, not bytes.
 struct TextPosition {
   std::size_t line = 1;
   std::size_t column = 1;
-  static TextPosition of(std::size_t offset, std::string_view text);
+  static TextPosition of(std::size_t offset, std::string_view string);
 };
 
-/// Why and where (offset in bytes) a text is no JSON.
+/// Why a string is not JSON, and where.
 struct JSONError {
   std::string_view reason;
-  std::size_t offset = 0;
+  std::size_t offset = 0;  // in bytes
 };
 
-/// Builds the value of a JSON text: dictionaries keep the text's order, and of a key that stands
-/// twice the last value wins at the first one's place. Nil when the text is no JSON; `error`, when
-/// given, then tells why. Everything is carved from one arena that any part of the result keeps.
+/// Parses JSON text, strictly by RFC 8259; a byte-order mark is accepted. Dictionaries keep the
+/// order of the text; a duplicate key keeps its first place and its last value. Returns nil and
+/// sets `error` if the text is not JSON. All nodes are allocated from one arena, which any part of
+/// the result keeps alive.
+///
+///     JSONError error;
+///     const Value payload = parseJSON(text, &error);
+///     if (payload.isNil()) {
+///       const auto [line, column] = TextPosition::of(error.offset, text);
+///       …
+///     }
+///     std::string written;
+///     if (!writeJSON(payload, written, {.pretty = true})) …
 Value parseJSON(std::string_view text, JSONError* error = nullptr);
 
-/// A key that its dictionary has had before.
+/// A key that occurs earlier in the same dictionary. Offsets are in bytes.
 struct DuplicateKey {
   std::string key;
   std::size_t firstOffset;
   std::size_t offset;
 };
-/// The keys that stand twice in the same dictionary of a text, up to its end or first error.
+/// Returns the duplicate keys of JSON text, up to its end or its first error.
 std::vector<DuplicateKey> findDuplicateKeys(std::string_view text);
 
-/// Text for people is indented no deeper than this: a deep and wide value would otherwise become a
-/// thousand times its size.
+/// Levels of indentation in readable output. Without a limit the output of a deep and wide value
+/// would be a thousand times its size.
 inline constexpr std::size_t kMaxIndents = 32;
 
 struct JSONStyle {
-  /// Two spaces a level (no more than kMaxIndents levels), one entry a line, " : " behind a key.
+  /// Two spaces a level (up to kMaxIndents levels), one entry a line, " : " after a key.
   bool pretty = false;
-  /// "/" is written "\/".
+  /// Writes "/" as "\/".
   bool escapeSlashes = true;
   std::size_t depthLimit = kJSONDepthLimit;
 };
 
-/// Appends the text of a value: only null, numbers, texts, arrays and dictionaries, finite numbers,
-/// nested no deeper than the
-/// limit. Numbers get the shortest text that reads back as the same number;
-/// a float is widened first. False, with part of the text appended, for anything else.
+/// Appends a value as JSON text. Numbers are written in the shortest form that parses to the same
+/// number; a float is widened to a double first. Returns false if the value contains anything but
+/// null, finite numbers, strings, arrays and dictionaries, or is nested too deep; part of the text
+/// is appended then.
 bool writeJSON(const Value& value, std::string& out, JSONStyle style = {});
 
-/// Whether a text can be made of the value: an array or a dictionary that writeJSON takes.
+/// Returns whether the value is an array or a dictionary that writeJSON accepts.
 bool isValidJSONObject(const Value& value);
 
 }  // namespace orvanta

@@ -14,9 +14,10 @@ namespace orvanta {
 
 namespace {
 
-/// Writes into a buffer that is appended to the text whenever it is full. Where the next byte goes
-/// is handed from function to function, which keeps it out of memory. Each leaves room for a few
-/// more bytes behind what it wrote, so that punctuation needs no asking.
+/// Writes to a buffer on the stack and appends it to the output whenever it is full. The position
+/// is passed from function to function as `to`, since a member would be loaded and stored for every
+/// byte. Every function leaves kPunctuation bytes free after its output, so that brackets, commas
+/// and colons are written without a check.
 class JSONWriter {
  public:
   JSONWriter(std::string& out, JSONStyle style) : out_(out), style_(style) {}
@@ -29,24 +30,25 @@ class JSONWriter {
 
  private:
   static constexpr std::size_t kPunctuation = 16;
-  static constexpr std::size_t kLongestNumber = 32;
-  static constexpr std::size_t kLongestPart = 512;  // of a string, as it is read
+  static constexpr std::size_t kMaxNumber = 32;
+  static constexpr std::size_t kMaxPart = 512;  // bytes of a string that are written at a time
 
   char* flush(char* to) {
     out_.append(buffer_, to);
     return buffer_;
   }
-  /// Where that many bytes, and some punctuation, can be written.
+  /// Returns a position with room for `bytes` and punctuation.
   char* room(char* to, std::size_t bytes) {
     const auto left = static_cast<std::size_t>(std::end(buffer_) - to);
     return left < bytes + kPunctuation ? flush(to) : to;
   }
-  static char* append(char* to, std::string_view few) {
-    std::memcpy(to, few.data(), few.size());
-    return to + few.size();
+  static char* append(char* to, std::string_view string) {
+    std::memcpy(to, string.data(), string.size());
+    return to + string.size();
   }
 
-  /// Answers where the value's text ends; nullptr when there is none.
+  /// Returns the end of the output, or nullptr if the value cannot be written. Strings come first:
+  /// most values are strings.
   char* write(const Value& value, char* to) {
     return value.isString() ? writeString(*value.string(), to) : writeOther(value, to);
   }
@@ -97,7 +99,7 @@ class JSONWriter {
     }
     --depth_;
     if (style_.pretty) {
-      if (!more) *to++ = '\n';  // an empty container holds an empty line
+      if (!more) *to++ = '\n';  // the platform writes an empty line into an empty container
       to = breakLine(to);
     }
     to = room(to, 1);
@@ -113,34 +115,36 @@ class JSONWriter {
 
   template <class T>
   char* writeNumber(T number, char* to) {
-    to = room(to, kLongestNumber);
-    return std::to_chars(to, to + kLongestNumber, number).ptr;
+    to = room(to, kMaxNumber);
+    return std::to_chars(to, to + kMaxNumber, number).ptr;
   }
 
   char* writeReal(double number, char* to) {
     if (!std::isfinite(number)) return nullptr;
     if (number == 0.0 && std::signbit(number)) return append(room(to, 4), "-0.0");
-    constexpr double kNotGiven = 0x1p63;  // what an amount is that nobody gave
-    if (number == kNotGiven) return append(room(to, 19), "9223372036854775808");
-    to = room(to, kLongestNumber);
+    // An amount that is not set is kUnsetInteger as a double; to_chars would take longer for it.
+    constexpr double kUnset = 0x1p63;
+    if (number == kUnset) return append(room(to, 19), "9223372036854775808");
+    to = room(to, kMaxNumber);
     char* const end = writeAmount(number, to);
     return end != nullptr ? end : writeNumber(number, to);
   }
 
-  /// The same text as writeNumber's, faster, for most amounts of money and times: no more than
-  /// three decimals, and few enough digits that no other number of so few is the same double. A
-  /// whole number with many zeros has a shorter text with an exponent; nullptr for it, as for
-  /// everything else.
+  /// Writes most amounts of money and times: numbers below 10^12 with at most three decimals. The
+  /// output is that of writeNumber, the shortest that parses to the same double, because such a
+  /// number has at most 15 digits and no other number of 15 digits is the same double. Returns
+  /// nullptr for every other number, including whole ones with five zeros at the end, which are
+  /// shorter with an exponent.
   static char* writeAmount(double number, char* to) {
     constexpr double kLimit = 1e12;
     if (!(number >= 0.0 && number < kLimit)) return nullptr;
-    // NOLINTNEXTLINE(bugprone-incorrect-roundings): what is rounded wrongly is found out
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): the next line finds a wrong rounding
     const auto thousandths = static_cast<std::int64_t>(number * 1000 + 0.5);
     if (static_cast<double>(thousandths) / 1000 != number) return nullptr;
     const auto whole = static_cast<std::uint64_t>(thousandths) / 1000;
     const auto rest = static_cast<unsigned>(thousandths % 1000);
     if (rest == 0 && whole != 0 && whole % 100'000 == 0) return nullptr;
-    to = std::to_chars(to, to + kLongestNumber, whole).ptr;
+    to = std::to_chars(to, to + kMaxNumber, whole).ptr;
     if (rest == 0) return to;
     const auto digit = [](unsigned value) { return static_cast<char>('0' + value % 10); };
     to[0] = '.';
@@ -151,8 +155,8 @@ class JSONWriter {
   }
 
   char* writeString(std::string_view text, char* to) {
-    if (text.size() > kLongestPart) return writeLongString(text, to);
-    to = room(to, text.size() + 10);  // the quotes, and what is copied too much
+    if (text.size() > kMaxPart) return writeLongString(text, to);
+    to = room(to, text.size() + 10);  // two quotes and the eight bytes that copyPlain may exceed
     *to++ = '"';
     to = copyPlain(text, to) ? to + text.size() : writeEscaped(text, to);
     *to++ = '"';
@@ -161,15 +165,16 @@ class JSONWriter {
 
   [[gnu::noinline]] char* writeLongString(std::string_view text, char* to) {
     *to++ = '"';
-    for (; !text.empty(); text.remove_prefix(std::min(text.size(), kLongestPart))) {
-      to = writeEscaped(text.substr(0, kLongestPart), to);
+    for (; !text.empty(); text.remove_prefix(std::min(text.size(), kMaxPart))) {
+      to = writeEscaped(text.substr(0, kMaxPart), to);
     }
     *to++ = '"';
     return to;
   }
 
-  /// Copies the text of a value, unless there is something in it that cannot stand for itself.
-  /// Writes up to eight bytes behind its end.
+  /// Copies a string that needs no escapes; returns false if it needs one. Eight bytes are tested
+  /// and copied at a time, of a short string with bytes after its end, which Value guarantees to be
+  /// readable. Writes up to eight bytes after the end of the copy.
   static bool copyPlain(std::string_view text, char* to) {
     const std::size_t size = text.size();
     const char* from = text.data();
@@ -183,7 +188,7 @@ class JSONWriter {
         if (specialsOfEight<'/', false>(eight) != 0) return false;
         std::memcpy(to, &eight, 8);
       }
-      to -= from - last;  // some for the second time
+      to -= from - last;  // the last eight overlap those before
       from = last;
     }
     const auto eight = loadAs<std::uint64_t>(from);
@@ -192,11 +197,11 @@ class JSONWriter {
   }
 
   [[gnu::noinline]] char* writeEscaped(std::string_view part, char* to) {
-    constexpr std::size_t kLongestEscape = 6;
+    constexpr std::size_t kMaxEscape = 6;
     const char* from = part.data();
     const char* const end = from + part.size();
     while (from != end) {
-      to = room(to, kLongestEscape + 8);
+      to = room(to, kMaxEscape + 8);
       if (end - from >= 8) {
         std::memcpy(to, from, 8);
         const std::size_t plain = firstSpecialOfEight<'/', false>(from);
@@ -214,8 +219,8 @@ class JSONWriter {
     return to;
   }
 
-  /// With what a byte that cannot stand for itself is written behind a backslash: a character, or 1
-  /// for "u00" and two digits.
+  /// For each byte that is escaped the character after the backslash, or 1 for "u00" and two
+  /// digits; 0 for all others.
   static constexpr std::array<char, 256> kEscapes = [] {
     std::array<char, 256> escapes{};
     for (std::size_t i = 0; i < 0x20; ++i) escapes[i] = 1;
@@ -245,7 +250,7 @@ class JSONWriter {
   std::string& out_;
   JSONStyle style_;
   std::size_t depth_ = 0;
-  char buffer_[2 * kLongestPart];
+  char buffer_[2 * kMaxPart];
 };
 
 bool isWritable(const Value& value, std::size_t depthLeft) {

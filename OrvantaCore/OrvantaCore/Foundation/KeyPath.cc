@@ -51,13 +51,13 @@ Value valueForKeyPath(const Value& receiver, std::span<const Value> path) {
 
 Value valueForKeyPath(const Dictionary& receiver, std::span<const Value> path) {
   if (path.empty()) return receiver;
-  // The references stay good: the dictionary outlives the walk and nothing changes it.
-  const Value* found = &receiver.valueForKey(path.front());
-  for (path = path.subspan(1); !path.empty() && found->dictionary() != nullptr;
+  // Nested dictionaries are walked by reference; a copy would count references at every step.
+  const Value* value = &receiver.valueForKey(path.front());
+  for (path = path.subspan(1); !path.empty() && value->dictionary() != nullptr;
        path = path.subspan(1)) {
-    found = &found->dictionary()->valueForKey(path.front());
+    value = &value->dictionary()->valueForKey(path.front());
   }
-  return path.empty() ? *found : valueForKeyPath(*found, path);
+  return path.empty() ? *value : valueForKeyPath(*value, path);
 }
 
 Value valueForKeyPath(const Value& receiver, std::string_view path) {

@@ -8,16 +8,16 @@
 
 namespace orvanta {
 
-/// The names of a dotted path, as string values: "aps.alert" is "aps", "alert".
+/// Splits a dotted path into string values: "aps.alert" into "aps" and "alert".
 std::vector<Value> splitKeyPath(std::string_view path);
 
-/// The dotted path of names.
+/// Joins names to a dotted path.
 std::string joinedKeyPath(std::span<const Value> path);
 
-/// What stands at a path below a value. A dictionary answers the key's entry, an object its
-/// property; an array applies the rest of the path to each of its elements and answers the array
-/// of the results, with a null object for a missing one. Nil where a step is missing. Any other
-/// value on the way has no keys: the undefined-key exception.
+/// Returns the value at a path. A dictionary on the way is asked for the key's entry, an object for
+/// its property. An array applies the rest of the path to each element and returns an array of the
+/// results, with a null for each missing one. Returns nil if a key is missing. Any other value on
+/// the way has no keys: throws the undefined-key exception.
 Value valueForKeyPath(const Value& receiver, std::span<const Value> path);
 Value valueForKeyPath(const Value& receiver, std::string_view path);
 Value valueForKeyPath(const Dictionary& receiver, std::span<const Value> path);

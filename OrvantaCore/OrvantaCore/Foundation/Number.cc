@@ -35,7 +35,7 @@ std::string_view withoutLeadingSpace(std::string_view text) noexcept {
   return text;
 }
 
-/// Takes a sign off the front; true for a minus.
+/// Removes a sign from the start of a string; returns true for a minus.
 bool takeSign(std::string_view& text) noexcept {
   if (text.empty() || (text.front() != '-' && text.front() != '+')) return false;
   const bool negative = text.front() == '-';
@@ -43,8 +43,8 @@ bool takeSign(std::string_view& text) noexcept {
   return negative;
 }
 
-/// Decimal digits after white space and a sign, between the magnitudes given for either sign;
-/// two's complement.
+/// Reads decimal digits after white space and a sign, clamped to a magnitude for each sign. Returns
+/// the bits in two's complement.
 std::uint64_t integerReading(std::string_view text, std::uint64_t lowest,
                              std::uint64_t highest) noexcept {
   text = withoutLeadingSpace(text);
@@ -63,11 +63,11 @@ std::uint64_t integerReading(std::string_view text, std::uint64_t lowest,
   return negative ? 0 - magnitude : magnitude;
 }
 
-/// The longest prefix that is a decimal number with an optional exponent, so that "inf", "nan" and
-/// hexadecimal never reach the library.
+/// The longest prefix that is a decimal number with an optional exponent. Only this is passed to
+/// the standard library, which would also accept "inf", "nan" and hexadecimal numbers.
 struct DecimalPrefix {
-  std::string_view text;       // empty when there is no digit
-  std::int64_t magnitude = 0;  // about the power of ten of the first digit that is not 0
+  std::string_view text;       // empty if there is no digit
+  std::int64_t magnitude = 0;  // of the first digit that is not 0, as a power of ten, about
 };
 
 DecimalPrefix decimalPrefix(std::string_view text) noexcept {
@@ -125,7 +125,7 @@ double realReading(std::string_view text) noexcept {
 
 namespace {
 
-[[noreturn]] void refuse(const Value& value, std::string_view selector) {
+[[noreturn]] void throwUnrecognized(const Value& value, std::string_view selector) {
   if (value.isNil()) {
     throw Exception(Exception::kInvalidArgument,
                     "setNilValueForKey: could not set nil as the value of a scalar");
@@ -174,7 +174,7 @@ float Number::floatValue() const noexcept {
 std::string Number::description() const {
   char text[40];
   const auto significant = [&](int digits) -> std::string {
-    if (std::isnan(doubleValue())) return "nan";  // without the sign that some have
+    if (std::isnan(doubleValue())) return "nan";  // without the sign that to_chars prints for some
     const auto end =
         std::to_chars(text, text + sizeof text, doubleValue(), std::chars_format::general, digits);
     return {text, end.ptr};
@@ -192,7 +192,7 @@ std::string Number::description() const {
 }
 
 namespace {
-/// An integer beyond 64 bits of either sign: the magnitude and whether it is below zero.
+/// An integer from -2^63 to 2^64-1: 64 bits in two's complement and the sign.
 struct ExactInteger {
   bool negative;
   std::uint64_t bits;
@@ -207,7 +207,7 @@ static std::optional<ExactInteger> exactInteger(const Number& number) noexcept {
   }
   const double value = number.doubleValue();
   if (!(value >= -kTwo63 && value < kTwo64) || value != std::trunc(value)) return std::nullopt;
-  if (value == 0.0 && std::signbit(value)) return std::nullopt;  // -0.0 is a value of its own
+  if (value == 0.0 && std::signbit(value)) return std::nullopt;  // -0.0 does not equal 0
   return ExactInteger{value < 0, clampedToUnsigned(value)};
 }
 
@@ -238,7 +238,7 @@ template <>
 bool scalarReading<bool>(const Value& value) {
   if (const auto number = value.number()) return number->boolValue();
   if (const auto text = value.string()) return booleanReading(*text);
-  refuse(value, "boolValue");
+  throwUnrecognized(value, "boolValue");
 }
 
 template <>
@@ -247,7 +247,7 @@ std::int32_t scalarReading<std::int32_t>(const Value& value) {
   if (const auto text = value.string()) {
     return static_cast<std::int32_t>(integerReading(*text, 0x80000000U, 0x7FFFFFFFU));
   }
-  refuse(value, "intValue");
+  throwUnrecognized(value, "intValue");
 }
 
 template <>
@@ -256,7 +256,7 @@ std::int64_t scalarReading<std::int64_t>(const Value& value) {
   if (const auto text = value.string()) {
     return static_cast<std::int64_t>(integerReading(*text, kInt64Lowest, kInt64Lowest - 1));
   }
-  refuse(value, "longLongValue");
+  throwUnrecognized(value, "longLongValue");
 }
 
 template <>
@@ -265,21 +265,21 @@ std::uint64_t scalarReading<std::uint64_t>(const Value& value) {
   if (const auto text = value.string()) {
     return integerReading(*text, kInt64Lowest, std::numeric_limits<std::uint64_t>::max());
   }
-  refuse(value, "unsignedLongLongValue");
+  throwUnrecognized(value, "unsignedLongLongValue");
 }
 
 template <>
 double scalarReading<double>(const Value& value) {
   if (const auto number = value.number()) return number->doubleValue();
   if (const auto text = value.string()) return realReading(*text);
-  refuse(value, "doubleValue");
+  throwUnrecognized(value, "doubleValue");
 }
 
 template <>
 float scalarReading<float>(const Value& value) {
   if (const auto text = value.string()) return Number(Value(realReading(*text))).floatValue();
   if (const auto number = value.number()) return number->floatValue();
-  refuse(value, "floatValue");
+  throwUnrecognized(value, "floatValue");
 }
 
 }  // namespace orvanta

@@ -12,8 +12,8 @@ namespace orvanta {
 
 class Value;
 
-/// What every class object begins with: its name, and the class object that it derives from
-/// (nullptr for a root class). Class objects are constant data and live for the process.
+/// The first part of every class object: its name and its superclass, nullptr for a root class.
+/// Class objects are constant data that lives as long as the process.
 struct ClassObject {
   std::string_view name;
   const ClassObject* superclass = nullptr;
@@ -28,8 +28,8 @@ struct ClassObject {
   }
 };
 
-/// Base of everything that has identity and is shared by reference: models and the like. Held
-/// through Ref or inside a Value; freed with the last of them.
+/// Base of everything with identity, such as models. Objects are created with `new`, owned by Refs
+/// and Values, and deleted with the last of them.
 class Object : public Node {
  public:
   virtual ~Object() = default;
@@ -39,14 +39,14 @@ class Object : public Node {
   virtual const ClassObject& isa() const = 0;
   bool isKindOf(const ClassObject& cls) const { return isa().isSubclassOf(cls); }
 
-  /// Equality of the platform's `isEqual:`; identity unless overridden. Equal objects hash alike.
+  /// The platform's `isEqual:`: identity unless overridden. Equal objects have equal hashes.
   virtual bool isEqual(const Value& other) const;
   virtual std::size_t hash() const;
-  /// What "%@" prints; "<Class>" unless overridden.
+  /// What "%@" prints: "<Class>" unless overridden.
   virtual std::string description() const;
 
-  /// Key-value coding. Both throw the undefined-key exception for a key that the object does not
-  /// have, and the second the invalid-argument one for a value that a scalar cannot take.
+  /// Key-value coding. Both throw the undefined-key exception if the object does not have the key;
+  /// setting also throws the invalid-argument exception if a scalar property rejects the value.
   virtual Value valueForKey(std::string_view key) const;
   virtual void setValueForKey(const Value& value, std::string_view key);
 
@@ -54,17 +54,17 @@ class Object : public Node {
   Object() noexcept : Node(nullptr) {}
 };
 
-/// A shared, counted reference to an object; empty means nil.
+/// An owning, counted reference to an object; may be empty.
 template <class T>
 class Ref {
  public:
   Ref() noexcept = default;
   Ref(std::nullptr_t) noexcept {}
-  /// Shares an object that somebody holds already.
+  /// Adds a reference to an object that is already owned.
   explicit Ref(T* object) noexcept : object_(object) {
     if (object_ != nullptr) object_->retain();
   }
-  /// Takes over the one reference that a new object is born with.
+  /// Takes over the reference that `new` returns.
   static Ref adopt(T* object) noexcept {
     Ref ref;
     ref.object_ = object;
@@ -86,7 +86,7 @@ class Ref {
     if (object != nullptr && object->release()) delete object;
   }
 
-  /// Hands the reference over to the caller; this one is empty then.
+  /// Transfers the reference to the caller and becomes empty.
   T* release() noexcept { return std::exchange(object_, nullptr); }
 
   T* get() const noexcept { return object_; }

@@ -7,7 +7,7 @@
 namespace orvanta {
 
 namespace {
-// The characters of RFC 3986 but "%" and "#", which have rules of their own.
+// The characters of RFC 3986 except "%" and "#", which parse() checks separately.
 constexpr CharacterSet kUrlCharacters = CharacterSet::alphanumerics().with("-._~:/?[]@!$&'()*+,;=");
 
 constexpr CharacterSet kHexDigits = CharacterSet("0123456789ABCDEFabcdef");

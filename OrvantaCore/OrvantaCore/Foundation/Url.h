@@ -7,17 +7,17 @@
 
 namespace orvanta {
 
-/// A URL or relative reference, kept as the text from which it was parsed.
+/// A URL or a relative reference, stored as the string that it was parsed from.
 class Url {
  public:
-  /// Parses a text: characters that RFC 3986 allows only, "%" followed by two hex digits, at most
-  /// one "#". Relative references are allowed, and "" is the empty URL; nothing is encoded. None
-  /// when the text is no URL, or the value no text.
+  /// Parses a string that has only the characters of RFC 3986, with two hex digits after every "%"
+  /// and at most one "#". Relative references are accepted, "" is the empty URL, and nothing is
+  /// percent-encoded. Returns nothing if the value is not such a string.
   static std::optional<Url> parse(const Value& value);
 
-  /// The file URL of an absolute path; what a URL cannot hold is percent-encoded.
+  /// The file URL for an absolute path. Characters that a URL does not allow are percent-encoded.
   static Url fileURLWithPath(std::string_view path);
-  /// The file URL of a name below a folder, whose URL ends in a slash; it stays relative to it.
+  /// The file URL for a name, relative to the URL of a folder, which ends in a slash.
   static Url fileURLWithPath(std::string_view name, const Url& folder);
 
   Url(const Url& other) noexcept : node_(other.node_) { node_->retain(); }
@@ -30,16 +30,16 @@ class Url {
 
   std::string_view absoluteString() const noexcept { return node_->text(); }
 
-  /// The absolute string as a value; a long one is shared.
+  /// The absolute string as a value; a long string is shared, not copied.
   Value stringValue() const;
-  /// "http" and the like, as written; empty for a relative reference.
+  /// The scheme as written, such as "http"; empty for a relative reference.
   std::string_view scheme() const noexcept;
   bool isFileURL() const noexcept { return scheme() == "file"; }
-  /// What stands between authority and query, decoded.
+  /// The part between authority and query, percent-decoded.
   std::string path() const;
-  /// The last name of the path, decoded; a slash behind it does not count.
+  /// The last name in the path, percent-decoded; a slash at the end is ignored.
   std::string lastPathComponent() const;
-  /// The absolute string, or "name -- folder" of a relative one.
+  /// The absolute string; "name -- folder" if the URL is relative to a folder.
   std::string description() const;
 
   friend bool operator==(const Url& a, const Url& b) {
@@ -50,7 +50,7 @@ class Url {
   friend class Value;
   explicit Url(const StringNode* adopted) noexcept : node_(adopted) {}
 
-  const StringNode* node_;  // null only in one that was moved from
+  const StringNode* node_;  // null only after a move
 };
 
 }  // namespace orvanta

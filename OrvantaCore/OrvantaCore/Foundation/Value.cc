@@ -14,10 +14,10 @@ namespace orvanta {
 
 static_assert(sizeof(Array) == 8 && sizeof(Dictionary) == 8 && sizeof(Url) == 8);
 
-Value::Value(std::string_view text)
-    : Value(text.size() <= kInlineCapacity
-                ? inlineString(text)
-                : Value(Kind::string, StringNode::create(text, nullptr))) {}
+Value::Value(std::string_view string)
+    : Value(string.size() <= kInlineCapacity
+                ? inlineString(string)
+                : Value(Kind::string, StringNode::create(string, nullptr))) {}
 
 Value::Value(const Array& array) noexcept : Value(Kind::array, array.node_) {
   if (array.node_ != nullptr) array.node_->retain();
@@ -39,9 +39,9 @@ Value::Value(Url&& url) noexcept : Value(Kind::url, std::exchange(url.node_, nul
 Value::Value(const Object* object) noexcept {
   if (object == nullptr) return;
   object->retain();
-  Value made(Kind::object, static_cast<const Node*>(object));
-  copyBits(made);
-  made.forget();
+  Value shared(Kind::object, static_cast<const Node*>(object));
+  copyBits(shared);
+  shared.forget();
 }
 
 Value::Value(const ClassObject* cls) noexcept {
@@ -62,7 +62,7 @@ void Value::releaseNode() const noexcept {
     case Kind::object:
       delete static_cast<const Object*>(node());
       break;
-    default:  // texts and URLs
+    default:  // strings and URLs
       static_cast<const StringNode*>(node())->destroy();
   }
 }
@@ -129,7 +129,7 @@ std::size_t Value::hash() const {
 
 namespace {
 struct KindNames {
-  std::string_view spoken;
+  std::string_view displayName;
   std::string_view className;
 };
 constexpr KindNames kKindNames[] = {
@@ -151,16 +151,16 @@ constexpr KindNames kKindNames[] = {
 }  // namespace
 
 std::string_view Value::kindName() const noexcept {
-  return kKindNames[static_cast<std::size_t>(kind())].spoken;
+  return kKindNames[static_cast<std::size_t>(kind())].displayName;
 }
 
 std::string_view Value::className() const noexcept {
-  if (const Object* held = object()) return held->isa().name;
+  if (const Object* object = this->object()) return object->isa().name;
   if (const ClassObject* cls = classObject()) return cls->name;
   return kKindNames[static_cast<std::size_t>(kind())].className;
 }
 
-// ---- Texts ----------------------------------------------------------------
+// ---- Strings --------------------------------------------------------------
 
 StringNode::StringNode(std::string_view text, Arena* arena, std::uint32_t baseSize) noexcept
     : Node(arena), baseSize_(baseSize), size_(text.size()) {

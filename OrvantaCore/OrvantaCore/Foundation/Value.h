@@ -24,9 +24,9 @@ class Number;
 class Url;
 
 enum class Kind : std::uint8_t {
-  nil,              ///< nothing there
+  none,             ///< nil: no value
   null,             ///< the null object, a stored value
-  boolean,          ///< numbers keep their kind: this and the next four
+  boolean,          ///< a number, like the next four
   integer,          ///< signed 64-bit
   unsignedInteger,  ///< unsigned 64-bit
   real,             ///< double
@@ -37,16 +37,23 @@ enum class Kind : std::uint8_t {
   array,
   dictionary,
   object,       ///< a model or another Object
-  classObject,  ///< a class
+  classObject,  ///< a ClassObject
 };
 
-/// Anything that a property list or a property can hold, in 16 bytes. Numbers, dates, null and
-/// strings of up to 14 bytes stand in the value itself; the rest is shared by reference. Strings,
-/// arrays and dictionaries are values: copying is cheap, and a copy that is changed parts from the
-/// original. Objects are references. Different values may be used from different threads, even
-/// where they share what they refer to; one value may not.
+/// Anything that a property list or a property can contain, in 16 bytes. Numbers, dates, null and
+/// strings of up to 14 bytes are stored in the value itself, everything else by reference. Strings,
+/// arrays and dictionaries have value semantics: a copy is cheap and independent. Objects are
+/// shared.
 ///
-/// A value of a parsed text keeps the whole text's tree alive (see Arena).
+///     const Value badge = 3;
+///     if (const auto number = badge.number()) use(number->intValue());
+///     if (const auto name = badge.string()) …     // nothing: the kind is tested, not converted
+///     Value aps = Dictionary{{"alert", "Hi"}, {"badge", badge}};
+///     aps.editDictionary().set("sound", "default");
+///
+/// Threads may use different values at the same time, also where these share contents; one value is
+/// for one thread at a time. A long string or container from parsed JSON keeps the arena of the
+/// whole text alive; Value(*value.string()) is a copy that does not.
 class Value {
  public:
   constexpr Value() noexcept = default;  // nil
@@ -64,10 +71,10 @@ class Value {
       : Value(Kind::real32, std::uint64_t{std::bit_cast<std::uint32_t>(number)}) {}
   Value(Date date) noexcept
       : Value(Kind::date, std::bit_cast<std::uint64_t>(date.secondsSince1970)) {}
-  /// UTF-8 text; what JSON, URLs and the platform hand over is checked where it enters.
-  Value(std::string_view text);
-  Value(const char* text) : Value(std::string_view(text)) {}
-  Value(const std::string& text) : Value(std::string_view(text)) {}
+  /// A UTF-8 string. Not checked here; parsers and the platform check what they accept.
+  Value(std::string_view string);
+  Value(const char* string) : Value(std::string_view(string)) {}
+  Value(const std::string& string) : Value(std::string_view(string)) {}
   Value(const Array& array) noexcept;
   Value(const Dictionary& dictionary) noexcept;
   Value(const Url& url) noexcept;
@@ -87,7 +94,7 @@ class Value {
   explicit Value(const ClassObject* cls) noexcept;
 
   Value(const Value& other) noexcept {
-    // The other one is asked: bits that were just written are slow to read in other pieces.
+    // Ask `other`, not this: reading one byte of words just written may be slow.
     copyBits(other);
     if (other.isShared()) other.node()->retain();
   }
@@ -99,7 +106,7 @@ class Value {
     if (isShared()) releaseNode();
   }
   Value& operator=(const Value& other) noexcept {
-    return *this = Value(other);  // the other one may lie inside what this one lets go of
+    return *this = Value(other);  // `other` may be inside the contents that this value releases
   }
   Value& operator=(Value&& other) noexcept {
     Value taken(static_cast<Value&&>(other));
@@ -110,13 +117,13 @@ class Value {
   }
 
   Kind kind() const noexcept { return static_cast<Kind>(bytes_[0] & kKindMask); }
-  bool isNil() const noexcept { return kind() == Kind::nil; }
+  bool isNil() const noexcept { return kind() == Kind::none; }
   bool isNull() const noexcept { return kind() == Kind::null; }
   bool isNumber() const noexcept { return kind() >= Kind::boolean && kind() <= Kind::real32; }
   bool isString() const noexcept { return kind() == Kind::string; }
 
-  // The value as one kind, or nothing when it is of another. Pointers and texts live as long as
-  // this value stays as it is. Eight bytes can be read where a text begins, however short it is.
+  // The value as one kind, or nothing if it is of another. Pointers and strings are valid until
+  // this value changes. At the start of a string eight bytes are readable, however short it is.
   std::optional<std::string_view> string() const noexcept {
     if (!isString()) return std::nullopt;
     return text();
@@ -134,27 +141,27 @@ class Value {
     return const_cast<Object*>(static_cast<const Object*>(node()));
   }
   const ClassObject* classObject() const noexcept;
-  /// The object as a T, or nullptr when it is none; T names its class with `classObject()`.
+  /// The object as a T, or nullptr if it is not one. T has a static `classObject()`.
   template <class T>
   T* as() const noexcept {
-    Object* held = object();
-    return held != nullptr && held->isKindOf(T::classObject()) ? static_cast<T*>(held) : nullptr;
+    Object* any = object();
+    return any != nullptr && any->isKindOf(T::classObject()) ? static_cast<T*>(any) : nullptr;
   }
 
-  // The container for changing it in place; a value of another kind becomes an empty one first.
+  // The container, to change in place. A value of another kind becomes an empty container first.
   Array& editArray();
   Dictionary& editDictionary();
 
-  /// Equality of the platform's `isEqual:`: numbers by exact value whatever their kinds, so that
-  /// 9223372036854775807 and 9223372036854775808.0 differ while 1, 1.0 and true are equal; 0 and
-  /// -0.0 differ and a NaN equals itself; containers by content; objects as they say. Equal
-  /// values hash alike.
+  /// The platform's `isEqual:`. Numbers are equal by exact value across kinds: 1, 1.0 and true are
+  /// equal, 9223372036854775807 and 9223372036854775808.0 are not, nor are 0 and -0.0; a NaN equals
+  /// a NaN. Containers are equal by content, objects by their isEqual. Equal values have equal
+  /// hashes.
   friend bool operator==(const Value& a, const Value& b);
   std::size_t hash() const;
 
-  /// "a string", "null", … for messages to people.
+  /// The kind for messages: "a string", "null" and so on.
   std::string_view kindName() const noexcept;
-  /// The platform's class name of the kind: "NSString", "NSNull", or the object's own class.
+  /// The platform's class name for the kind, such as "NSString"; for an object that of its class.
   std::string_view className() const noexcept;
 
  private:
@@ -166,10 +173,10 @@ class Value {
   friend class Url;
   friend class TreeBuilder;
 
-  // Byte 0 is the kind with the shared bit, byte 1 the length of an inline string, which fills the
-  // rest; otherwise the second word is the number's bits or the address of what is shared (for an
-  // empty array or dictionary it may be null). Unused bytes are zero, so equal inline values have
-  // equal bytes.
+  // Byte 0 is the kind and the shared bit. An inline string has its length in byte 1 and its bytes
+  // after it. Otherwise the second word is the bits of a number or the address of a node, which may
+  // be null for an empty array or dictionary. Unused bytes are zero, so equal inline values have
+  // equal bytes, and dictionaries find short keys by comparing two words.
   static constexpr unsigned kKindMask = 0x7F;
   static constexpr unsigned kSharedBit = 0x80;
   static constexpr std::size_t kInlineCapacity = 14;
@@ -181,7 +188,7 @@ class Value {
   Value(Kind kind, const Node* node) noexcept : Value(kind, std::bit_cast<std::uint64_t>(node)) {
     bytes_[0] |= kSharedBit;
   }
-  /// What a value is made of, without counting a reference; for whoever counts otherwise.
+  /// The contents of a value without a counted reference; used where a tree is built.
   struct Bits {
     std::uint64_t words[2];
   };
@@ -193,12 +200,13 @@ class Value {
   static Bits sharedBits(Kind kind, const Node* node) noexcept {
     return {{static_cast<std::uint64_t>(kind) | kSharedBit, std::bit_cast<std::uint64_t>(node)}};
   }
-  /// Text of at most kInlineCapacity bytes.
-  static Bits inlineBits(std::string_view text) noexcept {
-    const char* at = text.data();
-    const std::size_t size = text.size();
-    std::uint64_t first = 0;   // the text's bytes 0 to 7
-    std::uint64_t second = 0;  // and 8 to 13
+  /// A string of at most kInlineCapacity bytes. Two loads that overlap replace a memcpy of variable
+  /// length, which would be a call.
+  static Bits inlineBits(std::string_view string) noexcept {
+    const char* at = string.data();
+    const std::size_t size = string.size();
+    std::uint64_t first = 0;   // bytes 0 to 7 of the string
+    std::uint64_t second = 0;  // bytes 8 to 13
     if (size >= 8) {
       first = loadAs<std::uint64_t>(at);
       if (size > 8) second = loadAs<std::uint64_t>(at + size - 8) >> (8 * (16 - size));
@@ -208,7 +216,7 @@ class Value {
     return {{static_cast<std::uint64_t>(Kind::string) | size << 8U | first << 16U,
              first >> 48U | second << 16U}};
   }
-  static Value inlineString(std::string_view text) noexcept { return Value(inlineBits(text)); }
+  static Value inlineString(std::string_view string) noexcept { return Value(inlineBits(string)); }
   std::uint64_t word(int index) const noexcept {
     std::uint64_t bits;
     std::memcpy(&bits, bytes_ + std::ptrdiff_t{8} * index, sizeof bits);
@@ -217,7 +225,7 @@ class Value {
   void setWord(int index, std::uint64_t bits) noexcept {
     std::memcpy(bytes_ + std::ptrdiff_t{8} * index, &bits, sizeof bits);
   }
-  /// Word by word, as values are made.
+  /// Copies by words, as constructors write: the processor forwards the store to the load.
   void copyBits(const Value& other) noexcept {
     const Bits taken = other.bits();
     setWord(0, taken.words[0]);
@@ -228,16 +236,16 @@ class Value {
   }
   bool isShared() const noexcept { return (bytes_[0] & kSharedBit) != 0 && word(1) != 0; }
   const Node* node() const noexcept { return std::bit_cast<const Node*>(word(1)); }
-  /// Becomes nil and gives nothing back.
+  /// Becomes nil without releasing the reference.
   void forget() noexcept { std::memset(bytes_, 0, sizeof bytes_); }
   void releaseNode() const noexcept;
-  /// The text of a value that is known to be a string or a URL.
+  /// The string of a value that is a string or a URL.
   std::string_view text() const noexcept;
   template <class T>
   const T* payloadIf(Kind wanted) const noexcept {
     return kind() == wanted ? payloadAs<T>() : nullptr;
   }
-  /// The second word as the one-pointer class that stands for it.
+  /// The second word as an Array, Dictionary or Url, each of which is one pointer to its node.
   template <class T>
   const T* payloadAs() const noexcept {
     static_assert(sizeof(T) == 8);
@@ -250,13 +258,13 @@ class Value {
 static_assert(sizeof(Value) == 16);
 static_assert(std::endian::native == std::endian::little, "the layout of inline strings");
 
-/// Text of more than 14 bytes, or a URL's; the bytes lie behind the header.
+/// The shared contents of a string of more than 14 bytes or of a URL. The bytes follow the header.
 class StringNode : public Node {
  public:
   std::string_view text() const noexcept {
     return {reinterpret_cast<const char*>(this + 1), size_};
   }
-  /// Of a relative URL: how much of the text is its base's. 0 for an absolute one.
+  /// For a URL relative to a folder the length of the folder's URL, else 0.
   std::size_t baseSize() const noexcept { return baseSize_; }
   static StringNode* create(std::string_view text, Arena* arena, std::uint32_t baseSize = 0);
   void destroy() const noexcept;

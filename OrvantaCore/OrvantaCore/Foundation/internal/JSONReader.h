@@ -15,27 +15,28 @@
 
 namespace orvanta {
 
-/// Reads JSON text, strictly by RFC 8259 (a byte-order mark is accepted), and tells a client what
-/// it finds. The client is any class with
+/// Parses JSON text, strictly by RFC 8259 (a byte-order mark is accepted), and reports its tokens
+/// to a client, any class with
 ///
-///     void beginDictionary(offset); void key(text, offset); void endDictionary(offset);
-///     void beginArray(offset);      void endArray(offset);
-///     void string(text, offset);    void boolean(flag, offset);  void null(offset);
-///     void integer(int64, offset);  void unsignedInteger(uint64, offset);  void real(double,
-///     offset);
+///     void beginDictionary(offset);          void endDictionary(offset);
+///     void beginArray(offset);               void endArray(offset);
+///     void key(string, offset);              void string(string, offset);
+///     void integer(int64, offset);           void unsignedInteger(uint64, offset);
+///     void real(double, offset);             void boolean(flag, offset);
+///     void null(offset);
 ///
-/// where an offset is the token's first byte (TextPosition::of makes a line and a column of it),
-/// and a text is valid UTF-8 that lives until the call returns. Integers beyond the signed 64-bit
-/// range come as unsigned ones, beyond that as doubles; "-0" is a double. Every key is reported,
-/// also one that its dictionary has had before. Nothing recurses; depth is limited.
+/// An offset is that of the token's first byte. A string is valid UTF-8 and lives until the call
+/// returns. Integers outside the signed 64-bit range are reported as unsigned, and outside that
+/// range as doubles; "-0" is a double. Duplicate keys are reported like others. The parser does not
+/// recurse; the depth is limited because freeing and writing the result do.
 template <class Client>
 class JSONReader {
  public:
   JSONReader(std::string_view text, Client& client)
       : client_(client), start_(text.data()), at_(text.data()), end_(text.data() + text.size()) {}
 
-  /// Reads the whole text. False when it is not JSON; then error() tells why, and the client has
-  /// been told what stood before.
+  /// Parses the whole text. Returns false and sets error() if it is not JSON; the tokens before the
+  /// error have been reported then.
   bool read();
   const JSONError& error() const { return error_; }
 
@@ -53,7 +54,7 @@ class JSONReader {
   }
   bool atEnd() const { return at_ == end_; }
 
-  /// Reads a scalar or an empty container, or opens a container that has something in it.
+  /// Reads a scalar or an empty container, or opens a container that is not empty.
   bool readValue(bool& opened);
   bool closeContainer();
   bool readKey();
@@ -61,13 +62,13 @@ class JSONReader {
   bool readWord(std::string_view word);
   bool readNumber();
   bool readReal(const char* first);
-  /// Reads a string whose quote stands at at_; its text is slice_ afterwards.
+  /// Reads the string whose quote is at at_ into slice_.
   bool readString();
-  /// The same for a string that is known to be plain up to a place.
+  /// The same for a string that needs no unescaping before `checked`.
   bool readStringFrom(const char* checked);
   bool readEscape();
   bool readHex(std::uint32_t& unit);
-  /// Skips characters that stand for themselves, checking UTF-8.
+  /// Skips characters that are not escaped; fails if they are not UTF-8.
   bool skipPlain();
   bool skipMultibyte();
 
@@ -96,7 +97,7 @@ bool JSONReader<Client>::read() {
       keyFirst = isDictionary_[depth_ - 1];
       continue;
     }
-    // A value has ended; containers may end with it.
+    // A value has ended; close the containers that end with it.
     for (;;) {
       skipSpace();
       if (depth_ == 0) return atEnd() || fail("text after the value", at_);
@@ -189,6 +190,7 @@ bool JSONReader<Client>::readNumber() {
   const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
   const char* const first = at_;
   const char* const end = end_;
+  // Numbers of one digit are the most frequent ones.
   if (end - first > 1 && isDigit(*first) && (first[1] == ',' || first[1] == '}')) {
     at_ = first + 1;
     client_.integer(*first - '0', offset(first));
@@ -242,7 +244,7 @@ bool JSONReader<Client>::readReal(const char* first) {
   double value = 0.0;
   const auto result = std::from_chars(first, at_, value);
   if (result.ec == std::errc::result_out_of_range) {
-    value = realReading({first, static_cast<std::size_t>(at_ - first)});  // too small is 0
+    value = realReading({first, static_cast<std::size_t>(at_ - first)});  // 0 if too small
     if (std::isinf(value)) return fail("a number beyond the range of a double", first);
   }
   client_.real(value, offset(first));
@@ -251,7 +253,7 @@ bool JSONReader<Client>::readReal(const char* first) {
 
 template <class Client>
 bool JSONReader<Client>::readString() {
-  // Most strings are plain ASCII from quote to quote.
+  // Most strings are plain ASCII: they stay in the text, and slice_ refers to them there.
   const char* const first = at_ + 1;
   const char* next = first;
   while (end_ - next >= 8) {

@@ -6,13 +6,13 @@
 namespace orvanta {
 
 namespace {
-constexpr std::size_t kLargestBlock = std::size_t{1} << 20;
+constexpr std::size_t kMaxBlock = std::size_t{1} << 20;
 }  // namespace
 
 Arena::Arena(std::size_t firstBlock) noexcept
     : next_(reinterpret_cast<std::byte*>(this) + sizeof(Arena)),
       end_(next_ + firstBlock),
-      nextBlockBytes_(std::clamp(firstBlock, std::size_t{4096}, kLargestBlock)) {}
+      nextBlockBytes_(std::clamp(firstBlock, std::size_t{4096}, kMaxBlock)) {}
 
 Arena* Arena::create(std::size_t firstBlock) {
   firstBlock = (firstBlock + kAlignment - 1) & ~(kAlignment - 1);
@@ -21,7 +21,7 @@ Arena* Arena::create(std::size_t firstBlock) {
 
 void Arena::addBlock(std::size_t atLeast) {
   const std::size_t bytes = std::max(atLeast, nextBlockBytes_);
-  nextBlockBytes_ = std::min(2 * nextBlockBytes_, kLargestBlock);
+  nextBlockBytes_ = std::min(2 * nextBlockBytes_, kMaxBlock);
   blocks_ = new (::operator new(sizeof(Block) + bytes)) Block{blocks_, bytes};
   next_ = reinterpret_cast<std::byte*>(blocks_) + sizeof(Block);
   end_ = next_ + bytes;

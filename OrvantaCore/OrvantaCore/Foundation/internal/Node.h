@@ -9,8 +9,8 @@
 
 namespace orvanta {
 
-/// Counts references. Until the process starts its first other thread, where the C library tells,
-/// counting is ordinary arithmetic, which costs a fraction of an atomic operation.
+/// A reference count, starting at 1. It is not atomic until a second thread starts, if the C
+/// library reports that: ordinary arithmetic costs a fraction of an atomic operation.
 template <class T>
 class ReferenceCount {
  public:
@@ -18,7 +18,7 @@ class ReferenceCount {
     if (isAlone()) return count_.store(value() + 1, std::memory_order_relaxed);
     count_.fetch_add(1, std::memory_order_relaxed);
   }
-  /// True when that was the last one.
+  /// Returns true if this was the last reference.
   bool release() noexcept {
     if (isAlone()) {
       const T left = value() - 1;
@@ -42,18 +42,18 @@ class ReferenceCount {
   std::atomic<T> count_{1};
 };
 
-/// Memory from which one operation (a parsed text, say) carves everything that it makes. It is
-/// freed as a whole when the last value that refers to anything in it is gone, so a long string
-/// that is kept keeps the text's whole tree alive. Carving is for one thread; counting is for any.
+/// Memory for everything that one operation allocates, such as the tree of one JSON text. It is
+/// freed as a whole with the last reference to anything in it, so one long string keeps the whole
+/// tree alive. One thread allocates; any thread may count references.
 class Arena {
  public:
-  /// Makes an arena with a first block of that many bytes; the caller holds one reference.
+  /// Creates an arena with a first block of that many bytes and one reference, the caller's.
   static Arena* create(std::size_t firstBlock);
 
   Arena(const Arena&) = delete;
   Arena& operator=(const Arena&) = delete;
 
-  /// Bytes aligned for any node or value. Throws std::bad_alloc.
+  /// Returns memory aligned for any node or value. Throws std::bad_alloc.
   void* allocate(std::size_t bytes) {
     bytes = (bytes + kAlignment - 1) & ~(kAlignment - 1);
     if (bytes > static_cast<std::size_t>(end_ - next_)) addBlock(bytes);
@@ -80,14 +80,14 @@ class Arena {
   void destroy() noexcept;
 
   ReferenceCount<std::uint64_t> count_;
-  Block* blocks_ = nullptr;  // those after the first, which lies behind the arena itself
+  Block* blocks_ = nullptr;  // all but the first, which follows the arena in memory
   std::byte* next_;
   std::byte* end_;
   std::size_t nextBlockBytes_;
 };
 
-/// Header of everything that values share by reference. A node of the heap counts its own
-/// references; one that was carved from an arena counts them for the arena.
+/// Header of everything that values share by reference. A node on the heap counts its own
+/// references; one in an arena counts them for the arena.
 class Node {
  public:
   Node(const Node&) = delete;
@@ -100,8 +100,8 @@ class Node {
       count_.retain();
     }
   }
-  /// Gives one reference back. True when it was the last of a heap node, which is then the
-  /// caller's to destroy.
+  /// Releases a reference. Returns true if it was the last one of a node on the heap, which the
+  /// caller must destroy then.
   bool release() const noexcept {
     if (arena_ != nullptr) {
       arena_->release();
@@ -109,13 +109,13 @@ class Node {
     }
     return count_.release();
   }
-  /// True when the only reference is the caller's and the node may be changed in place.
+  /// Returns whether the caller has the only reference and may change the node in place.
   bool isUnshared() const noexcept { return arena_ == nullptr && count_.isOne(); }
 
  protected:
   explicit Node(Arena* arena) noexcept : arena_(arena) {}
   ~Node() = default;
-  /// Where the node was carved from; nullptr for one of the heap.
+  /// The arena that the node is in; nullptr for one on the heap.
   Arena* arena() const noexcept { return arena_; }
 
  private:

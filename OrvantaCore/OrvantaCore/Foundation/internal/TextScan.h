@@ -7,6 +7,7 @@
 
 namespace orvanta {
 
+/// Loads a T from any address, low byte first.
 template <class T>
 inline std::uint64_t loadAs(const char* at) {
   T loaded;
@@ -14,7 +15,7 @@ inline std::uint64_t loadAs(const char* at) {
   return loaded;
 }
 
-/// Fewer than eight bytes as a number, the first one lowest.
+/// Loads fewer than eight bytes, low byte first, without a loop: loads that overlap.
 inline std::uint64_t loadUpToSeven(const char* at, std::size_t size) {
   if (size >= 4) {
     return loadAs<std::uint32_t>(at) | loadAs<std::uint32_t>(at + size - 4) << (8 * (size - 4));
@@ -24,15 +25,15 @@ inline std::uint64_t loadUpToSeven(const char* at, std::size_t size) {
          loadAs<std::uint8_t>(at + size - 1) << (8 * (size - 1));
 }
 
-/// Of eight bytes, the first one lowest: marks those that a JSON string cannot hold as they are
-/// (below a space, a quote, a backslash), or that are `other`, or above ASCII where that is asked
-/// for. The lowest mark is right; there may be wrong ones above it, but never without it.
+/// Marks the bytes among eight (low byte first) that a JSON string contains only escaped: control
+/// characters, quotes and backslashes, also kOther, and bytes above ASCII if kAboveASCII. The mark
+/// is the byte's high bit. Only the lowest mark is exact; there may be false ones above it.
 template <char kOther, bool kAboveASCII>
 inline std::uint64_t specialsOfEight(std::uint64_t eight) {
   constexpr std::uint64_t kOnes = 0x0101010101010101U;
   constexpr std::uint64_t kHighs = 0x8080808080808080U;
-  // Subtracting marks the high bit of bytes below the subtrahend. A borrow may mark bytes behind
-  // the first marked one, never before it. A byte above ASCII is none of those looked for.
+  // A subtraction sets the high bit of bytes less than the subtrahend. Its borrow can set false
+  // marks only above a true one. Bytes above ASCII, whose high bit is set anyway, are masked out.
   std::uint64_t marked = (eight - kOnes * ' ') | ((eight ^ (kOnes * '"')) - kOnes) |
                          ((eight ^ (kOnes * '\\')) - kOnes);
   if constexpr (kOther != 0) {
@@ -43,7 +44,7 @@ inline std::uint64_t specialsOfEight(std::uint64_t eight) {
   return marked & kHighs;
 }
 
-/// The place of the first of them, 8 for none.
+/// Returns the index of the first such byte, 8 if there is none.
 template <char kOther, bool kAboveASCII>
 inline std::size_t firstSpecialOfEight(const char* at) {
   const std::uint64_t marked = specialsOfEight<kOther, kAboveASCII>(loadAs<std::uint64_t>(at));

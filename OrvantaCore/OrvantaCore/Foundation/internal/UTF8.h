@@ -7,8 +7,8 @@
 
 namespace orvanta {
 
-/// Returns the length of the UTF-8 character that a string which is not empty begins with, 0 where
-/// it begins with none. Overlong forms, surrogates and code points beyond U+10FFFF are not UTF-8.
+/// Returns the length of the UTF-8 character at the start of a string, which is not empty; 0 if the
+/// start is not UTF-8. Overlong forms, surrogates and code points above U+10FFFF are not UTF-8.
 constexpr std::size_t utf8CharacterLength(std::string_view string) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(string[i]); };
   const unsigned char lead = byte(0);
