@@ -40,32 +40,32 @@ void Property::assignTo(OrvantaBaseModel& object, Value&& value) const {
   *static_cast<Value*>(field(object)) = std::move(value);
 }
 
-const Property* Class::property(std::string_view wanted) const {
+const Property* Class::property(std::string_view propertyName) const {
   for (const Class* cls = this; cls != nullptr; cls = cls->parent()) {
     for (const Property& property : cls->properties) {
-      if (property.name == wanted) return &property;
+      if (property.name == propertyName) return &property;
     }
   }
   return nullptr;
 }
 
-std::string_view Class::encoding(std::string_view wanted) const {
-  std::string_view found;
+std::string_view Class::encoding(std::string_view propertyName) const {
+  std::string_view encoding;
   for (const Class* cls = this; cls != nullptr; cls = cls->parent()) {
     for (const Property& property : cls->properties) {
-      if (property.name == wanted) found = property.encoding;
+      if (property.name == propertyName) encoding = property.encoding;
     }
   }
-  return found;
+  return encoding;
 }
 
 Dictionary Class::mergedKeyTable() const {
-  std::size_t most = 0;
+  std::size_t capacity = 0;
   for (const Class* cls = this; cls != nullptr; cls = cls->parent()) {
-    most += cls->keyPathPropertySelectorMapping.size();
+    capacity += cls->keyPathPropertySelectorMapping.size();
   }
   Dictionary merged;
-  merged.reserve(most);
+  merged.reserve(capacity);
   for (const Class* cls = this; cls != nullptr; cls = cls->parent()) {
     for (const KeyEntry& entry : cls->keyPathPropertySelectorMapping) {
       merged.set(entry.keyPath, entry.property);
@@ -84,7 +84,7 @@ Dictionary Class::mergedClassTable() const {
   return merged;
 }
 
-/// Lives as long as the process, like the class object that it belongs to.
+/// Never freed, since class objects live as long as the process.
 struct Class::Resolved {
   std::recursive_mutex lock;
   std::optional<const Dictionary> typeCache;
@@ -92,12 +92,12 @@ struct Class::Resolved {
 };
 
 Class::Resolved& Class::resolved() const {
-  if (Resolved* made = resolved_.load(std::memory_order_acquire)) return *made;
-  auto* fresh = new Resolved;
-  Resolved* first = nullptr;
-  if (resolved_.compare_exchange_strong(first, fresh, std::memory_order_acq_rel)) return *fresh;
-  delete fresh;
-  return *first;
+  if (Resolved* resolved = resolved_.load(std::memory_order_acquire)) return *resolved;
+  auto* own = new Resolved;
+  Resolved* other = nullptr;  // that of a thread that was faster
+  if (resolved_.compare_exchange_strong(other, own, std::memory_order_acq_rel)) return *own;
+  delete own;
+  return *other;
 }
 
 const Dictionary& Class::propertyTypeEncodingCache() const {
@@ -115,7 +115,7 @@ const Dictionary& Class::propertyTypeEncodingCache() const {
   return *state.typeCache;
 }
 
-const MappingPlan& Class::makePlan() const {
+const MappingPlan& Class::buildPlan() const {
   Resolved& state = resolved();
   const std::lock_guard guard(state.lock);
   if (!state.plan) state.plan.emplace(*this, mergedKeyTable(), mergedClassTable());

@@ -17,17 +17,17 @@ struct MappingPlan;
 
 enum class Ownership : std::uint8_t { assign, copy, strong, weak };
 
-/// One declared property of a model class.
+/// A declared property of a model class.
 struct Property {
   std::string_view name;
-  /// The short type code: @"NSString", B, i, q, Q, f, d, @, @? or #. The class inside is declared,
-  /// not enforced: an object property keeps whatever kind of value is assigned to it by name.
+  /// Type code: B, i, q, Q, f, d, @"NSString" (any class), @, @? or #. The class is not enforced:
+  /// an object property stores any kind of value that is assigned by name.
   std::string_view encoding;
   Ownership ownership;
   bool readOnly;
-  /// Where the value is stored in an object, in bytes from its start; 0 for a computed property.
+  /// Offset in bytes of the value in an object; 0 for a computed property.
   std::size_t offset;
-  /// Reads or writes through accessors of the class instead of the field; may be nullptr.
+  /// Accessors to use in place of the field; may be nullptr.
   Value (*get)(const OrvantaBaseModel&);
   void (*set)(OrvantaBaseModel&, const Value&);
 
@@ -40,8 +40,8 @@ struct Property {
   }
   constexpr bool isScalar() const { return encoding.front() != '@' && encoding.front() != '#'; }
   [[gnu::always_inline]] inline Value valueIn(const OrvantaBaseModel& object) const;
-  /// Scalars take the value's numeric reading, which throws the invalid-argument exception when
-  /// there is none.
+  /// A scalar property reads the value as a number, which throws the invalid-argument exception if
+  /// it is not one; see scalarReading.
   void assignTo(OrvantaBaseModel& object, const Value& value) const;
   void assignTo(OrvantaBaseModel& object, Value&& value) const;
 };
@@ -72,7 +72,7 @@ struct KeyEntry {
   std::string_view keyPath;
   std::string_view property;
 };
-/// Property name to the model class of its dictionary, or of its array's elements.
+/// Property name to the model class of its dictionary, or of the dictionaries in its array.
 struct ClassEntry {
   std::string_view property;
   const Class* model;
@@ -80,13 +80,13 @@ struct ClassEntry {
 using KeyTable = std::span<const KeyEntry>;
 using ClassTable = std::span<const ClassEntry>;
 
-/// The class object of a model: constant data, but for what is resolved on first use.
+/// The class object of a model. Constant data, except for the tables that are merged on first use.
 struct Class : ClassObject {
-  /// The class's own declarations, in their order.
+  /// The declarations in the class itself, in their order.
   std::span<const Property> properties;
   KeyTable keyPathPropertySelectorMapping;
   ClassTable keyPathClassMapping;
-  /// A new object, not initialized yet.
+  /// Returns a new object, not initialized yet.
   OrvantaBaseModel* (*alloc)();
 
   constexpr Class(std::string_view className, const Class* parent,
@@ -99,38 +99,38 @@ struct Class : ClassObject {
         alloc(allocator) {}
 
   const Class* parent() const { return static_cast<const Class*>(superclass); }
-  /// The property of that name of the class or its nearest ancestor, or nullptr.
-  const Property* property(std::string_view wanted) const;
-  /// The type code of that name in the farthest ancestor that declares it, else empty.
-  std::string_view encoding(std::string_view wanted) const;
+  /// The property of that name in the class or its nearest superclass, or nullptr.
+  const Property* property(std::string_view propertyName) const;
+  /// The type code of that property in the farthest superclass that declares it, or empty.
+  std::string_view encoding(std::string_view propertyName) const;
 
-  /// Both tables merged along the class chain: the most derived class's entries first, and an
-  /// ancestor's entry wins over a descendant's of the same key.
+  /// The tables merged along the class chain. Entries of the most derived class come first; for the
+  /// same key the entry of the superclass wins.
   Dictionary mergedKeyTable() const;
   Dictionary mergedClassTable() const;
-  /// Property name to type code over the whole chain; an ancestor's declaration wins. Made once,
-  /// under the class's own recursive lock; from any thread.
+  /// Property name to type code along the class chain; the declaration of the superclass wins.
+  /// Built once under the class's own recursive lock, from any thread.
   const Dictionary& propertyTypeEncodingCache() const;
-  /// The merged tables, resolved; made once under the same lock.
+  /// The merged tables, resolved. Built once under the same lock.
   const MappingPlan& plan() const {
-    const MappingPlan* made = plan_.load(std::memory_order_acquire);
-    return made != nullptr ? *made : makePlan();
+    const MappingPlan* plan = plan_.load(std::memory_order_acquire);
+    return plan != nullptr ? *plan : buildPlan();
   }
 
  private:
   struct Resolved;
   Resolved& resolved() const;
-  [[gnu::cold]] const MappingPlan& makePlan() const;
+  [[gnu::cold]] const MappingPlan& buildPlan() const;
   mutable std::atomic<Resolved*> resolved_{nullptr};
   mutable std::atomic<const MappingPlan*> plan_{nullptr};
 };
 
-/// The model class that a value holds, or nullptr.
+/// Returns the value as a model class, or nullptr if it is not one.
 const Class* modelClassIn(const Value& value);
 
-/// Every model class of the library, in the order of ModelClasses.def.
+/// All model classes of the library, in the order of ModelClasses.def.
 std::span<const Class* const> modelClasses();
-/// The model class of that name, or nullptr.
+/// Returns the model class of that name, or nullptr.
 const Class* modelClassNamed(std::string_view name);
 
 }  // namespace orvanta

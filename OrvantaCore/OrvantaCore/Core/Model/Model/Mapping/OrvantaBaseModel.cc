@@ -44,11 +44,11 @@ Ref<OrvantaBaseModel> OrvantaBaseModel::copyWithZone() const {
 
 // ---- Tables ---------------------------------------------------------------
 
-/// What an object has of its own once a table was read or set.
+/// The tables of one object. Few objects have any, so they are created when read or set.
 struct OrvantaBaseModel::OwnTables {
   Dictionary keys;
   Dictionary classes;
-  std::shared_ptr<const MappingPlan> plan;  // only when a table was set
+  std::shared_ptr<const MappingPlan> plan;  // only if a table was set
 };
 
 OrvantaBaseModel::OrvantaBaseModel() = default;

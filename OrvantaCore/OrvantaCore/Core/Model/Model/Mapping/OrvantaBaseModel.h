@@ -15,10 +15,17 @@ struct MappingEntry;
 struct MappingPlan;
 enum class Converter : std::uint8_t;
 
-/// Root of every data class: fills an object's properties from a JSON-shaped dictionary, and writes
-/// them back, by the tables that the class declares.
+/// Root of all models: reads the properties of an object from a JSON-shaped dictionary and writes
+/// them back, by the tables that the class declares (see PropertyMacros.h).
 ///
-/// An object is to be filled by one thread at a time; writing it out holds a lock of its own.
+///     const Value payload = parseJSON(text);
+///     const Dictionary* dictionary = payload.dictionary();
+///     auto push = dictionary != nullptr ? make<OrvantaPushObject>(*dictionary) : nullptr;
+///     if (push == nullptr) …                          // RefusalRecorder has the reason
+///     if (auto id = push->pushId().get()) use(*id);   // see PropertyValue
+///     const Dictionary written = push->dictionaryValue();
+///
+/// One thread at a time may update an object. Any number may write it: writing holds a lock.
 class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
  public:
   using Self = OrvantaBaseModel;
@@ -26,69 +33,69 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
   const Class& isa() const override { return kClass; }
   static KeyTable keyPathPropertySelectorMapping() { return {}; }
   static ClassTable keyPathClassMapping() { return {}; }
-  /// Property name to type code, of the object's own class.
+  /// Property name to type code, for the object's class.
   const Dictionary& propertyTypeEncodingCache() const { return isa().propertyTypeEncodingCache(); }
 
-  // ---- Making ----
+  // ---- Creating ----
 
-  OrvantaBaseModel();  // and then an initializer, see make
+  OrvantaBaseModel();  // needs an initializer; see make
   ~OrvantaBaseModel() override;
 
-  /// initWithDictionary: without one.
+  /// Initializes without a dictionary.
   virtual bool init() { return initWithDictionary(nullptr); }
-  /// The update, whose refusal means that there is no object. An override may let the
-  /// undefined-key exception pass; it says so.
+  /// Initializes from a dictionary; returns false if the update fails. An override that can throw
+  /// the undefined-key exception documents it.
   bool initWithDictionary(const Dictionary* dictionary) override {
     return updateWithDictionary(dictionary);
   }
-  /// A new object of the same class, initialized from this one's dictionary; nil when that
-  /// refuses. Since dotted wire keys are written flat, their properties do not come along.
+  /// Returns a new object of the same class, initialized from this one's dictionary; nil if that
+  /// fails. Properties with dotted wire keys are not copied, because these are written flat.
   Ref<OrvantaBaseModel> copyWithZone() const;
 
   // ---- Reading ----
 
+  // Limits of one outermost update: without them a payload could nest and multiply models at will.
   static constexpr std::size_t kMaxNestedModels = 128;
   static constexpr std::size_t kMaxModels = 100'000;
   static constexpr std::size_t kMaxModelsNamedByPayload = 10'000;
-  static constexpr std::size_t kMaxArrayElements = 10'000'000;
+  static constexpr std::size_t kMaxArrayElements = 10'000'000;  // counted whenever they are walked
 
-  /// For each entry of the merged key table, in its order: looks the key path up, makes models of
-  /// nested dictionaries, converts, and assigns. A missing key leaves its property alone.
+  /// For each entry of the merged key table, in order: looks up the key path, converts nested
+  /// dictionaries to models, converts the value, and assigns it. A missing key keeps its property.
   ///
-  /// Answers NO for a value that a converter refuses and for an undefined key, silently; for any
-  /// other error after an error line in the log. std::bad_alloc passes. In one outermost update,
-  /// models nested deeper than kMaxNestedModels, more than kMaxModels, more than
-  /// kMaxModelsNamedByPayload whose class a "klazz" names, or more than kMaxArrayElements array
-  /// elements to look at (each counts as often as it is looked at) are such an error. The lines of
-  /// an update and of those inside it show 64 KB of dictionaries in all.
+  /// Returns false if a converter rejects a value or a key is undefined, without logging; for any
+  /// other error after logging it. Exceeding a limit above is such an error. The log lines of one
+  /// outermost update show 64 KB of dictionaries in all. Throws std::bad_alloc only.
   bool updateWithDictionary(const Dictionary* dictionary) override;
 
-  /// A nested dictionary as a model: of the class declared for the property, else of the one that
-  /// its "klazz" names, else the dictionary as it is. Nil when the model refuses the dictionary.
+  /// Converts a nested dictionary to a model of the class declared for the property, or else of the
+  /// class that its "klazz" names; without either returns it as it is. Nil if the model fails.
   Value valueForDictionaryComponent(const Dictionary& dictionary, std::string_view property) const;
-  /// An array with its dictionaries made models the same way, at any depth. An element that
-  /// refuses throws the invalid-argument exception.
+  /// Returns an array with models in place of its dictionaries, at any depth. Throws the
+  /// invalid-argument exception if one fails, since an array cannot contain nil.
   Array valueForArrayComponent(const Array& array, std::string_view property) const;
 
-  /// Converts a value for a property, in either direction: booleans, URLs and dates by the type
-  /// code, anything else stays. False when the value cannot be one. `error` is never filled in.
+  /// Converts a value for a property by its type code, in either direction: booleans, URLs and
+  /// dates; anything else stays. Returns false if the value cannot be converted. `error` is never
+  /// set.
   bool validateValue(Value& value, std::string_view property, Value* error = nullptr) const;
   bool validateValueForKeyPath(Value& value, std::string_view keyPath,
                                Value* error = nullptr) const;
-  /// Text to URL (nil when it is none), URL to text; refuses the rest.
+  /// A string to a URL (nil if it is not one), a URL to its string. Rejects anything else.
   static bool NSURLValidateValue(Value& value, Value* error = nullptr);
-  /// Number of milliseconds since 1970 to date and back; null stays; refuses the rest.
+  /// Milliseconds since 1970 to a date and back; null stays. Rejects anything else.
   static bool NSDateValidateValue(Value& value, Value* error = nullptr);
-  /// The boolean reading; throws the invalid-argument exception when there is none.
+  /// A number or a string to a boolean; throws the invalid-argument exception for anything else.
   static bool BOOLValidateValue(Value& value, Value* error = nullptr);
 
   Value valueForKey(std::string_view key) const override;
   void setValueForKey(const Value& value, std::string_view key) override;
-  /// Reads all but the last step of a dotted path and assigns to what stands there, if anything.
+  /// Sets the last key of a dotted path on the object at the rest of the path; does nothing if that
+  /// is nil. Throws the undefined-key exception if it is a value without keys.
   void setValueForKeyPath(const Value& value, std::string_view keyPath);
 
-  /// This object's tables: wire key path to property name, and property name to class. Those of
-  /// the class until set; a table that is set to an empty one counts as not set.
+  /// The tables of this object: wire key path to property name, and property name to class. Those
+  /// of the class until they are set; an empty table counts as not set.
   const Dictionary& keyPathPropertyDictionary() const;
   void setKeyPathPropertyDictionary(Dictionary table);
   const Dictionary& keyPathClassDictionary() const;
@@ -98,17 +105,17 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
 
   Dictionary dictionaryValue() const final { return dictionaryValueWithPolicy(false); }
   Dictionary dictionaryValueWithClassInfo() const final { return dictionaryValueWithPolicy(true); }
-  /// Holds the object's recursive lock. A wire key becomes one flat key, dots and all; unset
-  /// integers, nil and what a converter refuses are left out. "klazz" stands last.
+  /// Writes each wire key path as one key, with its dots. Omits nil, unset integers (kUnsetInteger)
+  /// and values that a converter rejects. "klazz" comes last. Holds the object's recursive lock.
   Dictionary dictionaryValueWithPolicy(bool classInfo) const override;
-  /// Models inside an array, at any depth, become their dictionaries.
+  /// Returns an array with dictionaries in place of models, at any depth.
   static Array JSONValidValueForArray(const Array& array, bool classInfo);
 
-  /// "Dictionary Representation :" and the dictionary.
+  /// "Dictionary Representation :" and the dictionary, described.
   std::string description() const override;
   std::string debugDescription() const { return attributedDebugDescription().string(); }
   AttributedString attributedDebugDescription() const;
-  /// Equal to any model with an equal dictionary, whatever its class.
+  /// Equal to any model with an equal dictionary, also of another class.
   bool isEqual(const Value& other) const override;
   std::size_t hash() const override;
 
@@ -116,18 +123,20 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
   friend struct Reflect;
   static const Class kClass;
 
-  /// Reads a key path of a payload outside the update's catch: the undefined-key exception passes.
+  /// Returns the value at a key path of a payload, for overrides that read before the update.
+  /// Unlike the update it throws the undefined-key exception, which it records under `property`.
   Value readKeyPath(const Dictionary& dictionary, std::span<const Value> keyPath,
                     std::string_view property) const;
-  /// Tells a recorder that a model which this one needs refused its dictionary.
+  /// Records that a nested model failed that this one requires.
   void recordFailedModel(std::string_view keyPath, std::string_view property) const;
 
-  /// For a property whose model is no entry of its own but flattened: its keys stand among this
-  /// object's. Makes the model of the whole dictionary; false when it refuses, and is nil then.
+  /// Reads a flattened model, one whose keys are mixed with this object's own, from the whole
+  /// dictionary. Returns false and sets it to nil on failure.
   template <class M>
   bool updateFlattened(PropertyValue<M>& model, std::string_view property,
                        const Dictionary* dictionary);
-  /// The model's dictionary with this object's own entries over it, "klazz" among them.
+  /// Returns the dictionary of a flattened model with this object's entries added, which replace
+  /// the model's, "klazz" included.
   static Dictionary flattened(const OrvantaBaseModel* model, bool classInfo, const Dictionary& own);
 
  private:
@@ -150,11 +159,12 @@ class OrvantaBaseModel : public Object, public OrvantaSerializableModel {
   mutable std::unique_ptr<OwnTables> ownTables_;
 };
 
-/// Makes a model of a class that is known at run time; nil when it refuses the dictionary.
+/// Creates a model of a class known at run time; nil if it rejects the dictionary.
 Ref<OrvantaBaseModel> makeModel(const Class& cls, const Dictionary* dictionary);
 
-/// Makes an M and initializes it with one of its initializers, `init` unless another is named; nil
-/// when that answers false:
+/// Creates an M with one of its initializers, `init` by default; nil if that returns false.
+/// Creation is separate from initialization because initializers call functions that subclasses
+/// override.
 ///
 ///     auto push = make<OrvantaPushObject>(&OrvantaPushObject::initWithDictionary, &payload);
 template <class M>

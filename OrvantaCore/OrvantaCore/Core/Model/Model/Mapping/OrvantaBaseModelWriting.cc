@@ -15,12 +15,12 @@ Value OrvantaBaseModel::readForWriting(const MappingEntry& entry) const {
   } catch (const std::bad_alloc&) {
     throw;
   } catch (const std::exception&) {
-    return {};  // what cannot be read is not written
+    return {};  // a property that cannot be read is not written
   }
 }
 
-/// Nothing to convert is the common case; an array is then shared as it is.
-static bool mayChange(const Array& array) {
+/// Most arrays have neither; they are shared instead of copied.
+static bool hasModelsOrArrays(const Array& array) {
   return std::any_of(array.begin(), array.end(), [](const Value& element) {
     return element.array() != nullptr || element.object() != nullptr;
   });
@@ -43,7 +43,7 @@ static Array converted(const Array& array, bool classInfo) {
 
 Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
   const std::lock_guard guard(writeLock_);
-  const auto ownPlan = this->ownPlan();  // a getter may replace the tables
+  const auto ownPlan = this->ownPlan();  // kept alive: a getter may replace the tables
   const MappingPlan& plan = ownPlan != nullptr ? *ownPlan : isa().plan();
   Dictionary result;
   const auto add = [&]<class V>(const Value& key, V&& value) {
@@ -51,11 +51,11 @@ Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
     result.appendInReserve(key, std::forward<V>(value));
   };
   for (const MappingEntry& entry : plan.entries) {
-    const Value* held = entry.objectIn(*this);
-    if (held != nullptr) {  // most are, and most of those are nil or text
-      if (held->isNil()) continue;
-      if (held->isString() && entry.converter == Converter::none) {
-        add(entry.key, *held);
+    const Value* stored = entry.objectIn(*this);
+    if (stored != nullptr) {  // the most frequent cases: nil, or a string
+      if (stored->isNil()) continue;
+      if (stored->isString() && entry.converter == Converter::none) {
+        add(entry.key, *stored);
         continue;
       }
     }
@@ -65,7 +65,7 @@ Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
     if (value.isNil() || isUnsetInteger(value)) continue;
     if (const auto* model = value.as<OrvantaBaseModel>()) {
       value = model->dictionaryValueWithPolicy(classInfo);
-    } else if (value.array() != nullptr && mayChange(*value.array())) {
+    } else if (value.array() != nullptr && hasModelsOrArrays(*value.array())) {
       value = converted(*value.array(), classInfo);
     }
     if (entry.converter != Converter::none && (!convert(value, entry.converter) || value.isNil())) {
@@ -78,14 +78,14 @@ Dictionary OrvantaBaseModel::dictionaryValueWithPolicy(bool classInfo) const {
 }
 
 Array OrvantaBaseModel::JSONValidValueForArray(const Array& array, bool classInfo) {
-  return mayChange(array) ? converted(array, classInfo) : array;
+  return hasModelsOrArrays(array) ? converted(array, classInfo) : array;
 }
 
 Dictionary OrvantaBaseModel::flattened(const OrvantaBaseModel* model, bool classInfo,
                                        const Dictionary& own) {
   if (model == nullptr) return own;
   Dictionary result = model->dictionaryValueWithPolicy(classInfo);
-  result.remove("klazz");  // the object's own comes last
+  result.remove("klazz");  // so that the object's own comes last
   result.addEntries(own);
   return result;
 }

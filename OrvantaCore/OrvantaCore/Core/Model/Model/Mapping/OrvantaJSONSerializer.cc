@@ -7,7 +7,7 @@
 
 namespace orvanta {
 
-static std::optional<std::string> text(const Value& object, JSONStyle style) {
+static std::optional<std::string> jsonText(const Value& object, JSONStyle style) {
   std::string text;
   const bool isContainer = object.array() != nullptr || object.dictionary() != nullptr;
   if (!isContainer || !writeJSON(object, text, style)) return std::nullopt;
@@ -15,7 +15,7 @@ static std::optional<std::string> text(const Value& object, JSONStyle style) {
 }
 
 std::optional<std::string> OrvantaJSONSerializer::dataFromDictionary(const Value& object) {
-  return text(object, {});
+  return jsonText(object, {});
 }
 
 Value OrvantaJSONSerializer::dictionaryFromData(std::string_view data) {
@@ -25,7 +25,7 @@ Value OrvantaJSONSerializer::dictionaryFromData(std::string_view data) {
 }
 
 std::string OrvantaJSONSerializer::jsonStringFromDict(const Value& object, bool prettyPrint) {
-  if (auto made = text(object, {.pretty = prettyPrint})) return *std::move(made);
+  if (auto json = jsonText(object, {.pretty = prettyPrint})) return *std::move(json);
   if (SystemLog* log = Platform::current().systemLog()) {
     log->write(
         "+[OrvantaJSONSerializer jsonStringFromDict:withPrettyPrint:]: error: "

@@ -8,15 +8,15 @@
 
 namespace orvanta {
 
-/// JSON text and values.
+/// Converts between JSON text and containers, as the platform's serializer does.
 class OrvantaJSONSerializer {
  public:
-  /// The compact text of an array or dictionary; none when no text can be made of the object.
+  /// Returns compact JSON text for an array or dictionary; nothing if JSON cannot represent it.
   static std::optional<std::string> dataFromDictionary(const Value& object);
-  /// The array or dictionary of a text; nil when it is none.
+  /// Parses an array or a dictionary; nil if the data is not JSON for one.
   static Value dictionaryFromData(std::string_view data);
-  /// The text of an array or dictionary. On failure "{}", and a line in the system log, whatever
-  /// the log level.
+  /// Returns JSON text for an array or dictionary. On failure returns "{}" and writes a line to the
+  /// system log, whatever the log level.
   static std::string jsonStringFromDict(const Value& object, bool prettyPrint);
 };
 

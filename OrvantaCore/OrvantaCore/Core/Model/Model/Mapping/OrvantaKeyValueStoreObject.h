@@ -4,17 +4,17 @@
 
 namespace orvanta {
 
-/// A value of a key-value store with the time of its making.
+/// A value in a key-value store, with its creation date.
 class OrvantaKeyValueStoreObject : public OrvantaBaseModel {
   ORVANTA_MODEL(OrvantaKeyValueStoreObject, OrvantaBaseModel)
 
   ORVANTA_READONLY("date", strong, Date, creationDate)
   ORVANTA_READONLY("value", strong, AnyObject, value)
 
-  /// A holder made now.
+  /// Creates an object with the current date.
   static Ref<OrvantaKeyValueStoreObject> objectWithValue(const Value& value);
   bool initWithValue(const Value& value);
-  /// One without a date gets that of 1970-01-01.
+  /// Sets the date to 1970-01-01 if the dictionary has none.
   bool updateWithDictionary(const Dictionary* dictionary) override;
 };
 

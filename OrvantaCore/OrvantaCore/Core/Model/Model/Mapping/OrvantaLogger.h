@@ -6,8 +6,8 @@
 
 namespace orvanta {
 
-/// Holds the process-wide log level: 0 and below write nothing, 1 (initial) writes error lines, 2
-/// and more also debug lines.
+/// The log level of the process: up to 0 nothing is logged, from 1 (the default) errors, from 2
+/// also debug messages.
 class OrvantaLogger {
  public:
   static std::int64_t logLevel() noexcept { return level_.load(std::memory_order_relaxed); }
@@ -19,8 +19,8 @@ class OrvantaLogger {
   inline static constinit std::atomic<std::int64_t> level_{1};
 };
 
-/// The place that a log line names. The line numbers are part of the log format and stay as they
-/// are, wherever the call stands in the source.
+/// The place that a log line names. Its line number is part of the log format and does not follow
+/// the source.
 struct LogSite {
   std::string_view method;  // "-[Class selector]", "+[…" for a class method
   std::string_view file;    // without extension
@@ -30,8 +30,8 @@ struct LogSite {
 /// Writes "\n\n<glyph> <method> (<file>:<line>) <glyph>\n<message>\n\n" to the system log.
 void writeLogLine(std::string_view glyph, const LogSite& site, std::string_view message);
 
-/// Error and debug lines. The message is a callable that makes the text; it is called only when
-/// the level lets the line through.
+/// Log an error or a debug message. The message is a callable that returns it; it is called only if
+/// the level is high enough.
 template <class MakeMessage>
 void logError(const LogSite& site, MakeMessage&& makeMessage) {
   if (OrvantaLogger::logLevel() >= 1) writeLogLine("❗", site, makeMessage());

@@ -4,15 +4,15 @@
 
 namespace orvanta {
 
-/// What a stored record knows about its storage.
+/// A record in persistent storage.
 class OrvantaPersistenceModel {
  public:
   virtual ~OrvantaPersistenceModel() = default;
 
-  /// The key of the stored record.
+  /// Key of the record in the storage.
   virtual const PropertyValue<Number>& storageId() const = 0;
   virtual void setStorageId(PropertyValue<Number> storageId) = 0;
-  /// The keys of the records that this one carries.
+  /// Keys of the records that were merged into this one.
   virtual const PropertyValue<MutableArray>& idsContained() const = 0;
   virtual void setIdsContained(PropertyValue<MutableArray> idsContained) = 0;
 };

@@ -4,19 +4,20 @@
 
 namespace orvanta {
 
-/// What can be made from a JSON-shaped dictionary and turned back into one.
+/// An object that is read from a JSON-shaped dictionary and written to one.
 class OrvantaSerializableModel {
  public:
   virtual ~OrvantaSerializableModel() = default;
 
-  /// Initializes a new object from a dictionary, nullptr for none. False: there is no object.
+  /// Initializes a new object from a dictionary, or without one if nullptr. If it returns false,
+  /// the object must not be used.
   virtual bool initWithDictionary(const Dictionary* dictionary) = 0;
-  /// Applies a dictionary, nullptr for none, to the object. False when something was refused; what
-  /// had been assigned before stays assigned.
+  /// Updates the object from a dictionary; nullptr changes nothing. Returns false if a value is
+  /// rejected; properties assigned before it keep their new values.
   virtual bool updateWithDictionary(const Dictionary* dictionary) = 0;
   virtual Dictionary dictionaryValue() const = 0;
   virtual Dictionary dictionaryValueWithClassInfo() const = 0;
-  /// The object's dictionary; with class info, every model in it names its class under "klazz".
+  /// Returns the object as a dictionary; with class info every model has its class under "klazz".
   virtual Dictionary dictionaryValueWithPolicy(bool classInfo) const = 0;
 };
 

@@ -6,34 +6,35 @@
 
 namespace orvanta {
 
-/// What a property's type code makes of a value on its way in or out.
+/// How a value is converted for a property, in reading and in writing.
 enum class Converter : std::uint8_t { none, boolean, url, date };
 
-/// By the type code: exactly "B", else one that contains "NSURL", else "NSDate".
+/// Returns the converter for a type code: boolean for "B", url if it contains "NSURL", date if it
+/// contains "NSDate".
 Converter converterFor(std::string_view encoding);
 
-/// How many names a wire key path has.
+/// Number of names in a wire key path.
 enum class KeyDepth : std::uint8_t { one, two, more };
 
-/// One entry of the merged tables with everything resolved.
+/// An entry of the merged tables, resolved once so that an update searches nothing by name.
 struct MappingEntry {
-  Value key;                 // the wire key path as one flat text
-  const Property* property;  // nullptr: no such property, or a path of several names
-  const Class* model;        // the declared class of a nested dictionary or of elements, or nullptr
-  std::size_t objectOffset;  // of a property that is no scalar and read from its field, else 0
+  Value key;                 // the wire key path as one string
+  const Property* property;  // nullptr if there is none of the name, or the name is a path
+  const Class* model;        // declared class of nested dictionaries, or nullptr
+  std::size_t objectOffset;  // of an object property that is read from its field, else 0
   Converter converter;
   KeyDepth depth;
-  bool storesStrings;  // text is assigned as it comes, to the field
-  bool sharesParent;   // the entry before has the same parent
-  Value parent;        // the first name of a path of several, else nil
-  Value child;         // and what follows it
+  bool storesStrings;  // a string is assigned to the field as it is
+  bool sharesParent;   // the previous entry has the same parent
+  Value parent;        // first name of a path of several names, else nil
+  Value child;         // the rest of that path
   Value propertyName;
 
-  /// Whether the property's name is a path of several.
+  /// Returns whether the property's name is a path of several names.
   bool hasPropertyPath() const {
     return property == nullptr && propertyName.string()->find('.') != std::string_view::npos;
   }
-  /// The object's value where it is stored, nullptr for one that must be asked for.
+  /// The stored value of an object property; nullptr if it must be read otherwise.
   const Value* objectIn(const OrvantaBaseModel& owner) const {
     if (objectOffset == 0) return nullptr;
     return reinterpret_cast<const Value*>(reinterpret_cast<const std::byte*>(&owner) +
