@@ -26,7 +26,7 @@ void SetterModel::setText(PropertyValue<String> text) {
   if (text.get() == "standard") throw std::runtime_error("standard trouble");
   if (text.get() == "memory") throw std::bad_alloc();
   if (text.get() == "tables") setKeyPathPropertyDictionary({{"after", "before"}});
-  if (text && !text.get()) before_ = "another kind";
+  if (text.isPresent() && !text.get()) before_ = "another kind";
   text_ = std::move(text);
 }
 

@@ -112,8 +112,8 @@ TEST(OrvantaPushObject, AnUpdateResetsAlertActionAndBadge) {
   const auto push = modelFromJSON<OrvantaPushObject>(
       R"({"aps": {"alert": "old", "badge": 3, "sound": "s"}, "_ov": {"act": {"uri": "a"}}})");
   EXPECT_TRUE(updateFromJSON(*push, "{}"));
-  EXPECT_FALSE(push->alert().get()->body());
-  EXPECT_FALSE(push->action().get()->deeplinkURLString());
+  EXPECT_FALSE(push->alert().get()->body().isPresent());
+  EXPECT_FALSE(push->action().get()->deeplinkURLString().isPresent());
   EXPECT_EQ(push->badge(), kNoBadge);
   EXPECT_EQ(push->sound().get(), "s");  // the table does not change missing keys
   EXPECT_EQ(push->actionDictionary().raw(), Value(Dictionary({{"uri", "a"}})));

@@ -166,7 +166,7 @@ TEST(PushPayloadMatrix, AlertAndClickActionExistForEveryValue) {
     const Value uri = value.dictionary() ? (*value.dictionary())["uri"] : Value();
     EXPECT_EQ(clicked->action().get()->deeplinkURLString().raw(), uri) << cell.json;
     EXPECT_EQ(clicked->actionDictionary().raw(), clicked->defaultActionDictionary().raw());
-    EXPECT_TRUE(uri.isString() || !clicked->action().get()->deeplinkURL()) << cell.json;
+    EXPECT_TRUE(uri.isString() || !clicked->action().get()->deeplinkURL().isPresent()) << cell.json;
   }
 }
 

@@ -26,7 +26,7 @@ TEST(OrvantaRequestPathType, ReturnsNilForUnknownCodes) {
 
 TEST(OrvantaBaseRequest, SetsUpOnceAndBuildsASpec) {
   const auto base = make<OrvantaBaseRequest>();
-  EXPECT_FALSE(base->requestSpec()->path);
+  EXPECT_FALSE(base->requestSpec()->path.isPresent());
   EXPECT_EQ(base->priority(), std::nullopt);
 
   const auto request = modelFromJSON<OrvantaSetInboxStatusRequest>(R"({"st":4,"ids":{"iid":"i"}})");
