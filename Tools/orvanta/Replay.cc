@@ -15,10 +15,10 @@ namespace orvanta::tool {
 
 namespace {
 
-constexpr std::size_t kMostBadLines = 10;
-constexpr std::size_t kMostKeys = 1000;  // "klazz" entries can nest in more ways than these
+constexpr std::size_t kMaxFirstBadLines = 10;
+constexpr std::size_t kMaxKeys = 1000;  // "klazz" entries can nest in more ways than these
 
-/// The way to the key that refused.
+/// Returns the path to the rejected key, through nested models.
 std::string keyOf(const RefusalRecorder& recorder) {
   std::string key;
   if (!recorder.refusal()) return key;
@@ -43,7 +43,8 @@ void ReplayCounts::add(const ReplayCounts& other) {
   for (const auto& [key, count] : other.refusedBy) refusedBy[key] += count;
   badLines += other.badLines;
   firstBadLines.insert(other.firstBadLines.begin(), other.firstBadLines.end());
-  while (firstBadLines.size() > kMostBadLines) firstBadLines.erase(std::prev(firstBadLines.end()));
+  while (firstBadLines.size() > kMaxFirstBadLines)
+    firstBadLines.erase(std::prev(firstBadLines.end()));
   for (const auto& [size, count] : other.sizes) sizes[size] += count;
 }
 
@@ -57,26 +58,26 @@ std::uint64_t ReplayCounts::sizeAt(double share) const {
   return 0;
 }
 
-void Replay::refuse(const ReplayLine& line, const std::string& reason) {
+void Replay::reject(const RecordedLine& line, const std::string& reason) {
   ++counts_.badLines;
   // A job sees its lines in their order, so its first ten hold all that can be among the first.
-  if (counts_.firstBadLines.size() < kMostBadLines) {
+  if (counts_.firstBadLines.size() < kMaxFirstBadLines) {
     counts_.firstBadLines.emplace(line.number, line.place + ": " + escapeForTerminal(reason));
   }
 }
 
-void Replay::run(const ReplayLine& line) {
+void Replay::run(const RecordedLine& line) {
   if (line.isTooLong) {
-    return refuse(line, "more than " + std::to_string(LineReader::kMaxLineBytes) + " bytes");
+    return reject(line, "more than " + std::to_string(LineReader::kMaxLineBytes) + " bytes");
   }
   JSONError error;
   const Value value = parseJSON(line.text, &error);
   const Dictionary* payload = value.dictionary();
   if (value.isNil()) {
-    return refuse(line,
+    return reject(line,
                   "column " + std::to_string(error.offset + 1) + ": " + std::string(error.reason));
   }
-  if (payload == nullptr) return refuse(line, "is " + std::string(value.kindName()));
+  if (payload == nullptr) return reject(line, "is " + std::string(value.kindName()));
   ++counts_.payloads;
   ++counts_.sizes[line.text.size()];
 
@@ -89,7 +90,7 @@ void Replay::run(const ReplayLine& line) {
       ++counts_.refused;
       const std::string key = keyOf(recorder);
       const bool isNew = !counts_.refusedBy.contains(key);
-      ++counts_.refusedBy[isNew && counts_.refusedBy.size() >= kMostKeys ? "other keys" : key];
+      ++counts_.refusedBy[isNew && counts_.refusedBy.size() >= kMaxKeys ? "other keys" : key];
     }
   } catch (const Exception&) {
     ++counts_.undefinedKey;

@@ -20,7 +20,7 @@ namespace orvanta::tool {
 
 namespace {
 
-using Chunk = std::vector<ReplayLine>;
+using Chunk = std::vector<RecordedLine>;
 
 /// A thread that joins in its destructor; std::jthread is missing from some C++ libraries.
 class JoiningThread {
@@ -63,7 +63,7 @@ ReplayCounts replayAll(LineReader& reader, ProgressBar& progress, std::uint64_t 
                        std::uint64_t jobs) {
   std::vector<Replay> replays(jobs);
   const auto runChunk = [](Replay& replay, const Chunk& chunk) {
-    for (const ReplayLine& line : chunk) replay.run(line);
+    for (const RecordedLine& line : chunk) replay.run(line);
   };
   if (jobs == 1) {
     readChunks(reader, progress, totalBytes,

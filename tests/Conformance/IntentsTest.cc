@@ -23,18 +23,18 @@ class IntentsConformance : public ::testing::Test {};
 using IntentsSubjects = ::testing::Types<MemoryIntentsSubject, DoubleIntentsSubject>;
 TYPED_TEST_SUITE(IntentsConformance, IntentsSubjects, SubjectNames);
 
-TYPED_TEST(IntentsConformance, ADonationIsAnsweredOnceAndAfterTheCall) {
+TYPED_TEST(IntentsConformance, ADonationCompletesOnceAndAfterTheCall) {
   for (const bool fails : {false, true}) {
     TypeParam subject(fails);
-    std::vector<Ref<NSError>> answers;
-    subject.service.donateInteraction({}, [&](const Ref<NSError>& e) { answers.push_back(e); });
-    EXPECT_TRUE(answers.empty());
+    std::vector<Ref<NSError>> results;
+    subject.service.donateInteraction({}, [&](const Ref<NSError>& e) { results.push_back(e); });
+    EXPECT_TRUE(results.empty());
     subject.runAll();
     subject.runAll();
-    ASSERT_EQ(answers.size(), 1U);
-    ASSERT_EQ(answers[0] != nullptr, fails);
+    ASSERT_EQ(results.size(), 1U);
+    ASSERT_EQ(results[0] != nullptr, fails);
     if (fails) {
-      EXPECT_EQ(answers[0]->domain(), "IntentsErrorDomain");
+      EXPECT_EQ(results[0]->domain(), "IntentsErrorDomain");
     }
   }
 }

@@ -9,7 +9,7 @@ struct LinuxFiles : LinuxSubject {
   void add(const std::string& name, const std::string& content) { folder.write(name, content); }
   Url url(const std::string& name) const { return folder.url(name); }
   std::string content(const std::string& name) const { return folder.read(name); }
-  /// As somebody who may not write there; false if there is no such user.
+  /// Runs the work as a user who may not write there; false if there is no such user.
   bool withoutPermission(const std::function<void()>& work) {
     std::filesystem::permissions(folder.path(), std::filesystem::perms{0555});
     constexpr uid_t kNobody = 65534;
@@ -54,7 +54,7 @@ struct DoubleFiles : DoubleSubject {
 template <class Subject>
 class NSFileManagerConformance : public ::testing::Test {
  protected:
-  /// "domain code, POSIX code" of a move, or "moved".
+  /// Returns "domain code, POSIX code" of a move, or "moved".
   std::string move(const std::string& from, const std::string& to) {
     const auto error = subject.service.moveItemAtURL(subject.url(from), subject.url(to));
     if (!error) return "moved";

@@ -5,7 +5,7 @@
 namespace orvanta::testing {
 namespace {
 
-struct Answer {
+struct Result {
   std::optional<Url> location;
   Ref<NSURLResponse> response;
   Ref<NSError> error;
@@ -20,14 +20,14 @@ struct LinuxSession : LinuxSubject {
 
   Url photo = *Url::parse("https://m.example/photo.jpg");
   Url missing = *Url::parse("https://m.example/missing.jpg");
-  Url refused = *Url::parse("file:///outside");
+  Url failing = *Url::parse("file:///outside");
   void willMiss() {}
-  void willRefuse() {}
+  void willFail() {}
   MappingDownloader downloader{files, {{"https://m.example/", folder.path().string()}}, {}, {}};
   SimulatedURLSession simulated{loop, log, files, &downloader, std::nullopt};
   NSURLSession& session() { return simulated; }
 };
-/// Downloads what a scenario says.
+/// Downloads as a scenario describes.
 struct MemorySession : MemorySubject {
   bool exists(const Url& url) { return files.size(url).has_value(); }
   void take(const Url& url) { files.moveItemAtURL(url, files.url("taken")); }
@@ -35,10 +35,10 @@ struct MemorySession : MemorySubject {
 
   Url photo = *Url::parse("https://m.example/photo.jpg");
   Url missing = photo;
-  Url refused = photo;
+  Url failing = photo;
   Scenario::Media media;
   void willMiss() { media.status = 404; }
-  void willRefuse() { media.fails = true; }
+  void willFail() { media.fails = true; }
   SimulatedURLSession& session() {
     if (!service_) service_.emplace(loop, log, files, nullptr, media);
     return *service_;
@@ -56,9 +56,9 @@ struct DoubleSession : DoubleSubject {
 
   Url photo = *Url::parse("https://m.example/photo.jpg");
   Url missing = photo;
-  Url refused = photo;
+  Url failing = photo;
   void willMiss() { platform.download.response.statusCode = 404; }
-  void willRefuse() { platform.download.error = NSError::errorWithDomain(kNSURLErrorDomain, -1); }
+  void willFail() { platform.download.error = NSError::errorWithDomain(kNSURLErrorDomain, -1); }
   NSURLSession& session() { return *platform.sharedSession(); }
 };
 
@@ -69,12 +69,12 @@ class NSURLSessionConformance : public ::testing::Test {
     subject.session().downloadTaskWithURL(
         url, [this](const std::optional<Url>& location, const Ref<NSURLResponse>& response,
                     const Ref<NSError>& error) {
-          answers.push_back({location, response, error, location && subject.exists(*location)});
+          results.push_back({location, response, error, location && subject.exists(*location)});
           if (takesFile) subject.take(*location);
         });
   }
   Subject subject;
-  std::vector<Answer> answers;
+  std::vector<Result> results;
   bool takesFile = false;
 };
 using Sessions = ::testing::Types<LinuxSession, MemorySession, DoubleSession>;
@@ -83,25 +83,25 @@ TYPED_TEST_SUITE(NSURLSessionConformance, Sessions, SubjectNames);
 TYPED_TEST(NSURLSessionConformance, CallsBackOncePerTaskAndAfterTheCall) {
   this->ask(this->subject.photo);
   this->ask(std::nullopt);
-  EXPECT_TRUE(this->answers.empty());
+  EXPECT_TRUE(this->results.empty());
   this->subject.runAll();
   this->subject.runAll();
-  EXPECT_EQ(this->answers.size(), 2U);
+  EXPECT_EQ(this->results.size(), 2U);
 }
 
 TYPED_TEST(NSURLSessionConformance, AFileIsThereInTheCallbackAndGoneAfterwards) {
   this->ask(this->subject.photo);
   this->subject.runAll();
-  ASSERT_EQ(this->answers.size(), 1U);
-  const Answer& answer = this->answers[0];
-  ASSERT_TRUE(answer.location && answer.response);
-  EXPECT_FALSE(answer.error);
-  EXPECT_TRUE(answer.location->isFileURL());
-  EXPECT_TRUE(answer.fileIsThere);
-  EXPECT_FALSE(this->subject.exists(*answer.location));
-  EXPECT_EQ(answer.response->URL(), this->subject.photo);
-  EXPECT_EQ(answer.response->MIMEType(), "image/jpeg");
-  EXPECT_EQ(answer.response->statusCode(), 200);
+  ASSERT_EQ(this->results.size(), 1U);
+  const Result& result = this->results[0];
+  ASSERT_TRUE(result.location && result.response);
+  EXPECT_FALSE(result.error);
+  EXPECT_TRUE(result.location->isFileURL());
+  EXPECT_TRUE(result.fileIsThere);
+  EXPECT_FALSE(this->subject.exists(*result.location));
+  EXPECT_EQ(result.response->URL(), this->subject.photo);
+  EXPECT_EQ(result.response->MIMEType(), "image/jpeg");
+  EXPECT_EQ(result.response->statusCode(), 200);
 }
 
 TYPED_TEST(NSURLSessionConformance, AFileThatIsMovedAwayStays) {
@@ -115,27 +115,27 @@ TYPED_TEST(NSURLSessionConformance, AnHTTPErrorStatusIsASuccess) {
   this->subject.willMiss();
   this->ask(this->subject.missing);
   this->subject.runAll();
-  ASSERT_EQ(this->answers.size(), 1U);
-  EXPECT_FALSE(this->answers[0].error);
-  EXPECT_TRUE(this->answers[0].fileIsThere);
-  EXPECT_EQ(this->answers[0].response->statusCode(), 404);
+  ASSERT_EQ(this->results.size(), 1U);
+  EXPECT_FALSE(this->results[0].error);
+  EXPECT_TRUE(this->results[0].fileIsThere);
+  EXPECT_EQ(this->results[0].response->statusCode(), 404);
 }
 
 TYPED_TEST(NSURLSessionConformance, AFailureHasAnErrorAndNoLocation) {
-  this->subject.willRefuse();
-  this->ask(this->subject.refused);
+  this->subject.willFail();
+  this->ask(this->subject.failing);
   this->ask(std::nullopt);
   this->subject.runAll();
-  ASSERT_EQ(this->answers.size(), 2U);
-  for (const Answer& answer : this->answers) {
-    EXPECT_FALSE(answer.location);
-    ASSERT_TRUE(answer.error);
-    EXPECT_EQ(answer.error->domain(), kNSURLErrorDomain);
+  ASSERT_EQ(this->results.size(), 2U);
+  for (const Result& result : this->results) {
+    EXPECT_FALSE(result.location);
+    ASSERT_TRUE(result.error);
+    EXPECT_EQ(result.error->domain(), kNSURLErrorDomain);
   }
-  const auto ofNothing = [](const Answer& a) {
+  const auto ofNothing = [](const Result& a) {
     return a.error->code() == kNSURLErrorUnsupportedURL && !a.response;
   };
-  EXPECT_EQ(std::count_if(this->answers.begin(), this->answers.end(), ofNothing), 1);
+  EXPECT_EQ(std::count_if(this->results.begin(), this->results.end(), ofNothing), 1);
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 #include "orvanta/Simulator/UniformTypes.h"
 #include "support/Threads.h"
 
-// The services that answer at once, and from any thread.
+// The services that return at once, on any thread.
 
 namespace orvanta::testing {
 namespace {
@@ -83,7 +83,7 @@ class NSBundleConformance : public ::testing::Test {};
 using Bundles = ::testing::Types<FileStrings, DoubleTexts>;
 TYPED_TEST_SUITE(NSBundleConformance, Bundles, SubjectNames);
 
-TYPED_TEST(NSBundleConformance, AnswersWithTheTextOrTheKeyOnAnyThread) {
+TYPED_TEST(NSBundleConformance, ReturnsTheStringOrTheKeyOnAnyThread) {
   TypeParam subject;
   NSBundle& bundle = subject.service();
   runTogether([&bundle] {
@@ -110,7 +110,7 @@ class TypeIdentifiersConformance : public ::testing::Test {};
 using Types = ::testing::Types<SimulatedTypes, DoubleTypes>;
 TYPED_TEST_SUITE(TypeIdentifiersConformance, Types, SubjectNames);
 
-TYPED_TEST(TypeIdentifiersConformance, OtherTypesHaveDynamicOnesOfTheirOwn) {
+TYPED_TEST(TypeIdentifiersConformance, UndeclaredTypesHaveDynamicIdentifiers) {
   TypeParam subject;
   std::set<std::string> identifiers;
   const std::vector<std::string> types{"image/x-odd", "image/x-odder", "image/jpeg; q=1",

@@ -15,7 +15,7 @@
 
 namespace orvanta::testing {
 
-/// What the subjects on the simulated device of this machine share.
+/// The base of subjects on a simulated device whose files are in a folder.
 struct LinuxSubject {
   static constexpr const char* kName = "Linux";
   void runAll() { loop.run(); }
@@ -27,7 +27,7 @@ struct LinuxSubject {
   EventLog log{loop};
 };
 
-/// The same on the simulated device that keeps everything in memory.
+/// The base of subjects on a simulated device in memory.
 struct MemorySubject {
   static constexpr const char* kName = "Memory";
   void runAll() { loop.run(); }
@@ -38,7 +38,7 @@ struct MemorySubject {
   EventLog log{loop};
 };
 
-/// The same on the double.
+/// The base of subjects on the tests' double.
 struct DoubleSubject {
   static constexpr const char* kName = "Double";
   void runAll() { platform.runAll(); }

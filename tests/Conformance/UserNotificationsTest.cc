@@ -25,10 +25,10 @@ UNNotificationCategorySet setOf(const std::vector<UNNotificationCategory>& categ
   return set;
 }
 
-/// Adds what is read to the list.
-auto readInto(std::vector<std::vector<UNNotificationCategory>>& answers) {
-  return [&answers](const UNNotificationCategorySet& set) {
-    answers.emplace_back(set.begin(), set.end());
+/// Returns a completion that appends what is read.
+auto readInto(std::vector<std::vector<UNNotificationCategory>>& reads) {
+  return [&reads](const UNNotificationCategorySet& set) {
+    reads.emplace_back(set.begin(), set.end());
   };
 }
 
@@ -40,19 +40,19 @@ TYPED_TEST(UNUserNotificationCenterConformance, AWriteReplacesTheWholeSet) {
        UNTextInputNotificationAction::actionWithIdentifier("2", "Two", 0)}};
   const UNNotificationCategory otherA{"a", {}};
   const UNNotificationCategory b{"b", {}};
-  std::vector<std::vector<UNNotificationCategory>> answers;
+  std::vector<std::vector<UNNotificationCategory>> reads;
   for (const auto& set : {setOf({}), setOf({b, a, a, otherA}), setOf({otherA})}) {
     subject.service.setNotificationCategories(set);
-    subject.service.getNotificationCategories(readInto(answers));
+    subject.service.getNotificationCategories(readInto(reads));
     subject.runAll();
   }
-  ASSERT_EQ(answers.size(), 3U);
-  EXPECT_TRUE(answers[0].empty());
-  EXPECT_EQ(answers[1], (std::vector{b, a, otherA}));  // equal ones once, in their order
-  EXPECT_EQ(answers[2], std::vector{otherA});
+  ASSERT_EQ(reads.size(), 3U);
+  EXPECT_TRUE(reads[0].empty());
+  EXPECT_EQ(reads[1], (std::vector{b, a, otherA}));  // equal ones once, in order
+  EXPECT_EQ(reads[2], std::vector{otherA});
 }
 
-TYPED_TEST(UNUserNotificationCenterConformance, AnswersReadsInTheirOrder) {
+TYPED_TEST(UNUserNotificationCenterConformance, CompletesReadsInTheirOrder) {
   TypeParam subject;
   std::string order;
   subject.service.getNotificationCategories([&](const auto&) {
@@ -98,7 +98,7 @@ TYPED_TEST(UNNotificationAttachmentFactoryConformance, ChecksTypeAndSize) {
     const char* file;
     std::uint64_t bytes;
     std::optional<std::string> hint;
-    std::int64_t refusal;  // 0: none
+    std::int64_t errorCode;  // 0: none
     const char* type;
   } rows[] = {
       {"a.tmp", 1, "public.jpeg", 0, "public.jpeg"},
@@ -121,10 +121,10 @@ TYPED_TEST(UNNotificationAttachmentFactoryConformance, ChecksTypeAndSize) {
     ASSERT_NE(result.attachment == nullptr, result.error == nullptr);
     if (result.error) {
       EXPECT_EQ(result.error->domain(), "UNErrorDomain");
-      EXPECT_EQ(result.error->code(), row.refusal);
+      EXPECT_EQ(result.error->code(), row.errorCode);
     } else {
       const auto& parts = result.attachment->parts();
-      EXPECT_EQ(row.refusal, 0);
+      EXPECT_EQ(row.errorCode, 0);
       EXPECT_EQ(parts.identifier, "id");
       EXPECT_EQ(parts.url, url);
       EXPECT_EQ(parts.typeHint, row.hint);

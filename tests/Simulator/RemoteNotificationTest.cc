@@ -8,23 +8,23 @@ namespace {
 
 TEST(LaunchDecision, NamesEveryConditionThatIsNotMet) {
   const std::string notMutable = "\"aps.mutable-content\" is not 1";
-  const std::string noText = "\"aps.alert\" has no text to show";
+  const std::string noString = "\"aps.alert\" has no text to show";
   const struct {
     std::string_view payload;
     std::vector<std::string> unmet;
   } rows[] = {
-      {R"({})", {notMutable, noText}},
-      {R"({"mutable-content": 1, "alert": "a"})", {notMutable, noText}},
-      {R"({"aps": [{"mutable-content": 1, "alert": "a"}]})", {notMutable, noText}},
+      {R"({})", {notMutable, noString}},
+      {R"({"mutable-content": 1, "alert": "a"})", {notMutable, noString}},
+      {R"({"aps": [{"mutable-content": 1, "alert": "a"}]})", {notMutable, noString}},
       // the flag
       {R"({"aps": {"mutable-content": 1, "alert": "a"}})", {}},
       {R"({"aps": {"mutable-content": true, "alert": "a"}})", {}},  // a boolean is a number
       {R"({"aps": {"mutable-content": 1.5, "alert": "a"}})", {notMutable}},
       {R"({"aps": {"mutable-content": "1", "alert": "a"}})", {notMutable}},
       // the alert
-      {R"({"aps": {"mutable-content": 1, "alert": ""}})", {noText}},
-      {R"({"aps": {"mutable-content": 1, "alert": ["a"]}})", {noText}},
-      {R"({"aps": {"mutable-content": 1, "alert": {"title": "", "body": 5}}})", {noText}},
+      {R"({"aps": {"mutable-content": 1, "alert": ""}})", {noString}},
+      {R"({"aps": {"mutable-content": 1, "alert": ["a"]}})", {noString}},
+      {R"({"aps": {"mutable-content": 1, "alert": {"title": "", "body": 5}}})", {noString}},
       {R"({"aps": {"mutable-content": 1, "alert": {"title": "", "body": "a"}}})", {}},
       {R"({"aps": {"mutable-content": 1, "alert": {"title-loc-key": "a"}}})", {}},
       {R"({"aps": {"mutable-content": 1, "alert": {"loc-key": "a"}}})", {}},
@@ -36,7 +36,7 @@ TEST(LaunchDecision, NamesEveryConditionThatIsNotMet) {
   }
 }
 
-/// Has a text for "GREETING", and for no other key.
+/// Has a string for "GREETING", and for no other key.
 class SmallBundle final : public NSBundle {
  public:
   std::string localizedStringForKey(std::string_view key) override {
@@ -49,24 +49,24 @@ UNNotificationContent contentOf(const Dictionary& payload) {
   return contentForPayload(payload, bundle);
 }
 
-/// "title|subtitle|body" of the content for an alert; "-" is none.
-std::string textsOf(std::string_view alert) {
+/// Returns "title|subtitle|body" of the content for an alert; "-" is none.
+std::string stringsOf(std::string_view alert) {
   const UNNotificationContent content =
       contentOf(Dictionary{{"aps", Dictionary{{"alert", parseJSON(alert)}}}});
   return content.title.value_or("-") + "|" + content.subtitle.value_or("-") + "|" +
          content.body.value_or("-");
 }
 
-TEST(ContentForPayload, TakesTheTextsOfTheAlert) {
+TEST(ContentForPayload, TakesTheStringsOfTheAlert) {
   const struct {
     std::string_view alert;
-    std::string_view texts;
+    std::string_view strings;
   } rows[] = {
       {R"("b")", "-|-|b"},
       {R"("100% %@")", "-|-|100% %@"},
       {R"(["b"])", "-|-|-"},
       {R"({"title": "t", "subtitle": "s", "body": "b"})", "t|s|b"},
-      // a localisation key wins, when it is a text
+      // a localization key wins if it is a string
       {R"({"title": "t", "title-loc-key": "T", "subtitle-loc-key": "S", "loc-key": "B"})", "T|S|B"},
       {R"({"title": "t", "title-loc-key": "", "body": "b", "loc-key": 5})", "t|-|b"},
       // each with arguments of its own
@@ -85,13 +85,13 @@ TEST(ContentForPayload, TakesTheTextsOfTheAlert) {
       {R"({"loc-key": "%d %0$@ %x", "loc-args": ["a"]})", "-|-|%d %0$@ %x"},
       {R"({"loc-key": "<%@>", "loc-args": "a"})", "-|-|<>"},
   };
-  for (const auto& row : rows) EXPECT_EQ(textsOf(row.alert), row.texts) << row.alert;
+  for (const auto& row : rows) EXPECT_EQ(stringsOf(row.alert), row.strings) << row.alert;
 }
 
-TEST(ContentForPayload, CutsArgumentsThatTakeMuchMoreRoomThanTheirPayload) {
+TEST(ContentForPayload, TruncatesArgumentsThatOutgrowTheirPayload) {
   const auto bodyOf = [](const std::string& format, const std::string& argument) {
     const std::string alert = R"({"loc-key": ")" + format + R"(", "loc-args": [)" + argument + "]}";
-    return textsOf(alert).substr(4);
+    return stringsOf(alert).substr(4);
   };
   const std::string deep = std::string(400, '[') + "1" + std::string(400, ']');
   std::string often;
