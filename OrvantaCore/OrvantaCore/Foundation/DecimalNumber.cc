@@ -70,15 +70,15 @@ DecimalNumber::DecimalNumber(std::int64_t number) noexcept {
   *this = make(number < 0, number < 0 ? 0 - bits : bits, 0);
 }
 
-DecimalNumber DecimalNumber::decimalNumberWithString(std::string_view text) noexcept {
-  while (!text.empty() && isSpace(text.front())) text.remove_prefix(1);
-  const bool negative = takeSign(text);
+DecimalNumber DecimalNumber::decimalNumberWithString(std::string_view string) noexcept {
+  while (!string.empty() && isSpace(string.front())) string.remove_prefix(1);
+  const bool negative = takeSign(string);
   Mantissa mantissa = 0;
   std::int64_t exponent = 0;
   bool fraction = false;
   bool digits = false;
-  for (; !text.empty(); text.remove_prefix(1)) {
-    const char c = text.front();
+  for (; !string.empty(); string.remove_prefix(1)) {
+    const char c = string.front();
     if (c == '.' && !fraction) {
       fraction = true;
       continue;
@@ -90,7 +90,7 @@ DecimalNumber DecimalNumber::decimalNumberWithString(std::string_view text) noex
     exponent += (fits ? 0 : 1) - (fraction ? 1 : 0);
   }
   if (!digits) return notANumber();
-  return make(negative, mantissa, exponent + exponentReading(text));
+  return make(negative, mantissa, exponent + exponentReading(string));
 }
 
 DecimalNumber DecimalNumber::subtracting(const DecimalNumber& other) const noexcept {

@@ -109,10 +109,10 @@ DecimalPrefix decimalPrefix(std::string_view text) noexcept {
 
 }  // namespace
 
-double realReading(std::string_view text) noexcept {
-  text = withoutLeadingSpace(text);
-  const bool negative = takeSign(text);
-  const DecimalPrefix prefix = decimalPrefix(text);
+double realReading(std::string_view string) noexcept {
+  string = withoutLeadingSpace(string);
+  const bool negative = takeSign(string);
+  const DecimalPrefix prefix = decimalPrefix(string);
   if (prefix.text.empty()) return 0.0;
   double value = 0.0;
   const auto result =
@@ -226,12 +226,12 @@ std::size_t Number::hash() const noexcept {
   return std::isnan(value) ? 0 : std::hash<double>{}(value);
 }
 
-bool booleanReading(std::string_view text) noexcept {
-  text = withoutLeadingSpace(text);
-  takeSign(text);
-  while (!text.empty() && text.front() == '0') text.remove_prefix(1);
-  return !text.empty() &&
-         std::string_view("YyTt123456789").find(text.front()) != std::string_view::npos;
+bool booleanReading(std::string_view string) noexcept {
+  string = withoutLeadingSpace(string);
+  takeSign(string);
+  while (!string.empty() && string.front() == '0') string.remove_prefix(1);
+  return !string.empty() &&
+         std::string_view("YyTt123456789").find(string.front()) != std::string_view::npos;
 }
 
 template <>
