@@ -13,7 +13,7 @@ namespace orvanta {
 /// interrupts are repeated.
 class FileDescriptor {
  public:
-  /// Takes ownership; -1, as a failed open returns, stands for none.
+  /// Takes ownership; -1, as a failed open returns, is no descriptor.
   explicit FileDescriptor(int descriptor = -1) noexcept : descriptor_(descriptor) {}
   FileDescriptor(FileDescriptor&& other) noexcept
       : descriptor_(std::exchange(other.descriptor_, -1)) {}

@@ -13,6 +13,7 @@ std::optional<std::string> readRegularFile(const fs::path& file) {
   std::error_code error;
   const fs::file_status status = fs::status(file, error);
   if (status.type() == fs::file_type::not_found) return std::nullopt;
+  if (error) throw fs::filesystem_error("cannot be read", file, error);
   std::ifstream in;
   if (fs::is_regular_file(status)) in.open(file, std::ios::binary);
   if (!in.is_open()) throw std::runtime_error(file.string() + ": cannot be read");

@@ -146,8 +146,8 @@ std::span<int> row(const gdImage& bitmap, int y) {
   return {bitmap.tpixels[y], static_cast<std::size_t>(bitmap.sx)};
 }
 
-/// Removes the compressed texts before the pixels. libpng would unpack each to up to 8 MB and keep
-/// a thousand of them, whatever it is asked for.
+/// Removes the compressed text chunks before the pixels. libpng would unpack each to up to 8 MB and
+/// keep a thousand of them, whatever it is asked for.
 std::string withoutCompressedTexts(std::string_view file) {
   const Bytes bytes(file);
   std::size_t at = kPNGMagic.size();

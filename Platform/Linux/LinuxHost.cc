@@ -32,8 +32,10 @@ HostServices LinuxHost::services() {
                         .clock = &clock_,
                         .log = options_.log};
   if (options_.realTime) {
-    services.wait = [start = std::chrono::steady_clock::now()](double time) {
-      std::this_thread::sleep_until(start + std::chrono::duration<double>(time));
+    using SteadyClock = std::chrono::steady_clock;
+    services.wait = [start = std::optional<SteadyClock::time_point>()](double time) mutable {
+      if (!start) start = SteadyClock::now();
+      std::this_thread::sleep_until(*start + std::chrono::duration<double>(time));
     };
   }
   return services;

@@ -30,7 +30,7 @@ class LinuxHost {
   /// Throws std::runtime_error for a strings file or a folder that cannot be used.
   explicit LinuxHost(LinuxHostOptions options);
 
-  /// Returns the services for one run, which starts now. They live as long as this object.
+  /// Returns the services for one run. They live as long as this object.
   HostServices services();
 
  private:

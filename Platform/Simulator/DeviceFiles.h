@@ -13,7 +13,8 @@ namespace orvanta {
 /// the caches folder, and whatever else its file manager moves. For one thread.
 ///
 /// Requirements for implementers: nothing outside these folders is written. Names of new downloads
-/// have the platform's form, "CFNetworkDownload_000001.tmp", and are the same in every run.
+/// have the platform's form, "CFNetworkDownload_000001.tmp", and are the same in every run. A call
+/// that the machine does not allow throws std::runtime_error, which ends the run.
 class DeviceFiles : public NSFileManager {
  public:
   /// Makes a file of zeros where downloads go, under a new name that neither that folder nor the

@@ -10,33 +10,33 @@ namespace orvanta {
 namespace {
 
 struct KindRow {
-  EventKind kind;
   std::string_view name;
+  EventKind kind;
   Stage stage;
   bool isFailure = false;
 };
 constexpr KindRow kKinds[] = {
-    {EventKind::requestReceived, "request-received", Stage::delivery},
-    {EventKind::categoriesRead, "categories-read", Stage::buttons},
-    {EventKind::categoriesWritten, "categories-written", Stage::buttons},
-    {EventKind::downloadStarted, "download-started", Stage::media},
-    {EventKind::downloadFinished, "download-finished", Stage::media},
-    {EventKind::downloadFailed, "download-failed", Stage::media, true},
-    {EventKind::fileMoved, "file-moved", Stage::media},
-    {EventKind::moveFailed, "move-failed", Stage::media, true},
-    {EventKind::attached, "attached", Stage::media},
-    {EventKind::attachmentRejected, "attachment-rejected", Stage::media, true},
-    {EventKind::imageFound, "image-found", Stage::sender},
-    {EventKind::imageMissing, "image-missing", Stage::sender, true},
-    {EventKind::imageNotEncodable, "image-not-encodable", Stage::sender, true},
-    {EventKind::interactionDonated, "interaction-donated", Stage::sender},
-    {EventKind::donationAccepted, "donation-accepted", Stage::sender},
-    {EventKind::donationFailed, "donation-failed", Stage::sender, true},
-    {EventKind::contentUpdated, "content-updated", Stage::sender},
-    {EventKind::updateFailed, "update-failed", Stage::sender, true},
-    {EventKind::timeExpired, "time-expired", Stage::delivery},
-    {EventKind::delivered, "delivered", Stage::delivery},
-    {EventKind::noneDelivered, "none-delivered", Stage::delivery},
+    {"request-received", EventKind::requestReceived, Stage::delivery},
+    {"categories-read", EventKind::categoriesRead, Stage::buttons},
+    {"categories-written", EventKind::categoriesWritten, Stage::buttons},
+    {"download-started", EventKind::downloadStarted, Stage::media},
+    {"download-finished", EventKind::downloadFinished, Stage::media},
+    {"download-failed", EventKind::downloadFailed, Stage::media, true},
+    {"file-moved", EventKind::fileMoved, Stage::media},
+    {"move-failed", EventKind::moveFailed, Stage::media, true},
+    {"attached", EventKind::attached, Stage::media},
+    {"attachment-rejected", EventKind::attachmentRejected, Stage::media, true},
+    {"image-found", EventKind::imageFound, Stage::sender},
+    {"image-missing", EventKind::imageMissing, Stage::sender, true},
+    {"image-not-encodable", EventKind::imageNotEncodable, Stage::sender, true},
+    {"interaction-donated", EventKind::interactionDonated, Stage::sender},
+    {"donation-accepted", EventKind::donationAccepted, Stage::sender},
+    {"donation-failed", EventKind::donationFailed, Stage::sender, true},
+    {"content-updated", EventKind::contentUpdated, Stage::sender},
+    {"update-failed", EventKind::updateFailed, Stage::sender, true},
+    {"time-expired", EventKind::timeExpired, Stage::delivery},
+    {"delivered", EventKind::delivered, Stage::delivery},
+    {"none-delivered", EventKind::noneDelivered, Stage::delivery},
 };
 
 constexpr const KindRow& rowOf(EventKind kind) { return kKinds[static_cast<std::size_t>(kind)]; }
@@ -49,18 +49,12 @@ constexpr bool isInOrder() {
 }
 static_assert(isInOrder(), "a kind is the index of its row");
 
-bool isErrorStatus(const std::optional<int>& status) { return status.value_or(0) >= 400; }
-
 std::string counted(const Event& event, const char* one, const char* many) {
   const std::string number = event.count ? std::to_string(*event.count) : "no";
   return number + " " + (event.count == 1 ? one : many);
 }
 
 std::string quoted(const std::string& string) { return "\"" + string + "\""; }
-
-std::string orElse(const std::string& string, const char* none) {
-  return string.empty() ? none : string;
-}
 
 std::string reasonOf(const Event& event) { return describe(event.error->localizedDescription()); }
 
@@ -75,9 +69,16 @@ std::string_view nameOf(Stage stage) {
 
 Stage stageOf(EventKind kind) { return rowOf(kind).stage; }
 
-bool isFailure(const Event& event) {
-  return rowOf(event.kind).isFailure ||
-         (event.kind == EventKind::downloadFinished && isErrorStatus(event.status));
+bool isFailure(const Event& event) { return rowOf(event.kind).isFailure; }
+
+bool isErrorPage(const Event& event) {
+  return event.kind == EventKind::downloadFinished && event.status.value_or(0) >= 400;
+}
+
+bool isUnknownType(const Event& event) {
+  constexpr std::int64_t kUnrecognizedFileType = 101;  // of UNErrorDomain
+  return event.kind == EventKind::attachmentRejected &&
+         event.error->code() == kUnrecognizedFileType;
 }
 
 std::string describe(const Event& event) {
@@ -94,7 +95,7 @@ std::string describe(const Event& event) {
     case EventKind::downloadFinished:
       return "the download is there: " +
              (event.status ? "status " + std::to_string(*event.status) + ", " : "") +
-             counted(event, "byte", "bytes") + ", " + orElse(event.type, "no MIME type");
+             counted(event, "byte", "bytes") + ", " + event.type.value_or("no MIME type");
     case EventKind::downloadFailed:
       return "the download fails: " + reasonOf(event);
     case EventKind::fileMoved:
@@ -102,9 +103,9 @@ std::string describe(const Event& event) {
     case EventKind::moveFailed:
       return "it cannot be moved into the caches: " + reasonOf(event);
     case EventKind::attached:
-      return "it is attached as " + event.type;
+      return "it is attached as " + event.type.value_or("");
     case EventKind::attachmentRejected:
-      return "it cannot be attached as " + orElse(event.type, "no type") + ": " + reasonOf(event);
+      return "it cannot be attached as " + event.type.value_or("no type") + ": " + reasonOf(event);
     case EventKind::imageFound:
       return "the picture " + quoted(event.subject) + " is found";
     case EventKind::imageMissing:

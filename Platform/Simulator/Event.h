@@ -46,7 +46,7 @@ struct Event {
   double time = 0.0;  // seconds since the first request
   int request = 0;    // from 1; 0 for none
   std::string subject{};
-  std::string type{};
+  std::optional<std::string> type{};
   std::optional<std::uint64_t> count{};
   std::optional<int> status{};  // HTTP
   Ref<NSError> error{};
@@ -58,11 +58,14 @@ std::string_view nameOf(EventKind kind);
 std::string_view nameOf(Stage stage);
 Stage stageOf(EventKind kind);
 
-/// Whether the event explains why its stage came to nothing. A finished download does so when its
-/// HTTP status is an error.
+/// Whether the event ends its stage without a result.
 bool isFailure(const Event& event);
+/// Whether the event is a download that ended with an HTTP status of 400 or more.
+bool isErrorPage(const Event& event);
+/// Whether a file's type is why it was not attached.
+bool isUnknownType(const Event& event);
 
-/// Returns the sentence for people. No other code has words for events.
+/// Returns the sentence for people; no other code has sentences for events.
 std::string describe(const Event& event);
 /// Returns the reason that a failure is, as a part of a sentence.
 std::string describeFailure(const Event& event);

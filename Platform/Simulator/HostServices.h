@@ -16,7 +16,7 @@ struct HostServices {
   DeviceFiles& files;
   StateStore& state;
   Downloader* downloader = nullptr;  // null: the device is offline
-  NSBundle* bundle = nullptr;        // null: every key stands for itself
+  NSBundle* bundle = nullptr;        // null: every string is its key
   Images* images = nullptr;          // null: the bundle has no images
   Clock* clock = nullptr;            // null: it is always 1970-01-01
   SystemLog* log = nullptr;          // null: log entries are dropped

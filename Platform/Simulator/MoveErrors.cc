@@ -33,9 +33,10 @@ std::string_view lastComponent(std::string_view path) { return path.substr(path.
 
 /// Returns the name of the folder that a path is in, "/" for the root.
 std::string_view folderName(std::string_view path) {
-  const auto slash = path.rfind('/');
-  if (slash == std::string_view::npos) return {};
-  return slash == 0 ? "/" : lastComponent(path.substr(0, slash));
+  path = path.substr(0, path.rfind('/') + 1);
+  if (path.empty()) return {};
+  const auto end = path.find_last_not_of('/');
+  return end == std::string_view::npos ? "/" : lastComponent(path.substr(0, end + 1));
 }
 
 Ref<NSError> unsupportedScheme(int code, std::string_view verb, const Url& url) {

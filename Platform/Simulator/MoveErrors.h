@@ -8,7 +8,7 @@
 
 namespace orvanta {
 
-/// Why a file could not be moved, as far as the platform tells it apart.
+/// Why a file could not be moved, as far as the platform distinguishes.
 enum class MoveFailure : std::uint8_t {
   alreadyExists,
   notFound,

@@ -171,10 +171,14 @@ SimulationReport NotificationSimulator::run(const Dictionary& payload) const {
 
 const Event* firstFailure(const SimulationReport& report, const PresentedNotification& presented,
                           Stage stage) {
+  const Event* errorPage = nullptr;
   for (std::size_t i = 0; i < presented.eventsEnd; ++i) {
     const Event& event = report.events[i];
-    const bool isOfStage = event.request == presented.request && stageOf(event.kind) == stage;
-    if (isOfStage && isFailure(event)) return &event;
+    if (event.request != presented.request || stageOf(event.kind) != stage) continue;
+    if (isErrorPage(event)) errorPage = &event;
+    if (isFailure(event)) {
+      return errorPage != nullptr && isUnknownType(event) ? errorPage : &event;
+    }
   }
   return nullptr;
 }

@@ -56,10 +56,10 @@ Scenario::Media readMedia(const Value& value) {
 
 }  // namespace
 
-std::optional<OperatingSystemVersion> parseVersion(std::string_view text) {
+std::optional<OperatingSystemVersion> parseVersion(std::string_view string) {
   int parts[3] = {0, 0, 0};
-  const char* at = text.data();
-  const char* end = at + text.size();
+  const char* at = string.data();
+  const char* end = at + string.size();
   for (int& part : parts) {
     const auto result = std::from_chars(at, end, part);
     if (result.ec != std::errc() || part < 0) return std::nullopt;

@@ -12,7 +12,7 @@ namespace orvanta {
 /// What a simulated device does to one notification. Times are seconds from the first request.
 struct Scenario {
   /// A string of the content that is replaced, or removed.
-  using Text = std::optional<std::string>;
+  using ContentString = std::optional<std::string>;
 
   /// The result of the download, instead of a transfer.
   struct Media {
@@ -31,9 +31,9 @@ struct Scenario {
   };
 
   std::optional<OperatingSystemVersion> os;
-  std::optional<Text> title;
-  std::optional<Text> subtitle;
-  std::optional<Text> body;
+  std::optional<ContentString> title;
+  std::optional<ContentString> subtitle;
+  std::optional<ContentString> body;
   std::vector<std::string> images;
   std::vector<std::string> categories;
   std::size_t attachments = 0;
@@ -50,7 +50,7 @@ struct Scenario {
   static Scenario fromDictionary(const Dictionary& dictionary);
 };
 
-/// "17.0", "15", "15.4.1"; none for anything else.
-std::optional<OperatingSystemVersion> parseVersion(std::string_view text);
+/// Parses "17.0", "15" or "15.4.1"; returns nothing for anything else.
+std::optional<OperatingSystemVersion> parseVersion(std::string_view string);
 
 }  // namespace orvanta

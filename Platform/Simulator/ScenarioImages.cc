@@ -16,7 +16,7 @@ std::string grayPixelJPEG() { return {kGrayPixel, sizeof kGrayPixel - 1}; }
 
 /// Whether a name can be that of a file in the resources.
 static bool isPlainName(std::string_view name) {
-  return name != "." && name != ".." && name.size() <= 255 &&
+  return !name.empty() && name != "." && name != ".." && name.size() <= 255 &&
          name.find_first_of(std::string_view("/\\\0", 3)) == std::string_view::npos;
 }
 

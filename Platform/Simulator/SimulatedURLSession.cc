@@ -40,7 +40,7 @@ void SimulatedURLSession::report(const Url& url, const Download& download,
   }
   log_.add({.kind = EventKind::downloadFinished,
             .subject = url.description(),
-            .type = download.response->MIMEType().value_or(""),
+            .type = download.response->MIMEType(),
             .count = files_.size(*download.file),
             .status = download.response->statusCode()});
   completion(*download.file, download.response, nullptr);

@@ -12,7 +12,7 @@
 namespace orvanta {
 
 /// Downloads in virtual time. A download takes place when it is asked for and is reported when the
-/// time that it took has passed on the loop's clock. A scenario's answer comes instead of one.
+/// time that it took has passed on the loop's clock. A scenario can give the result instead.
 class SimulatedURLSession final : public NSURLSession {
  public:
   /// Without a downloader the device is offline. What is passed must outlive the session.

@@ -46,8 +46,9 @@ struct SimulationReport {
   std::vector<Event> events;
 };
 
-/// Returns the first failure of a stage before the delivery that counted, null for none: why what
-/// the stage should have added is missing.
+/// Returns why what a stage should have added is missing: its first failure before the delivery
+/// that counted, null for none. An error page has no type that could be attached; then the download
+/// with its HTTP status is the reason.
 const Event* firstFailure(const SimulationReport& report, const PresentedNotification& presented,
                           Stage stage);
 

@@ -26,9 +26,7 @@ UNNotificationAttachmentFactory::Result TracingAttachments::attachmentWithIdenti
     const std::string& identifier, const Url& url, const std::optional<std::string>& typeHint) {
   Result result = attachments_.attachmentWithIdentifier(identifier, url, typeHint);
   if (result.error) {
-    log_.add({.kind = EventKind::attachmentRejected,
-              .type = typeHint.value_or(""),
-              .error = result.error});
+    log_.add({.kind = EventKind::attachmentRejected, .type = typeHint, .error = result.error});
   } else {
     log_.add({.kind = EventKind::attached, .type = result.attachment->parts().type});
   }

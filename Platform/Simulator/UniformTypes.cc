@@ -58,15 +58,15 @@ const UniformType* typeWhere(std::string_view UniformType::*column, std::string_
 
 std::string base32(std::string_view bytes) {
   constexpr std::string_view kAlphabet = "abcdefghkmnpqrstuvwxyz0123456789";
-  std::string text;
+  std::string encoded;
   std::uint32_t bits = 0;
   unsigned count = 0;
   for (const char byte : bytes) {
     bits = bits << 8U | static_cast<unsigned char>(byte);
-    for (count += 8; count >= 5; count -= 5) text += kAlphabet[bits >> (count - 5) & 31U];
+    for (count += 8; count >= 5; count -= 5) encoded += kAlphabet[bits >> (count - 5) & 31U];
   }
-  if (count != 0) text += kAlphabet[bits << (5 - count) & 31U];
-  return text;
+  if (count != 0) encoded += kAlphabet[bits << (5 - count) & 31U];
+  return encoded;
 }
 
 std::string dynamicIdentifier(std::string_view mimeType) {

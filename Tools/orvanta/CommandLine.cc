@@ -54,6 +54,14 @@ class LoggingPlatform final : public Platform {
   SystemRandom random_;
 };
 
+/// Removes leading zeros, which would make the number octal or hexadecimal. Returns what is wrong
+/// with a size that has no digits then.
+std::string decimalSize(std::string& size) {
+  size.erase(0, size.find_first_not_of('0'));
+  const bool hasDigit = !size.empty() && size.front() >= '1' && size.front() <= '9';
+  return hasDigit ? "" : "a number of bytes is needed, such as 5M";
+}
+
 CLI::App* addNotify(CLI::App& app, NotifyOptions& options) {
   CLI::App* command = app.add_subcommand(
       "notify",
@@ -95,6 +103,7 @@ CLI::App* addNotify(CLI::App& app, NotifyOptions& options) {
           "End a download beyond this size; k, M, G are powers of 1000, Ki, Mi, Gi of 1024")
       ->type_name("BYTES")
       ->transform(CLI::AsSizeValue(/*kb_is_1000=*/true).description(""))
+      ->transform(CLI::Validator(decimalSize, ""))  // runs before the one above
       ->check(CLI::Range(std::uint64_t{1}, kMaxDownloadLimit).description(""))
       ->default_val("256M");
   return command;

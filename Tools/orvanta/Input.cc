@@ -16,7 +16,7 @@ namespace orvanta::tool {
 
 namespace {
 
-std::string readAll(std::istream& in, const std::string& name) {
+std::string readStream(std::istream& in, const std::string& name) {
   std::string text;
   char buffer[65536];
   try {
@@ -33,10 +33,10 @@ std::string readAll(std::istream& in, const std::string& name) {
 std::string readText(const std::string& file, const std::string& name, std::istream& standardIn) {
   if (file == "-") {
     announceTerminalInput(standardIn);
-    return readAll(standardIn, name);
+    return readStream(standardIn, name);
   }
   std::ifstream in = openForReading(file);
-  return readAll(in, name);
+  return readStream(in, name);
 }
 
 std::string location(const std::string& name, std::size_t offset, const std::string& text) {

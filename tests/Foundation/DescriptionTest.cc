@@ -12,8 +12,8 @@ TEST(Description, PrintsSingleValuesPlainly) {
   EXPECT_EQ(describe("a \"text\"\n\u00e9"), "a \"text\"\n\u00e9");
   EXPECT_EQ(describe(Date{1500000000.5}), "2017-07-14 02:40:00 +0000");
   EXPECT_EQ(describe(*Url::parse("http://x")), "http://x");
-  EXPECT_EQ(describe(Labelled::make("x")), "<Labelled x>");
-  EXPECT_EQ(describe(Value(&Labelled::kClass)), "Labelled");
+  EXPECT_EQ(describe(Labeled::make("x")), "<Labeled x>");
+  EXPECT_EQ(describe(Value(&Labeled::kClass)), "Labeled");
   EXPECT_EQ(describe(Array()), "(\n)");
   EXPECT_EQ(describe(Dictionary()), "{\n}");
 }
@@ -52,7 +52,7 @@ TEST(Description, QuotesStringsOfOtherThanLettersAndDigits) {
       {"plain09AZaz", "plain09AZaz"},
       {"", R"("")"},
       {-1, R"("-1")"},
-      {Labelled::make("\n"), R"("<Labelled \n>")"},
+      {Labeled::make("\n"), R"("<Labeled \n>")"},
       {"\"\\\n\t\r", R"("\"\\\n\t\r")"},
       {"\x01\x7F\x1B", R"("\001\177\033")"},
       {"\U0001F600", R"("\Ud83d\Ude00")"},

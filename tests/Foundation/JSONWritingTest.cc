@@ -106,7 +106,7 @@ TEST(JSONWriting, LaysOutContainers) {
 
 TEST(JSONWriting, RejectsWhatJSONCannotRepresent) {
   for (const Value& value :
-       {Value(), Value(Date{}), Value(*Url::parse("a")), Value(Labelled::make(1)),
+       {Value(), Value(Date{}), Value(*Url::parse("a")), Value(Labeled::make(1)),
         Value(&Plain::kClass), Value(kNaN), Value(kInfinity), Value(-kInfinity),
         Value(std::numeric_limits<float>::infinity())}) {
     EXPECT_EQ(toJSON(value), "invalid") << describe(value);

@@ -35,12 +35,12 @@ TEST(KeyPath, ReadsThroughDictionariesAndArrays) {
 }
 
 TEST(KeyPath, ReadsPropertiesOfObjects) {
-  const Value object = Labelled::make(Dictionary({{"en", "Hello"}}));
+  const Value object = Labeled::make(Dictionary({{"en", "Hello"}}));
   EXPECT_EQ(valueForKeyPath(object, "label.en"), Value("Hello"));
   EXPECT_EQ(valueForKeyPath(Dictionary({{"o", Array({object})}}), "o.label.en"),
             Value(Array({"Hello"})));
   EXPECT_EQ(exceptionFrom([&] { valueForKeyPath(object, "other"); }),
-            "NSUnknownKeyException: [<Labelled> valueForUndefinedKey:]: this class is not key "
+            "NSUnknownKeyException: [<Labeled> valueForUndefinedKey:]: this class is not key "
             "value coding-compliant for the key other.");
 }
 

@@ -67,13 +67,13 @@ TEST(Sharing, PartsDroppedInDifferentThreadsFreeTheTreeOnce) {
 }
 
 TEST(Sharing, ThreadsShareOneObject) {
-  ASSERT_EQ(Labelled::alive, 0);
-  std::vector<Value> copies(4, Value(Labelled::make("x")));
+  ASSERT_EQ(Labeled::alive, 0);
+  std::vector<Value> copies(4, Value(Labeled::make("x")));
   runTogether([&](int thread) {
     const Value mine = std::move(copies[static_cast<std::size_t>(thread)]);
     for (int round = 0; round < 1000; ++round) const Array array({mine, mine});
   });
-  EXPECT_EQ(Labelled::alive, 0);
+  EXPECT_EQ(Labeled::alive, 0);
 }
 
 }  // namespace

@@ -23,9 +23,9 @@ TEST(Value, EqualsOnlyTheSameContent) {
                           Array({"a", 1}),
                           Dictionary({{"a", 1}}),
                           Dictionary({{"a", 2}}),
-                          Value(&Labelled::kClass),
-                          Labelled::make("a"),
-                          Labelled::make("b")};
+                          Value(&Labeled::kClass),
+                          Labeled::make("a"),
+                          Labeled::make("b")};
   for (const Value& a : values) {
     for (const Value& b : values) {
       EXPECT_EQ(a == b, &a == &b) << describe(a) << " and " << describe(b);
@@ -46,7 +46,7 @@ TEST(Value, EqualContentCreatedSeparatelyHashesAlike) {
   expectEqual(Dictionary(), parseJSON("{}"));
   expectEqual(Dictionary({{"a", 1}, {kLong, 2}}), parseJSON("{\"" + kLong + R"(": 2, "a": 1})"));
   expectEqual(Date{0.0}, Date{-0.0});
-  expectEqual(Labelled::make("x"), Labelled::make("x"));
+  expectEqual(Labeled::make("x"), Labeled::make("x"));
 }
 
 TEST(Value, StringsAroundTheInlineLengthKeepTheirBytes) {
@@ -72,7 +72,7 @@ TEST(Value, StringsAroundTheInlineLengthKeepTheirBytes) {
 
 TEST(Value, AMovedFromValueIsNilAndUsable) {
   for (Value value : {Value(7), Value("short"), Value(kLong), Value(Array({1})),
-                      Value(Dictionary({{"a", 1}})), Value(Labelled::make("x"))}) {
+                      Value(Dictionary({{"a", 1}})), Value(Labeled::make("x"))}) {
     const Value before = value;
     Value taken = std::move(value);
     EXPECT_EQ(taken, before);
@@ -113,21 +113,21 @@ TEST(Value, AssigningItselfOrAPartOfItselfKeepsTheContent) {
 }
 
 TEST(Value, ObjectsLiveAsLongAsTheLastReference) {
-  ASSERT_EQ(Labelled::alive, 0);
+  ASSERT_EQ(Labeled::alive, 0);
   {
-    Ref<Labelled> object = Labelled::make("x");
+    Ref<Labeled> object = Labeled::make("x");
     Value value = object;
     const Array array({value, value});
     EXPECT_EQ(array[0].object(), object.get());
-    EXPECT_EQ(value.as<Labelled>(), object.get());
+    EXPECT_EQ(value.as<Labeled>(), object.get());
     EXPECT_EQ(value.as<Plain>(), nullptr);
     object.reset();
     value = Value();
-    EXPECT_EQ(Labelled::alive, 1);
+    EXPECT_EQ(Labeled::alive, 1);
     EXPECT_EQ(array[1].object()->valueForKey("label"), Value("x"));
   }
-  EXPECT_EQ(Labelled::alive, 0);
-  EXPECT_TRUE(Value(Ref<Labelled>()).isNil());
+  EXPECT_EQ(Labeled::alive, 0);
+  EXPECT_TRUE(Value(Ref<Labeled>()).isNil());
   EXPECT_TRUE(Value(static_cast<const ClassObject*>(nullptr)).isNil());
 }
 

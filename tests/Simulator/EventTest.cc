@@ -42,11 +42,11 @@ TEST(Event, KindsHaveNamesOfTheirOwn) {
   EXPECT_EQ(names.size(), static_cast<std::size_t>(last) + 1);
 }
 
-TEST(Event, ADownloadWithAnErrorStatusIsAFailure) {
+TEST(Event, ADownloadWithAnErrorStatusIsAnErrorPage) {
   for (const auto& [status, isError] : {std::pair{200, false}, {399, false}, {400, true}}) {
-    EXPECT_EQ(isFailure({.kind = K::downloadFinished, .status = status}), isError) << status;
+    EXPECT_EQ(isErrorPage({.kind = K::downloadFinished, .status = status}), isError) << status;
   }
-  EXPECT_FALSE(isFailure({.kind = K::downloadFinished}));  // a file has no status
+  EXPECT_FALSE(isErrorPage({.kind = K::downloadFinished}));  // a file has no status
   EXPECT_EQ(describeFailure({.kind = K::downloadFinished, .status = 404}),
             "the download ended with status 404");
 }

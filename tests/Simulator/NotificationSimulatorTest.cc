@@ -64,7 +64,8 @@ TEST(NotificationSimulator, TheFirstFailureOfAStageIsItsReason) {
       {R"({"result": "error"})", "download-failed"},
       {R"({"destinationExists": true})", "move-failed"},
       {R"({"mime": "text/html"})", "attachment-rejected"},
-      {R"({"status": 404, "delay": 40})", "none"},  // the expiry came first
+      {R"({"status": 500, "bytes": 20000000})", "attachment-rejected"},  // a picture, too large
+      {R"({"status": 404, "delay": 40})", "none"},                       // the expiry came first
   };
   for (const auto& row : rows) {
     MemoryDevice device;
@@ -83,6 +84,14 @@ TEST(NotificationSimulator, ARequestHasOnlyItsOwnFailures) {
   ASSERT_EQ(report.presented.size(), 2U);
   EXPECT_EQ(mediaFailure(report, 0), "none");
   EXPECT_EQ(mediaFailure(report, 1), "download-failed");
+}
+
+TEST(NotificationSimulator, AnImageWithoutANameDoesNotExist) {
+  MemoryDevice device;
+  const SimulationReport report =
+      device.run(R"({"aps": {"alert": {"title": "a"}}, "_ov": {"pst": 1, "iospi": ""}})",
+                 R"({"images": [""]})");
+  EXPECT_TRUE(report.donations.empty());
 }
 
 TEST(JSONReport, EventsHaveTheFactsOfTheirKind) {

@@ -61,17 +61,13 @@ TEST(NotifyCommand, NamesTheKeyOfABadScenario) {
 
 TEST(NotifyCommand, RejectsInvalidOptions) {
   const std::vector<std::string> rows[] = {
-      {"--time-budget", "nan"},
-      {"--time-budget", "-1"},
-      {"--os-version", "x"},
-      {"--map-url", "https://m.example.com/"},
-      {"--max-download", "5X"},
-      {"--max-download", "0"},
-      {"--max-download", "0M"},
-      {"--max-download", "-1"},
-      {"--max-download", "1.5M"},
-      {"--max-download", "2T"},
-      {"--max-download", "99999999999G"},
+      {"--time-budget", "nan"}, {"--time-budget", "-1"},
+      {"--os-version", "x"},    {"--map-url", "https://m.example.com/"},
+      {"--max-download", "5X"}, {"--max-download", "0"},
+      {"--max-download", "0M"}, {"--max-download", "-1"},
+      {"--max-download", "k"},  {"--max-download", "0x10"},
+      {"--max-download", "+5"}, {"--max-download", "1.5M"},
+      {"--max-download", "2T"}, {"--max-download", "99999999999G"},
       {"--max-download", ""},
   };
   for (const auto& row : rows) {

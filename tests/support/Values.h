@@ -53,32 +53,30 @@ inline std::string nested(std::size_t depth, std::string_view open, std::string_
 
 /// An object with one property, "label"; equal to any other with the same label. Counts the
 /// living instances.
-class Labelled : public Object {
+class Labeled : public Object {
  public:
-  static constexpr ClassObject kClass{"Labelled", nullptr};
+  static constexpr ClassObject kClass{"Labeled", nullptr};
   static constexpr const ClassObject& classObject() { return kClass; }
   static inline int alive = 0;
 
-  static Ref<Labelled> make(const Value& label) {
-    return Ref<Labelled>::adopt(new Labelled(label));
-  }
-  ~Labelled() override { --alive; }
+  static Ref<Labeled> make(const Value& label) { return Ref<Labeled>::adopt(new Labeled(label)); }
+  ~Labeled() override { --alive; }
 
   const ClassObject& isa() const override { return kClass; }
   bool isEqual(const Value& other) const override {
-    const Labelled* labelled = other.as<Labelled>();
-    return labelled != nullptr && labelled->label_ == label_;
+    const Labeled* labeled = other.as<Labeled>();
+    return labeled != nullptr && labeled->label_ == label_;
   }
   std::size_t hash() const override { return label_.hash(); }
   std::string description() const override {
-    return std::string("<Labelled ").append(describe(label_)).append(">");
+    return std::string("<Labeled ").append(describe(label_)).append(">");
   }
   Value valueForKey(std::string_view key) const override {
     return key == "label" ? label_ : Object::valueForKey(key);
   }
 
  private:
-  explicit Labelled(Value label) : label_(std::move(label)) { ++alive; }
+  explicit Labeled(Value label) : label_(std::move(label)) { ++alive; }
   Value label_;
 };
 

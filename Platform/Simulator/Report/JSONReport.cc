@@ -82,7 +82,7 @@ Dictionary eventEntry(const Event& event, const PathRewriter& rewritePaths) {
   if (!event.subject.empty()) entry.set("subject", rewritePaths(event.subject));
   if (event.status) entry.set("status", *event.status);
   if (event.count) entry.set("count", *event.count);
-  if (!event.type.empty()) entry.set("type", event.type);
+  if (event.type) entry.set("type", *event.type);
   if (event.error) entry.set("error", errorEntry(*event.error));
   if (event.isIgnored) entry.set("ignored", true);
   entry.set("text", rewritePaths(describe(event)));

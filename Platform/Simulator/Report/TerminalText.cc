@@ -23,7 +23,7 @@ std::string escapeForTerminal(std::string_view string, std::size_t indent) {
   return escaped;
 }
 
-std::string counted(std::size_t count, const std::string& noun) {
+std::string counted(std::uint64_t count, const std::string& noun) {
   return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,6 @@ namespace orvanta {
 std::string escapeForTerminal(std::string_view string, std::size_t indent = 0);
 
 /// Returns "1 byte" or "2 bytes".
-std::string counted(std::size_t count, const std::string& noun);
+std::string counted(std::uint64_t count, const std::string& noun);
 
 }  // namespace orvanta

@@ -94,8 +94,8 @@ TEST(NestedModel, AnElementThatFailsEndsTheUpdate) {
 }
 
 TEST(NestedModel, NestingIsLimitedAndOmitsOnlyTheInnermostModels) {
-  constexpr auto kMost = OrvantaBaseModel::kMaxNestedModels;
-  for (const std::size_t models : {kMost, kMost + 1}) {
+  constexpr auto kMax = OrvantaBaseModel::kMaxNestedModels;
+  for (const std::size_t models : {kMax, kMax + 1}) {
     RecordingPlatform platform;
     const auto outermost =
         modelFromJSON<NestingModel>(nested(models - 1, R"({"deeper": )", "}", R"({"free": 1})"));
@@ -104,25 +104,25 @@ TEST(NestedModel, NestingIsLimitedAndOmitsOnlyTheInnermostModels) {
     for (const NestingModel* at = outermost.get(); at->deeper().get() != nullptr; ++count) {
       at = at->deeper().get();
     }
-    EXPECT_EQ(count, kMost);
-    EXPECT_EQ(platform.log.size(), models - kMost);
+    EXPECT_EQ(count, kMax);
+    EXPECT_EQ(platform.log.size(), models - kMax);
   }
 }
 
 TEST(NestedModel, TheNumberOfModelsInOneDictionaryIsLimited) {
-  constexpr auto kMost = OrvantaBaseModel::kMaxModels;
-  for (const std::size_t models : {kMost, kMost + 1}) {
+  constexpr auto kMax = OrvantaBaseModel::kMaxModels;
+  for (const std::size_t models : {kMax, kMax + 1}) {
     RecordingPlatform platform;
     Array leaves;
     while (leaves.size() + 1 < models) leaves.append(Dictionary());
     const RefusalRecorder recorder;
     const auto owner = make<NestingModel>(Dictionary{{"leaves", leaves}});
-    EXPECT_EQ(!owner, models > kMost);
+    EXPECT_EQ(!owner, models > kMax);
     EXPECT_EQ(recorder.refusal() ? recorder.refusal()->description() : "accepted",
-              models > kMost ? R"(NestingModel "leaves" (leaves) > LeafModel: a dictionary, )"
-                               "too many models in one dictionary"
-                             : "accepted");
-    EXPECT_EQ(platform.log.size(), models > kMost ? 2U : 0U);
+              models > kMax ? R"(NestingModel "leaves" (leaves) > LeafModel: a dictionary, )"
+                              "too many models in one dictionary"
+                            : "accepted");
+    EXPECT_EQ(platform.log.size(), models > kMax ? 2U : 0U);
     EXPECT_TRUE(modelFromJSON<NestingModel>(R"({"leaves": [{}]})"));  // each update counts anew
   }
 }
