@@ -1,4 +1,4 @@
-option(ORVANTA_WARNINGS_AS_ERRORS "A warning ends the build" ON)
+option(ORVANTA_WARNINGS_AS_ERRORS "A warning ends the build" ${PROJECT_IS_TOP_LEVEL})
 
 # Strict warnings for one of our own targets; third-party code is never compiled with them.
 function(orvanta_warnings target)

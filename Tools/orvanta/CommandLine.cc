@@ -227,7 +227,7 @@ ExitCode execute(int argc, const char* const* argv, const Streams& streams) {
   app.footer(kFooter);
   app.require_subcommand(0, 1);
   app.fallthrough();
-  app.set_version_flag("--version", "orvanta 0.1.0");
+  app.set_version_flag("--version", "orvanta " ORVANTA_VERSION);
   std::int64_t logLevel = OrvantaLogger::logLevel();
   app.add_option("--log-level", logLevel,
                  "0 and below: no log lines; 1: errors; 2 and more: progress as well")
