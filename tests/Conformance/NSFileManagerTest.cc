@@ -1,9 +1,12 @@
 #include <unistd.h>
 
 #include "Conformance/Subjects.h"
+#include "orvanta/Conformance/NSFileManagerConformance.h"
 
 namespace orvanta::testing {
 namespace {
+
+using namespace conformance;
 
 struct LinuxFiles : LinuxSubject {
   void add(const std::string& name, const std::string& content) { folder.write(name, content); }
@@ -18,7 +21,7 @@ struct LinuxFiles : LinuxSubject {
     work();
     return !isRoot || ::seteuid(0) == 0;
   }
-  NSFileManager& service = files;
+  NSFileManager& service() { return files; }
 };
 struct MemoryFiles : MemorySubject {
   void add(const std::string& name, const std::string& content) {
@@ -27,10 +30,11 @@ struct MemoryFiles : MemorySubject {
   }
   Url url(const std::string& name) const { return files.url(name); }
   std::string content(const std::string& name) {
-    return std::string(files.size(url(name)).value_or(0), 'x');
+    std::string characters(files.size(url(name)).value_or(0), 'x');
+    return characters;
   }
   bool withoutPermission(const std::function<void()>& /*work*/) { return false; }
-  NSFileManager& service = files;
+  NSFileManager& service() { return files; }
 };
 struct DoubleFiles : DoubleSubject {
   void add(const std::string& name, const std::string& content) {
@@ -48,58 +52,10 @@ struct DoubleFiles : DoubleSubject {
     work();
     return true;
   }
-  NSFileManager& service = *platform.defaultManager();
+  NSFileManager& service() { return *platform.defaultManager(); }
 };
-
-template <class Subject>
-class NSFileManagerConformance : public ::testing::Test {
- protected:
-  /// Returns "domain code, POSIX code" of a move, or "moved".
-  std::string move(const std::string& from, const std::string& to) {
-    const auto error = subject.service.moveItemAtURL(subject.url(from), subject.url(to));
-    if (!error) return "moved";
-    const auto* posix = error->userInfo()[NSError::kUnderlyingError].template as<NSError>();
-    EXPECT_TRUE(posix != nullptr && posix->domain() == "NSPOSIXErrorDomain");
-    return error->domain() + " " + std::to_string(error->code()) + ", " +
-           std::to_string(posix == nullptr ? 0 : posix->code());
-  }
-  Subject subject;
-};
-using FileManagers = ::testing::Types<LinuxFiles, MemoryFiles, DoubleFiles>;
-TYPED_TEST_SUITE(NSFileManagerConformance, FileManagers, SubjectNames);
-
-TYPED_TEST(NSFileManagerConformance, TheCachesFoldersAreFileURLsThatEndInASlash) {
-  const auto urls = this->subject.service.URLsForCachesDirectory();
-  EXPECT_FALSE(urls.empty());
-  for (const Url& url : urls) {
-    EXPECT_TRUE(url.isFileURL()) << url.absoluteString();
-    EXPECT_TRUE(url.absoluteString().ends_with("/")) << url.absoluteString();
-  }
-}
-
-TYPED_TEST(NSFileManagerConformance, MovesAFile) {
-  this->subject.add("a b", "xxx");
-  EXPECT_EQ(this->move("a b", "ä"), "moved");
-  EXPECT_EQ(this->subject.content("a b"), "");
-  EXPECT_EQ(this->subject.content("ä"), "xxx");
-}
-
-TYPED_TEST(NSFileManagerConformance, NeverOverwrites) {
-  this->subject.add("a", "xxx");
-  this->subject.add("b", "x");
-  EXPECT_EQ(this->move("a", "b"), "NSCocoaErrorDomain 516, 17");
-  EXPECT_EQ(this->subject.content("a"), "xxx");
-  EXPECT_EQ(this->subject.content("b"), "x");
-}
-
-TYPED_TEST(NSFileManagerConformance, AFolderWithoutPermissionIsAnError) {
-  this->subject.add("a", "xxx");
-  std::string outcome;
-  const bool wasTried = this->subject.withoutPermission([&] { outcome = this->move("a", "b"); });
-  if (!wasTried) GTEST_SKIP() << "no user without permission";
-  EXPECT_EQ(outcome, "NSCocoaErrorDomain 513, 13");
-  EXPECT_EQ(this->subject.content("a"), "xxx");
-}
+using NSFileManagerSubjects = ::testing::Types<LinuxFiles, MemoryFiles, DoubleFiles>;
+INSTANTIATE_TYPED_TEST_SUITE_P(Conformance, NSFileManagerConformance, NSFileManagerSubjects);
 
 }  // namespace
 }  // namespace orvanta::testing

@@ -1,132 +1,73 @@
 #include <sstream>
 
 #include "Conformance/Subjects.h"
+#include "orvanta/Conformance/ClockConformance.h"
+#include "orvanta/Conformance/NSBundleConformance.h"
+#include "orvanta/Conformance/SystemLogConformance.h"
+#include "orvanta/Conformance/TypeIdentifiersConformance.h"
 #include "orvanta/Simulator/RecordingLog.h"
 #include "orvanta/Simulator/StringsFile.h"
 #include "orvanta/Simulator/SystemClock.h"
 #include "orvanta/Simulator/UniformTypes.h"
-#include "support/Threads.h"
 
 // The services that return at once, on any thread.
 
 namespace orvanta::testing {
 namespace {
 
+using namespace conformance;
+
 // ---- Clock -------------------------------------------------------------------
 
-struct MachineClock : MemorySubject {
-  SystemClock service;
+struct MachineClock {
+  Clock& service() { return clock; }
+  SystemClock clock;
 };
 struct DoubleClock : DoubleSubject {
-  Clock& service = *platform.clock();
+  Clock& service() { return *platform.clock(); }
 };
-
-template <class Subject>
-class ClockConformance : public ::testing::Test {};
-using Clocks = ::testing::Types<MachineClock, DoubleClock>;
-TYPED_TEST_SUITE(ClockConformance, Clocks, SubjectNames);
-
-TYPED_TEST(ClockConformance, NeverGoesBackOnAnyThread) {
-  TypeParam subject;
-  const std::int64_t start = subject.service.monotonicNanoseconds();
-  runTogether([&] {
-    std::int64_t last = start;
-    for (int i = 0; i < 1000; ++i) {
-      const std::int64_t now = subject.service.monotonicNanoseconds();
-      EXPECT_LE(last, now);
-      last = now;
-    }
-  });
-  EXPECT_GE(subject.service.monotonicNanoseconds(), start);
-}
+using ClockSubjects = ::testing::Types<MachineClock, DoubleClock>;
+INSTANTIATE_TYPED_TEST_SUITE_P(Conformance, ClockConformance, ClockSubjects);
 
 // ---- System log ----------------------------------------------------------------
 
-struct StreamLog : MemorySubject {
-  std::vector<std::string> entries() const { return service.entries(); }
+struct StreamLog {
+  SystemLog& service() { return log; }
+  std::vector<std::string> entries() const { return log.entries(); }
   std::ostringstream out;
-  RecordingLog service{out};
+  RecordingLog log{out};
 };
 struct DoubleLog : DoubleSubject {
+  SystemLog& service() { return *platform.systemLog(); }
   std::vector<std::string> entries() const { return platform.log; }
-  SystemLog& service = *platform.systemLog();
 };
-
-template <class Subject>
-class SystemLogConformance : public ::testing::Test {};
-using Logs = ::testing::Types<StreamLog, DoubleLog>;
-TYPED_TEST_SUITE(SystemLogConformance, Logs, SubjectNames);
-
-TYPED_TEST(SystemLogConformance, TakesWholeEntriesFromAnyThread) {
-  TypeParam subject;
-  const std::string entry(200, 'x');
-  runTogether([&] {
-    for (int i = 0; i < 100; ++i) subject.service.write(entry);
-  });
-  EXPECT_EQ(subject.entries(), std::vector<std::string>(400, entry));
-}
+using SystemLogSubjects = ::testing::Types<StreamLog, DoubleLog>;
+INSTANTIATE_TYPED_TEST_SUITE_P(Conformance, SystemLogConformance, SystemLogSubjects);
 
 // ---- Bundle ----------------------------------------------------------------------
 
-struct FileStrings : MemorySubject {
+struct FileStrings {
   NSBundle& service() { return bundle; }
-  SimulatedBundle bundle{
-      parseStrings(R"("►►" = "Weiter"; empty = ""; "two words" = "x\ny";)", "Localizable.strings")};
+  SimulatedBundle bundle{parseStrings(kLocalizableStrings, "Localizable.strings")};
 };
-struct DoubleTexts : DoubleSubject {
-  DoubleTexts() { platform.texts = {{"►►", "Weiter"}, {"empty", ""}, {"two words", "x\ny"}}; }
+struct DoubleStrings : DoubleSubject {
+  DoubleStrings() { platform.texts = {{"►►", "Weiter"}, {"empty", ""}, {"two words", "x\ny"}}; }
   NSBundle& service() { return *platform.mainBundle(); }
 };
-
-template <class Subject>
-class NSBundleConformance : public ::testing::Test {};
-using Bundles = ::testing::Types<FileStrings, DoubleTexts>;
-TYPED_TEST_SUITE(NSBundleConformance, Bundles, SubjectNames);
-
-TYPED_TEST(NSBundleConformance, ReturnsTheStringOrTheKeyOnAnyThread) {
-  TypeParam subject;
-  NSBundle& bundle = subject.service();
-  runTogether([&bundle] {
-    EXPECT_EQ(bundle.localizedStringForKey("►►"), "Weiter");
-    EXPECT_EQ(bundle.localizedStringForKey("two words"), "x\ny");
-    EXPECT_EQ(bundle.localizedStringForKey("empty"), "");
-    for (const char* const key : {"missing", "Two Words", ""}) {
-      EXPECT_EQ(bundle.localizedStringForKey(key), key);
-    }
-  });
-}
+using NSBundleSubjects = ::testing::Types<FileStrings, DoubleStrings>;
+INSTANTIATE_TYPED_TEST_SUITE_P(Conformance, NSBundleConformance, NSBundleSubjects);
 
 // ---- Type identifiers ----------------------------------------------------------
 
-struct SimulatedTypes : MemorySubject {
-  UniformTypes service;
+struct SimulatedTypes {
+  TypeIdentifiers& service() { return types; }
+  UniformTypes types;
 };
 struct DoubleTypes : DoubleSubject {
-  TypeIdentifiers& service = *platform.typeIdentifiers();
+  TypeIdentifiers& service() { return *platform.typeIdentifiers(); }
 };
-
-template <class Subject>
-class TypeIdentifiersConformance : public ::testing::Test {};
-using Types = ::testing::Types<SimulatedTypes, DoubleTypes>;
-TYPED_TEST_SUITE(TypeIdentifiersConformance, Types, SubjectNames);
-
-TYPED_TEST(TypeIdentifiersConformance, UndeclaredTypesHaveDynamicIdentifiers) {
-  TypeParam subject;
-  std::set<std::string> identifiers;
-  const std::vector<std::string> types{"image/x-odd", "image/x-odder", "image/jpeg; q=1",
-                                       " image/jpeg", "jpeg"};
-  for (const std::string& type : types) {
-    const auto identifier = subject.service.preferredIdentifierForMIMEType(type);
-    ASSERT_TRUE(identifier) << type;
-    EXPECT_TRUE(identifier->starts_with("dyn.a")) << *identifier;
-    EXPECT_EQ(identifier, subject.service.preferredIdentifierForMIMEType(type));
-    identifiers.insert(*identifier);
-  }
-  EXPECT_EQ(identifiers.size(), types.size());
-  EXPECT_EQ(subject.service.preferredIdentifierForMIMEType("Image/X-Odd"),
-            subject.service.preferredIdentifierForMIMEType("image/x-odd"));
-  EXPECT_EQ(subject.service.preferredIdentifierForMIMEType(std::nullopt), std::nullopt);
-}
+using TypeIdentifiersSubjects = ::testing::Types<SimulatedTypes, DoubleTypes>;
+INSTANTIATE_TYPED_TEST_SUITE_P(Conformance, TypeIdentifiersConformance, TypeIdentifiersSubjects);
 
 }  // namespace
 }  // namespace orvanta::testing

@@ -1,23 +1,18 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include "orvanta/Linux/FolderDeviceFiles.h"
 #include "orvanta/Linux/FolderStateStore.h"
 #include "orvanta/Simulator/Event.h"
 #include "orvanta/Simulator/EventLoop.h"
 #include "support/FakePlatform.h"
 #include "support/TemporaryFolder.h"
-#include "support/Values.h"
 
-// A conformance suite checks what an interface promises. It runs on subjects, one per
-// implementation, which offer the service and what the suite needs to set it up.
+// What the subjects of the conformance suites share; Platform/Conformance/ describes subjects.
 
 namespace orvanta::testing {
 
 /// The base of subjects on a simulated device whose files are in a folder.
 struct LinuxSubject {
-  static constexpr const char* kName = "Linux";
   void runAll() { loop.run(); }
 
   TemporaryFolder folder;
@@ -29,7 +24,6 @@ struct LinuxSubject {
 
 /// The base of subjects on a simulated device in memory.
 struct MemorySubject {
-  static constexpr const char* kName = "Memory";
   void runAll() { loop.run(); }
 
   InMemoryDeviceFiles files;
@@ -40,17 +34,9 @@ struct MemorySubject {
 
 /// The base of subjects on the tests' double.
 struct DoubleSubject {
-  static constexpr const char* kName = "Double";
   void runAll() { platform.runAll(); }
 
   FakePlatform platform;
-};
-
-struct SubjectNames {
-  template <class Subject>
-  static std::string GetName(int /*index*/) {  // NOLINT(readability-identifier-naming)
-    return Subject::kName;
-  }
 };
 
 }  // namespace orvanta::testing

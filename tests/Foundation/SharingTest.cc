@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "support/Threads.h"
+#include "orvanta/Conformance/Threads.h"
 #include "support/Values.h"
 
 namespace orvanta::testing {
@@ -38,7 +38,7 @@ TEST(Sharing, ThreadsReadCopyAndDropOneTree) {
     std::vector<Value> copies(4, tree);
     tree = Value();
     std::atomic<int> same{0};
-    runTogether([&](int thread) {
+    conformance::runTogether([&](int thread) {
       Value mine = std::move(copies[static_cast<std::size_t>(thread)]);
       for (int round = 0; round < 20; ++round) {
         const Value names = valueForKeyPath(mine, "list.name");
@@ -62,14 +62,15 @@ TEST(Sharing, PartsDroppedInDifferentThreadsFreeTheTreeOnce) {
       const Value tree = parseJSON(R"(["a text of more than fourteen bytes", {"a": 1}, [2], {}])");
       for (const Value& element : *tree.array()) parts.push_back(element);
     }
-    runTogether([&](int thread) { parts[static_cast<std::size_t>(thread)] = Value(); });
+    conformance::runTogether(
+        [&](int thread) { parts[static_cast<std::size_t>(thread)] = Value(); });
   }
 }
 
 TEST(Sharing, ThreadsShareOneObject) {
   ASSERT_EQ(Labeled::alive, 0);
   std::vector<Value> copies(4, Value(Labeled::make("x")));
-  runTogether([&](int thread) {
+  conformance::runTogether([&](int thread) {
     const Value mine = std::move(copies[static_cast<std::size_t>(thread)]);
     for (int round = 0; round < 1000; ++round) const Array array({mine, mine});
   });

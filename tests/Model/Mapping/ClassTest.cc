@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "orvanta/Conformance/Threads.h"
 #include "support/ModelHelpers.h"
 #include "support/ModelZoo.h"
-#include "support/Threads.h"
 
 namespace orvanta::testing {
 namespace {
@@ -45,7 +45,7 @@ TEST(ClassTables, AModelsOwnClassTableDecidesTheNestedClasses) {
 
 TEST(ClassTables, ThreadsCanUseAClassFirstAtTheSameTime) {
   std::atomic<const Dictionary*> first{nullptr};
-  runTogether([&] {
+  conformance::runTogether([&] {
     const auto model = modelFromJSON<UntouchedModel>(R"({"link": "a/b", "name": "n"})");
     EXPECT_EQ(toJSON(model->dictionaryValue()), R"({"link":"a\/b","name":"n","size":0})");
     const Dictionary* cache = &model->propertyTypeEncodingCache();

@@ -2,10 +2,10 @@
 
 #include <limits>
 
+#include "orvanta/Conformance/Threads.h"
 #include "support/ModelHelpers.h"
 #include "support/ModelZoo.h"
 #include "support/RecordingPlatform.h"
-#include "support/Threads.h"
 
 namespace orvanta::testing {
 namespace {
@@ -125,7 +125,7 @@ TEST(Writing, FollowsPropertyPathsThroughNestedObjects) {
 TEST(Writing, ThreadsTakeTurnsAtOneObject) {
   const auto model = make<SelfWritingModel>();
   model->setName("n");
-  runTogether([&] {
+  conformance::runTogether([&] {
     for (int i = 0; i < 100; ++i) EXPECT_EQ(model->dictionaryValue()["entries"], Value(1));
   });
   EXPECT_EQ(model->timesCounted(), 400);

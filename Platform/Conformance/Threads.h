@@ -5,7 +5,7 @@
 #include <type_traits>
 #include <vector>
 
-namespace orvanta::testing {
+namespace orvanta::conformance {
 
 /// Runs a callable in four threads that start together; it may take the thread's number.
 template <class Work>
@@ -28,4 +28,4 @@ void runTogether(const Work& work) {
   for (std::thread& thread : threads) thread.join();
 }
 
-}  // namespace orvanta::testing
+}  // namespace orvanta::conformance
