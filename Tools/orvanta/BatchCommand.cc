@@ -2,6 +2,7 @@
 #include <ostream>
 
 #include "orvanta/Foundation/JSON.h"
+#include "orvanta/Inspection/Models.h"
 #include "orvanta/Model/Events/OrvantaEvent.h"
 #include "orvanta/Model/Requests/EventBatchQueue.h"
 #include "orvanta/Tool/Commands.h"
@@ -49,7 +50,7 @@ Ref<OrvantaEventRequest> restoreRequest(const LineReader& reader, std::string& r
   }
   const RefusalRecorder recorder;
   auto request = make<OrvantaEventRequest>(*dictionary);
-  if (!request) return reject(rejectionReason(recorder, cls));
+  if (!request) return reject(inspection::rejectionReason(recorder, cls));
   if (eventCount(*request) == 0) {
     const Value& events = (*dictionary)["events"];
     return reject("\"events\" is " + (events.array() != nullptr ? "empty" : excerpt(events)) +
@@ -86,7 +87,7 @@ void printBatch(const OrvantaEventRequest& batch, std::ostream& out) {
                        {"idsContained", batch.idsContained().raw()},
                        {"events", eventCount(batch)},
                        {"priority", batch.priority().value_or(0)},
-                       {"spec", specDictionary(*batch.requestSpec())}},
+                       {"spec", inspection::specDictionary(*batch.requestSpec())}},
             out, /*pretty=*/false);
   out.flush();  // a reader may be following a growing file
 }

@@ -5,12 +5,14 @@
 #include <memory>
 #include <ostream>
 
+#include "orvanta/Inspection/Models.h"
 #include "orvanta/Model/Mapping/OrvantaLogger.h"
 #include "orvanta/Platform/Platform.h"
 #include "orvanta/Simulator/RecordingLog.h"
 #include "orvanta/Simulator/SystemClock.h"
 #include "orvanta/Simulator/SystemRandom.h"
 #include "orvanta/Tool/Commands.h"
+#include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
 
@@ -271,6 +273,10 @@ ExitCode runCommandLine(int argc, const char* const* argv, const Streams& stream
   } catch (const CommandError& error) {
     streams.err << "orvanta: " << error.what() << '\n';
     return error.code();
+  } catch (const inspection::Error& error) {
+    streams.err << "orvanta: " << escapeForTerminal(error.what()) << '\n';
+    const bool isUsage = error.kind() == inspection::Error::Kind::usage;
+    return isUsage ? ExitCode::usage : ExitCode::rejected;
   } catch (const std::exception& error) {
     streams.err << "orvanta: internal error: " << error.what() << '\n';
     return ExitCode::internal;

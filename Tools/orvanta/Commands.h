@@ -5,9 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "orvanta/Model/Mapping/Class.h"
-#include "orvanta/Model/Mapping/RefusalRecorder.h"
-#include "orvanta/Model/Requests/OrvantaRequestSpec.h"
 #include "orvanta/Tool/CommandLine.h"
 
 namespace orvanta::tool {
@@ -73,17 +70,5 @@ struct DeviceOptions {
   bool all = false;
 };
 ExitCode device(const DeviceOptions& options, const Streams& streams);
-
-/// Returns the model class of that name; throws a usage CommandError that suggests the nearest one.
-const Class& classForArgument(const std::string& name);
-
-/// Returns why a model of the class rejected its dictionary, for a message.
-std::string rejectionReason(const RefusalRecorder& recorder, const Class& cls);
-
-/// Throws CommandError naming the first entry of a model's dictionary that JSON cannot represent.
-void checkWritable(const Dictionary& dictionary, const Class& cls);
-
-/// Returns a spec as a dictionary, with null for each part that is not set.
-Dictionary specDictionary(const OrvantaRequestSpec& spec);
 
 }  // namespace orvanta::tool

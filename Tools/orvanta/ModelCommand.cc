@@ -1,8 +1,7 @@
 #include <algorithm>
 #include <ostream>
 
-#include "orvanta/Foundation/Array.h"
-#include "orvanta/Foundation/JSON.h"
+#include "orvanta/Inspection/Models.h"
 #include "orvanta/Model/Mapping/OrvantaBaseModel.h"
 #include "orvanta/Model/Mapping/RefusalRecorder.h"
 #include "orvanta/Tool/Commands.h"
@@ -10,32 +9,6 @@
 #include "orvanta/Tool/Text.h"
 
 namespace orvanta::tool {
-
-const Class& classForArgument(const std::string& name) {
-  if (const Class* cls = modelClassNamed(name)) return *cls;
-  const auto nearest = std::min_element(
-      modelClasses().begin(), modelClasses().end(), [&](const Class* a, const Class* b) {
-        return editDistance(a->name, name) < editDistance(b->name, name);
-      });
-  throw CommandError(ExitCode::usage, "there is no class \"" + escapeForTerminal(name) +
-                                          "\"; the nearest is " + std::string((*nearest)->name));
-}
-
-std::string rejectionReason(const RefusalRecorder& recorder, const Class& cls) {
-  return recorder.refusal() ? escapeForTerminal(recorder.refusal()->description())
-                            : std::string(cls.name) + " refused without a reason";
-}
-
-void checkWritable(const Dictionary& dictionary, const Class& cls) {
-  for (const Dictionary::Entry& entry : dictionary) {
-    if (!isValidJSONObject(Array{entry.value})) {
-      throw CommandError(ExitCode::rejected,
-                         std::string(cls.name) + " \"" + escapeForTerminal(entry.key()) +
-                             "\": " + std::string(entry.value.kindName()) +
-                             " without a JSON text, such as an infinite number");
-    }
-  }
-}
 
 namespace {
 
@@ -52,13 +25,14 @@ Outcome outcomeOf(Update&& update) {
 }
 
 void printRejection(const RefusalRecorder& recorder, const Class& cls, const Streams& streams) {
-  streams.err << "orvanta: " << rejectionReason(recorder, cls) << '\n';
+  streams.err << "orvanta: " << escapeForTerminal(inspection::rejectionReason(recorder, cls))
+              << '\n';
 }
 
 }  // namespace
 
 ExitCode model(const ModelOptions& options, const Streams& streams) {
-  const Class& cls = classForArgument(options.className);
+  const Class& cls = inspection::classNamed(options.className);
   const auto readsStandardIn = std::count(options.updates.begin(), options.updates.end(), "-") +
                                (!options.init && options.file == "-" ? 1 : 0);
   if (readsStandardIn > 1) {
@@ -85,7 +59,7 @@ ExitCode model(const ModelOptions& options, const Streams& streams) {
     if (updated == Outcome::thrown) return ExitCode::rejected;
   }
   const Dictionary result = object->dictionaryValueWithPolicy(options.classInfo);
-  checkWritable(result, cls);
+  inspection::checkWritable(result, cls);
   printJSON(result, streams.out, options.pretty);
   return ExitCode::done;
 }

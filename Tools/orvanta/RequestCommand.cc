@@ -1,6 +1,7 @@
 #include <ostream>
 #include <sstream>
 
+#include "orvanta/Inspection/Models.h"
 #include "orvanta/Model/Requests/OrvantaBaseRequest.h"
 #include "orvanta/Tool/Commands.h"
 #include "orvanta/Tool/Input.h"
@@ -8,41 +9,19 @@
 
 namespace orvanta::tool {
 
-Dictionary specDictionary(const OrvantaRequestSpec& spec) {
-  const auto orNull = [](const PropertyValue<String>& text) {
-    return text.isPresent() ? text.raw() : Value::null();
-  };
-  return {{"baseURL", orNull(spec.baseURL)},
-          {"path", orNull(spec.path)},
-          {"HTTPMethod", orNull(spec.HTTPMethod)},
-          {"HTTPHeaders", spec.HTTPHeaders},
-          {"HTTPBody", spec.HTTPBody},
-          {"timeoutInterval", spec.timeoutInterval},
-          {"queuePriority", spec.queuePriority}};
-}
-
 ExitCode request(const RequestOptions& options, const Streams& streams) {
-  const Class& cls = classForArgument(options.className);
-  if (!cls.isSubclassOf(OrvantaBaseRequest::classObject())) {
-    throw CommandError(ExitCode::usage, std::string(cls.name) + " is no request class");
-  }
+  const Class& cls = inspection::classNamed(options.className);
+  inspection::checkIsRequest(cls);
   const Input input = readInput(options.file, streams);
-  const RefusalRecorder recorder;
-  const auto model = makeModel(cls, &input.object);
-  const auto* request = Value(model).as<OrvantaBaseRequest>();
-  if (request == nullptr) throw CommandError(ExitCode::rejected, rejectionReason(recorder, cls));
-  const auto spec = request->requestSpec();
-  if (options.text) {
-    std::istringstream lines(spec->description().substr(1));
-    for (std::string line; std::getline(lines, line);)
-      streams.out << escapeForTerminal(line) << '\n';
+  if (!options.text) {
+    printJSON(inspection::requestCall(cls, input.object), streams.out, /*pretty=*/true);
     return ExitCode::done;
   }
-  checkWritable(spec->HTTPBody, cls);
-  Dictionary call = specDictionary(*spec);
-  const auto priority = request->priority();
-  call.set("priority", priority ? Value(*priority) : Value::null());
-  printJSON(call, streams.out, /*pretty=*/true);
+  const auto request = inspection::restoredRequest(cls, input.object);
+  std::istringstream lines(request->requestSpec()->description().substr(1));
+  for (std::string line; std::getline(lines, line);) {
+    streams.out << escapeForTerminal(line) << '\n';
+  }
   return ExitCode::done;
 }
 

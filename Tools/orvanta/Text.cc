@@ -1,27 +1,9 @@
 #include "orvanta/Tool/Text.h"
 
-#include <algorithm>
-#include <numeric>
-#include <vector>
-
 #include "orvanta/Foundation/JSON.h"
 #include "orvanta/Tool/CommandLine.h"
 
 namespace orvanta::tool {
-
-std::size_t editDistance(std::string_view a, std::string_view b) {
-  std::vector<std::size_t> row(b.size() + 1);
-  std::iota(row.begin(), row.end(), std::size_t{0});
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    std::size_t diagonal = std::exchange(row[0], i + 1);
-    for (std::size_t j = 0; j < b.size(); ++j) {
-      const std::size_t replaced = diagonal + (a[i] == b[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({replaced, row[j] + 1, diagonal + 1});
-    }
-  }
-  return row.back();
-}
 
 void printJSON(const Value& value, std::ostream& out, bool pretty) {
   std::string text;

@@ -10,9 +10,6 @@
 
 namespace orvanta::tool {
 
-/// The Levenshtein distance in bytes.
-std::size_t editDistance(std::string_view a, std::string_view b);
-
 /// Writes a value as JSON and a line end, with control characters as \u00xx. Throws CommandError if
 /// JSON cannot represent the value.
 void printJSON(const Value& value, std::ostream& out, bool pretty);

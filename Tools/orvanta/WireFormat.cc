@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-#include "orvanta/Tool/ClassMetadata.h"
+#include "orvanta/Inspection/ClassMetadata.h"
 
 namespace orvanta::tool {
 
@@ -111,7 +111,7 @@ void printClass(const Class& cls, std::ostream& out) {
     out << "The root of all models.\n";
   } else {
     out << "Derives from " << link(cls.superclass->name) << ".";
-    const ClassMetadata metadata(cls);
+    const inspection::ClassMetadata metadata(cls);
     if (metadata.eventCode) out << " Event code `" << *metadata.eventCode << "`.";
     if (metadata.path) {
       out << " Sent with " << *metadata.method << " to `" << *metadata.path << "`, answered with "
@@ -150,7 +150,7 @@ void printClass(const Class& cls, std::ostream& out) {
 void printEventCodes(const std::vector<const Class*>& classes, std::ostream& out) {
   std::vector<std::string> rows;
   for (const Class* cls : classes) {
-    const ClassMetadata metadata(*cls);
+    const inspection::ClassMetadata metadata(*cls);
     if (!metadata.eventCode) continue;
     rows.push_back("| `" + *metadata.eventCode + "` | " + link(cls->name) + " | " +
                    std::to_string(*metadata.priority) + " |\n");
@@ -164,7 +164,7 @@ void printEventCodes(const std::vector<const Class*>& classes, std::ostream& out
 void printEndpoints(const std::vector<const Class*>& classes, std::ostream& out) {
   std::map<std::uint64_t, std::string> rows;
   for (const Class* cls : classes) {
-    const ClassMetadata metadata(*cls);
+    const inspection::ClassMetadata metadata(*cls);
     if (!metadata.path) continue;
     rows[metadata.pathCode] = "| " + std::to_string(metadata.pathCode) + " | `" +
                               std::string(*metadata.path) + "` | " + link(cls->name) + " | " +

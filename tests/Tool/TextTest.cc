@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "orvanta/Foundation/Array.h"
+#include "orvanta/Inspection/Models.h"
 #include "orvanta/Tool/CommandLine.h"
 #include "orvanta/Tool/Text.h"
 
@@ -17,8 +18,8 @@ TEST(Text, MeasuresEditDistance) {
   } rows[] = {
       {"", "", 0}, {"", "ab", 2}, {"ab", "ab", 0}, {"kitten", "sitting", 3}, {"abc", "ca", 3}};
   for (const auto& row : rows) {
-    EXPECT_EQ(tool::editDistance(row.a, row.b), row.distance) << row.a;
-    EXPECT_EQ(tool::editDistance(row.b, row.a), row.distance) << row.b;
+    EXPECT_EQ(inspection::editDistance(row.a, row.b), row.distance) << row.a;
+    EXPECT_EQ(inspection::editDistance(row.b, row.a), row.distance) << row.b;
   }
 }
 

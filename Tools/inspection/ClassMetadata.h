@@ -7,7 +7,7 @@
 
 #include "orvanta/Model/Mapping/Class.h"
 
-namespace orvanta::tool {
+namespace orvanta::inspection {
 
 /// What an event or request class defines for all its objects, besides its tables.
 struct ClassMetadata {
@@ -26,4 +26,4 @@ struct ClassMetadata {
   std::optional<std::int64_t> priority;
 };
 
-}  // namespace orvanta::tool
+}  // namespace orvanta::inspection

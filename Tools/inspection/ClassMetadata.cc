@@ -1,9 +1,9 @@
-#include "orvanta/Tool/ClassMetadata.h"
+#include "orvanta/Inspection/ClassMetadata.h"
 
 #include "orvanta/Model/Events/OrvantaEvent.h"
 #include "orvanta/Model/Requests/OrvantaEventRequest.h"
 
-namespace orvanta::tool {
+namespace orvanta::inspection {
 
 ClassMetadata::ClassMetadata(const Class& cls) {
   const Value model = makeModel(cls, nullptr);
@@ -23,4 +23,4 @@ ClassMetadata::ClassMetadata(const Class& cls) {
   }
 }
 
-}  // namespace orvanta::tool
+}  // namespace orvanta::inspection
