@@ -33,8 +33,6 @@ function(orvanta_library target)
   endif()
 
   add_library(${target} STATIC ${FAST} ${SMALL})
-  set_target_properties(${target} PROPERTIES
-    POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   orvanta_warnings(${target})
   set_source_files_properties(${SMALL} PROPERTIES COMPILE_OPTIONS "$<$<CONFIG:Release>:-Os>")
   # An archive must fit into a consumer's shared object. Hidden symbols keep calls within the library
