@@ -46,7 +46,7 @@ void NotificationHelper::setNotificationCategories(
         Dictionary indices;  // identifier to index in `merged`
         const auto enter = [&](const UNNotificationCategory& category) {
           if (const auto index = indices[category.identifier].number()) {
-            merged[index->unsignedLongLongValue()] = category;
+            merged[static_cast<std::size_t>(index->unsignedLongLongValue())] = category;
           } else {
             indices.set(category.identifier, merged.size());
             merged.push_back(category);

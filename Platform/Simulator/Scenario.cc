@@ -99,11 +99,11 @@ Scenario Scenario::fromDictionary(const Dictionary& dictionary) {
          }},
         {"expireAt", [&](const Value& v) { scenario.expireAt = seconds(v); }},
         {"second", [&](const Value& v) {
-           Second second;
+           Second request;
            read(config::dictionary(v), "second.",
-                {{"at", [&](const Value& a) { second.at = seconds(a); }},
-                 {"payload", [&](const Value& p) { second.payload = config::dictionary(p); }}});
-           scenario.second = second;
+                {{"at", [&](const Value& a) { request.at = seconds(a); }},
+                 {"payload", [&](const Value& p) { request.payload = config::dictionary(p); }}});
+           scenario.second = request;
          }}});
   return scenario;
 }

@@ -28,7 +28,7 @@ class KeyedHash {
       std::random_device device;
       for (std::uint64_t& word : key_) word = std::uint64_t{device()} << 32 | device();
     } catch (const std::exception&) {
-      key_[0] = std::bit_cast<std::uint64_t>(this);  // an address, at least not known outside
+      key_[0] = reinterpret_cast<std::uintptr_t>(this);  // an address, at least not known outside
     }
   }
 

@@ -108,9 +108,8 @@ class TreeBuilder {
   /// Closes the innermost container and returns its items. The item below them on the stack is the
   /// container's own; until now its value is the place of the next outer one.
   std::span<const Item> close() {
-    const std::span<const Item> items(stack_.begin() + static_cast<std::ptrdiff_t>(open_),
-                                      stack_.end());
-    open_ = stack_[open_ - 1].value.words[0];
+    const std::span<const Item> items(stack_.data() + open_, stack_.size() - open_);
+    open_ = static_cast<std::size_t>(stack_[open_ - 1].value.words[0]);
     return items;
   }
   void finish(Bits container, std::size_t items) {

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "orvanta/Foundation/Exception.h"
+#include "orvanta/Foundation/internal/BitCast.h"
 
 namespace orvanta {
 
@@ -150,9 +151,9 @@ std::uint64_t Number::unsignedLongLongValue() const noexcept {
 double Number::doubleValue() const noexcept {
   switch (kind_) {
     case Kind::real:
-      return std::bit_cast<double>(bits_);
+      return bitCast<double>(bits_);
     case Kind::real32:
-      return static_cast<double>(std::bit_cast<float>(static_cast<std::uint32_t>(bits_)));
+      return static_cast<double>(bitCast<float>(static_cast<std::uint32_t>(bits_)));
     case Kind::integer:
       return static_cast<double>(static_cast<std::int64_t>(bits_));
     default:

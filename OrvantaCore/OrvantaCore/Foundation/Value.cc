@@ -12,8 +12,6 @@
 
 namespace orvanta {
 
-static_assert(sizeof(Array) == 8 && sizeof(Dictionary) == 8 && sizeof(Url) == 8);
-
 Value::Value(std::string_view string)
     : Value(string.size() <= kInlineCapacity
                 ? inlineString(string)
@@ -47,7 +45,7 @@ Value::Value(const Object* object) noexcept {
 Value::Value(const ClassObject* cls) noexcept {
   if (cls == nullptr) return;
   bytes_[0] = static_cast<unsigned char>(Kind::classObject);
-  setWord(1, std::bit_cast<std::uint64_t>(cls));
+  setWord(1, addressBits(cls));
 }
 
 void Value::releaseNode() const noexcept {
@@ -70,7 +68,7 @@ void Value::releaseNode() const noexcept {
 const Url* Value::url() const noexcept { return payloadIf<Url>(Kind::url); }
 
 const ClassObject* Value::classObject() const noexcept {
-  return kind() == Kind::classObject ? std::bit_cast<const ClassObject*>(word(1)) : nullptr;
+  return kind() == Kind::classObject ? pointerAs<ClassObject>() : nullptr;
 }
 
 Array& Value::editArray() {
@@ -123,7 +121,7 @@ std::size_t Value::hash() const {
     case Kind::object:
       return object()->hash();
     default:
-      return word(1);
+      return static_cast<std::size_t>(word(1));
   }
 }
 

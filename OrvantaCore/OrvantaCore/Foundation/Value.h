@@ -13,6 +13,7 @@
 
 #include "orvanta/Foundation/Date.h"
 #include "orvanta/Foundation/Object.h"
+#include "orvanta/Foundation/internal/BitCast.h"
 #include "orvanta/Foundation/internal/TextScan.h"
 
 namespace orvanta {
@@ -66,11 +67,10 @@ class Value {
   template <std::unsigned_integral T>
   requires(!std::same_as<T, bool>) Value(T number)
   noexcept : Value(Kind::unsignedInteger, std::uint64_t{number}) {}
-  Value(double number) noexcept : Value(Kind::real, std::bit_cast<std::uint64_t>(number)) {}
+  Value(double number) noexcept : Value(Kind::real, bitCast<std::uint64_t>(number)) {}
   Value(float number) noexcept
-      : Value(Kind::real32, std::uint64_t{std::bit_cast<std::uint32_t>(number)}) {}
-  Value(Date date) noexcept
-      : Value(Kind::date, std::bit_cast<std::uint64_t>(date.secondsSince1970)) {}
+      : Value(Kind::real32, std::uint64_t{bitCast<std::uint32_t>(number)}) {}
+  Value(Date date) noexcept : Value(Kind::date, bitCast<std::uint64_t>(date.secondsSince1970)) {}
   /// A UTF-8 string. Not checked here; parsers and the platform check what they accept.
   Value(std::string_view string);
   Value(const char* string) : Value(std::string_view(string)) {}
@@ -87,7 +87,7 @@ class Value {
   Value(Ref<T>&& object) noexcept {
     if (const Object* taken = object.release()) {
       bytes_[0] = static_cast<unsigned char>(Kind::object) | kSharedBit;
-      setWord(1, std::bit_cast<std::uint64_t>(static_cast<const Node*>(taken)));
+      setWord(1, addressBits(static_cast<const Node*>(taken)));
     }
   }
   explicit Value(const Object* object) noexcept;
@@ -131,7 +131,7 @@ class Value {
   std::optional<Number> number() const noexcept;
   std::optional<Date> date() const noexcept {
     if (kind() != Kind::date) return std::nullopt;
-    return Date{std::bit_cast<double>(word(1))};
+    return Date{bitCast<double>(word(1))};
   }
   inline const Array* array() const noexcept;            // Array.h
   inline const Dictionary* dictionary() const noexcept;  // Dictionary.h
@@ -181,11 +181,14 @@ class Value {
   static constexpr unsigned kSharedBit = 0x80;
   static constexpr std::size_t kInlineCapacity = 14;
 
+  static std::uint64_t addressBits(const void* address) noexcept {
+    return reinterpret_cast<std::uintptr_t>(address);
+  }
   Value(Kind kind, std::uint64_t payload) noexcept {
     bytes_[0] = static_cast<unsigned char>(kind);
     setWord(1, payload);
   }
-  Value(Kind kind, const Node* node) noexcept : Value(kind, std::bit_cast<std::uint64_t>(node)) {
+  Value(Kind kind, const Node* node) noexcept : Value(kind, addressBits(node)) {
     bytes_[0] |= kSharedBit;
   }
   /// The contents of a value without a counted reference; used where a tree is built.
@@ -198,7 +201,7 @@ class Value {
   }
   Bits bits() const noexcept { return {{word(0), word(1)}}; }
   static Bits sharedBits(Kind kind, const Node* node) noexcept {
-    return {{static_cast<std::uint64_t>(kind) | kSharedBit, std::bit_cast<std::uint64_t>(node)}};
+    return {{static_cast<std::uint64_t>(kind) | kSharedBit, addressBits(node)}};
   }
   /// A string of at most kInlineCapacity bytes. Two loads that overlap replace a memcpy of variable
   /// length, which would be a call.
@@ -235,7 +238,11 @@ class Value {
     return word(0) == other.word(0) && word(1) == other.word(1);
   }
   bool isShared() const noexcept { return (bytes_[0] & kSharedBit) != 0 && word(1) != 0; }
-  const Node* node() const noexcept { return std::bit_cast<const Node*>(word(1)); }
+  template <class T>
+  const T* pointerAs() const noexcept {
+    return reinterpret_cast<const T*>(static_cast<std::uintptr_t>(word(1)));
+  }
+  const Node* node() const noexcept { return pointerAs<Node>(); }
   /// Becomes nil without releasing the reference.
   void forget() noexcept { std::memset(bytes_, 0, sizeof bytes_); }
   void releaseNode() const noexcept;
@@ -248,7 +255,7 @@ class Value {
   /// The second word as an Array, Dictionary or Url, each of which is one pointer to its node.
   template <class T>
   const T* payloadAs() const noexcept {
-    static_assert(sizeof(T) == 8);
+    static_assert(sizeof(T) == sizeof(void*));
     return std::launder(reinterpret_cast<const T*>(bytes_ + 8));
   }
 

@@ -1,12 +1,14 @@
 #include "orvanta/Model/Identity/OrvantaIdentifiers.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace orvanta {
 
 ORVANTA_IMPLEMENTATION(OrvantaIdentifiers)
-static_assert(std::ranges::all_of(kOrvantaIdentifiersTables.properties,
-                                  [](const Property& p) { return p.isStored() && !p.isScalar(); }));
+static_assert(std::all_of(std::begin(kOrvantaIdentifiersTables.properties),
+                          std::end(kOrvantaIdentifiersTables.properties),
+                          [](const Property& p) { return p.isStored() && !p.isScalar(); }));
 
 void OrvantaIdentifiers::removePropertiesSameWithIdentifiers(const OrvantaIdentifiers* other) {
   if (other == nullptr) return;
