@@ -2,12 +2,14 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <concepts>
 #include <cstring>
 
 #include "orvanta/Foundation/Array.h"
 #include "orvanta/Foundation/Dictionary.h"
 #include "orvanta/Foundation/JSON.h"
 #include "orvanta/Foundation/Number.h"
+#include "orvanta/Foundation/RealText.h"
 #include "orvanta/Foundation/internal/TextScan.h"
 
 namespace orvanta {
@@ -30,7 +32,7 @@ class JSONWriter {
 
  private:
   static constexpr std::size_t kPunctuation = 16;
-  static constexpr std::size_t kMaxNumber = 32;
+  static constexpr std::size_t kMaxNumber = kMaxRealText;  // an integer is shorter
   static constexpr std::size_t kMaxPart = 512;  // bytes of a string that are written at a time
 
   char* flush(char* to) {
@@ -59,9 +61,9 @@ class JSONWriter {
       case Kind::boolean:
         return append(room(to, 5), value.number()->boolValue() ? "true" : "false");
       case Kind::integer:
-        return writeNumber(value.number()->longLongValue(), to);
+        return writeInteger(value.number()->longLongValue(), to);
       case Kind::unsignedInteger:
-        return writeNumber(value.number()->unsignedLongLongValue(), to);
+        return writeInteger(value.number()->unsignedLongLongValue(), to);
       case Kind::real:
       case Kind::real32:
         return writeReal(value.number()->doubleValue(), to);
@@ -113,8 +115,7 @@ class JSONWriter {
     return to;
   }
 
-  template <class T>
-  char* writeNumber(T number, char* to) {
+  char* writeInteger(std::integral auto number, char* to) {
     to = room(to, kMaxNumber);
     return std::to_chars(to, to + kMaxNumber, number).ptr;
   }
@@ -122,16 +123,16 @@ class JSONWriter {
   char* writeReal(double number, char* to) {
     if (!std::isfinite(number)) return nullptr;
     if (number == 0.0 && std::signbit(number)) return append(room(to, 4), "-0.0");
-    // An amount that is not set is kUnsetInteger as a double; to_chars would take longer for it.
+    // An amount that is not set is kUnsetInteger as a double; printReal would take longer for it.
     constexpr double kUnset = 0x1p63;
     if (number == kUnset) return append(room(to, 19), "9223372036854775808");
     to = room(to, kMaxNumber);
     char* const end = writeAmount(number, to);
-    return end != nullptr ? end : writeNumber(number, to);
+    return end != nullptr ? end : printReal(number, to);
   }
 
   /// Writes most amounts of money and times: numbers below 10^12 with at most three decimals. The
-  /// output is that of writeNumber, the shortest that parses to the same double, because such a
+  /// output is that of printReal, the shortest that parses to the same double, because such a
   /// number has at most 15 digits and no other number of 15 digits is the same double. Returns
   /// nullptr for every other number, including whole ones with five zeros at the end, which are
   /// shorter with an exponent.
@@ -141,7 +142,7 @@ class JSONWriter {
     // NOLINTNEXTLINE(bugprone-incorrect-roundings): the next line finds a wrong rounding
     const auto thousandths = static_cast<std::int64_t>(number * 1000 + 0.5);
     if (static_cast<double>(thousandths) / 1000 != number) return nullptr;
-    const auto whole = static_cast<std::uint64_t>(thousandths) / 1000;
+    const std::uint64_t whole = static_cast<std::uint64_t>(thousandths) / 1000;
     const auto rest = static_cast<unsigned>(thousandths % 1000);
     if (rest == 0 && whole != 0 && whole % 100'000 == 0) return nullptr;
     to = std::to_chars(to, to + kMaxNumber, whole).ptr;

@@ -1,11 +1,11 @@
 #include "orvanta/Foundation/Number.h"
 
-#include <charconv>
 #include <cmath>
 #include <functional>
 #include <limits>
 
 #include "orvanta/Foundation/Exception.h"
+#include "orvanta/Foundation/RealText.h"
 #include "orvanta/Foundation/internal/BitCast.h"
 
 namespace orvanta {
@@ -116,9 +116,7 @@ double realReading(std::string_view string) noexcept {
   const DecimalPrefix prefix = decimalPrefix(string);
   if (prefix.text.empty()) return 0.0;
   double value = 0.0;
-  const auto result =
-      std::from_chars(prefix.text.data(), prefix.text.data() + prefix.text.size(), value);
-  if (result.ec == std::errc::result_out_of_range) {
+  if (!parseReal(prefix.text, value)) {
     value = prefix.magnitude > 0 ? std::numeric_limits<double>::infinity() : 0.0;
   }
   return negative ? -value : value;
@@ -173,12 +171,8 @@ float Number::floatValue() const noexcept {
 }
 
 std::string Number::description() const {
-  char text[40];
   const auto significant = [&](int digits) -> std::string {
-    if (std::isnan(doubleValue())) return "nan";  // without the sign that to_chars prints for some
-    const auto end =
-        std::to_chars(text, text + sizeof text, doubleValue(), std::chars_format::general, digits);
-    return {text, end.ptr};
+    return std::isnan(doubleValue()) ? "nan" : realWithDigits(doubleValue(), digits);  // no "-nan"
   };
   switch (kind_) {
     case Kind::real:

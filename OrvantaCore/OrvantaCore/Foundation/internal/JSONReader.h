@@ -10,6 +10,7 @@
 
 #include "orvanta/Foundation/JSON.h"
 #include "orvanta/Foundation/Number.h"
+#include "orvanta/Foundation/RealText.h"
 #include "orvanta/Foundation/internal/TextScan.h"
 #include "orvanta/Foundation/internal/UTF8.h"
 
@@ -242,9 +243,9 @@ bool JSONReader<Client>::readNumber() {
 template <class Client>
 bool JSONReader<Client>::readReal(const char* first) {
   double value = 0.0;
-  const auto result = std::from_chars(first, at_, value);
-  if (result.ec == std::errc::result_out_of_range) {
-    value = realReading({first, static_cast<std::size_t>(at_ - first)});  // 0 if too small
+  const std::string_view text(first, static_cast<std::size_t>(at_ - first));
+  if (!parseReal(text, value)) {
+    value = realReading(text);  // 0 if too small
     if (std::isinf(value)) return fail("a number beyond the range of a double", first);
   }
   client_.real(value, offset(first));

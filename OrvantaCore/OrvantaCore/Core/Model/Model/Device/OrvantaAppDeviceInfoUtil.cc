@@ -1,12 +1,12 @@
 #include "orvanta/Model/Device/OrvantaAppDeviceInfoUtil.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstring>
 #include <limits>
 
 #include "orvanta/Foundation/Description.h"
+#include "orvanta/Foundation/RealText.h"
 #include "orvanta/Model/Mapping/OrvantaLogger.h"
 #include "orvanta/Platform/NSBundle.h"
 #include "orvanta/Platform/NSFileManager.h"
@@ -63,15 +63,6 @@ std::uint64_t mebibytes(std::uint64_t bytes) {
 std::int32_t truncated(double number) {
   constexpr double kMax = std::numeric_limits<std::int32_t>::max();
   return std::isnan(number) ? 0 : static_cast<std::int32_t>(std::clamp(number, -kMax, kMax));
-}
-
-/// Formats like "%g" in the C locale.
-std::string shortDecimal(double number) {
-  constexpr int kSignificantDigits = 6;
-  char buffer[32];
-  const auto end = std::to_chars(std::begin(buffer), std::end(buffer), number,
-                                 std::chars_format::general, kSignificantDigits);
-  return {buffer, end.ptr};
 }
 
 FileSystems::Attributes homeFileSystem() {
@@ -151,9 +142,11 @@ PropertyValue<String> OrvantaAppDeviceInfoUtil::architecture() {
 PropertyValue<String> OrvantaAppDeviceInfoUtil::resolution() {
   UIScreen* const screen = Platform::current().mainScreen();
   if (screen == nullptr) return nullptr;
+  constexpr int kPixelDigits = 6;
   const CGSize points = screen->boundsSize();
   const double scale = screen->scale();
-  return shortDecimal(points.width * scale) + "x" + shortDecimal(points.height * scale);
+  return realWithDigits(points.width * scale, kPixelDigits) + "x" +
+         realWithDigits(points.height * scale, kPixelDigits);
 }
 
 PropertyValue<String> OrvantaAppDeviceInfoUtil::density() {
