@@ -8,6 +8,10 @@ test_packages=(libgtest-dev libbenchmark-dev libcpp-httplib-dev)
 # shellcheck disable=SC2034
 check_packages=(git python3 clang clang-format clang-tidy libclang-rt-14-dev valgrind)
 # shellcheck disable=SC2034
+libcxx_packages=(clang-19 libc++-19-dev libc++abi-19-dev googletest)
+# shellcheck disable=SC2034
+wasm32_packages=(emscripten nodejs)
+# shellcheck disable=SC2034
 bench_packages=(libsimdjson-dev rapidjson-dev nlohmann-json3-dev)
 
 # ensure_packages PACKAGE...: silent, and no apt call, when every package is installed.
