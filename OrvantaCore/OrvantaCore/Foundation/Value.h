@@ -240,7 +240,7 @@ class Value {
   bool isShared() const noexcept { return (bytes_[0] & kSharedBit) != 0 && word(1) != 0; }
   template <class T>
   const T* pointerAs() const noexcept {
-    return reinterpret_cast<const T*>(static_cast<std::uintptr_t>(word(1)));
+    return bitCast<const T*>(static_cast<std::uintptr_t>(word(1)));
   }
   const Node* node() const noexcept { return pointerAs<Node>(); }
   /// Becomes nil without releasing the reference.
