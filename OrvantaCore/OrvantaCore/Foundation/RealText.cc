@@ -145,7 +145,7 @@ char* printReal(double number, char* to) noexcept {
   // A whole number has all its digits, not only those that tell it from its neighbors.
   if (exponent >= count - 1) return to + std::snprintf(to, kMaxRealText - 1, "%.0f", number);
   if (exponent >= 0) {
-    const auto whole = static_cast<std::size_t>(exponent + 1);
+    const std::size_t whole = static_cast<std::size_t>(exponent) + 1;
     return append(append(append(to, digits.substr(0, whole)), "."), digits.substr(whole));
   }
   return append(std::fill_n(append(to, "0."), -exponent - 1, '0'), digits);

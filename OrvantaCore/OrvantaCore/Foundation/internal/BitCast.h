@@ -10,7 +10,7 @@ template <class To, class From>
 requires(sizeof(To) == sizeof(From) && std::is_trivially_copyable_v<From>) inline To
     bitCast(const From& from) noexcept {
   To to;
-  std::memcpy(&to, &from, sizeof to);
+  std::memcpy(&to, &from, sizeof(From));
   return to;
 }
 
