@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "orvanta/Model/Mapping/RefusalRecorder.h"
 #include "support/LogLevel.h"
 #include "support/ModelHelpers.h"
